@@ -1,0 +1,10 @@
+# How our own code is compiled: warnings, and sanitizers where asked for.
+add_library(project_options INTERFACE)
+target_compile_options(project_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
+  $<$<BOOL:${SDKDEBUGDIALOG_WERROR}>:-Werror>)
+if(SDKDEBUGDIALOG_SANITIZE)
+  target_compile_options(project_options INTERFACE
+    -fsanitize=${SDKDEBUGDIALOG_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(project_options INTERFACE -fsanitize=${SDKDEBUGDIALOG_SANITIZE})
+endif()

@@ -1,0 +1,29 @@
+#pragma once
+
+// The settings of the download cable.
+
+#include <cstdint>
+#include <string>
+
+#include "SdkDebugDialog/Engine.h"
+#include "SdkDebugDialog/Export.h"
+
+namespace SdkDebugDialog {
+
+// Plain data; the engine owns one (EngineImp::cable). Copies are independent.
+struct SDKDEBUGDIALOG_API CableOption {
+  Engine::CableType type = Engine::CABLE_NONE;
+  std::uint32_t frequency = 0;  // Hz; 0 counts as not set
+  std::string port;             // such as "LPT1" or "USB21"
+  std::string esn;              // electronic serial number that selects one cable
+  std::string fname;            // output file of an SVF-file cable; read, never written
+  std::string modulename;       // module of a plug-in cable
+  std::string modulearg;        // its arguments, joined by ";"
+  std::string url;              // read, never written
+
+  // Makes this a cable of type t with the frequency and port that the type defaults to; all other texts are
+  // emptied.
+  void CableOptionInit(Engine::CableType t);
+};
+
+}  // namespace SdkDebugDialog
