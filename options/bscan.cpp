@@ -1,0 +1,32 @@
+// The "-bscan" option: the JTAG user register of the debug module.
+
+#include "SdkDebugDialog/EngineImp.h"
+#include "options/QvtOption_Parser.h"
+#include "options/groups.h"
+#include "options/keyword.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+constexpr Word kRegisters[] = {{"USER1", 2}, {"USER2", 3}, {"USER3", 34}, {"USER4", 35}};
+constexpr const Word& kWritten = kRegisters[0];  // the only one that is written
+
+}  // namespace
+
+int read_bscan(TokenCursor& in, std::string_view /*option*/, EngineImp& imp) {
+  std::string_view word;
+  const Word* const bscan = in.next(word) == kEnd ? nullptr : find_row(kRegisters, word);
+  if (bscan == nullptr) return kError;
+  imp.currentProcessor->bscanPort = bscan->value;
+  return kValue;
+}
+
+int QvtOption_Parser::parse_odmbscan(std::string& text, EngineImp& imp) {
+  return read_front(text, [&](TokenCursor& in) { return read_bscan(in, "-bscan", imp); });
+}
+
+void write_bscan(std::string& out, const EngineImp& imp) {
+  if (imp.currentProcessor->bscanPort == kWritten.value) out.append(" -bscan ").append(kWritten.name);
+}
+
+}  // namespace SdkDebugDialog

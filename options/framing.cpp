@@ -1,0 +1,112 @@
+// The frame of a connect command: its head, its target, and which reader and writer each selects.
+
+#include <string>
+
+#include "SdkDebugDialog/Engine.h"
+#include "SdkDebugDialog/EngineImp.h"
+#include "SdkDebugDialog/ProcessorInfo.h"
+#include "model/processor_kind.h"
+#include "options/QvtOption_Parser.h"
+#include "options/groups.h"
+#include "options/keyword.h"
+#include "options/option_file.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+// An option file takes fewer heads and targets than a command.
+enum class Source { file, command };
+
+struct Head {
+  std::string_view name;
+  bool virtualPlatform;
+  bool inFile;
+};
+
+constexpr Head kHeads[] = {
+    {"qconnect", false, false},
+    {"qvpconnect", true, false},
+    {"connect", false, true},
+    {"vpconnect", true, true},
+};
+
+struct Target {
+  std::string_view name;
+  int (*read)(TokenCursor& in, EngineImp& imp);
+  bool inFile;
+};
+
+constexpr Target kTargets[] = {
+    {"ov", read_ov_target, true},    {"ppc", read_ppc_target, true},    {"arm", read_arm_target, true},
+    {"r5", read_r5_target, true},    {"odm", read_odm_target, false},   {"dap", read_dap_target, false},
+    {"dcc", read_dcc_target, false}, {"qmtc", read_qmtc_target, false},
+};
+
+// The row that the next token names; null when it names none that the source takes.
+template <class Row, std::size_t N>
+const Row* next_row(TokenCursor& in, const Row (&rows)[N], Source source) {
+  std::string_view word;
+  if (in.next(word) == kEnd) return nullptr;
+  const Row* const row = find_row(rows, word);
+  return row != nullptr && (row->inFile || source == Source::command) ? row : nullptr;
+}
+
+// Reads the text that the current record's command holds; nothing changes it meanwhile.
+int read_text(EngineImp& imp, Source source) {
+  TokenCursor in(imp.currentProcessor->command);
+  const Head* const head = next_row(in, kHeads, source);
+  if (head == nullptr) return kNotUnderstood;
+  auto read = read_virtual_platform;
+  if (!head->virtualPlatform) {
+    const Target* const target = next_row(in, kTargets, source);
+    if (target == nullptr) return kNotUnderstood;
+    read = target->read;
+  }
+  return read(in, imp) == kError ? kNotUnderstood : kValue;
+}
+
+using TargetWriter = int (*)(std::string& out, EngineImp& imp);
+
+// An ARM processor is written like a PowerPC.
+TargetWriter target_writer(const ProcessorInfoImp& processor) {
+  if (processor.connectionType == Engine::VIRTUAL_PLATFORM) return &QvtOption_Parser::write_vpoptions;
+  if (processor.procFamily == kFamilySoft) return &QvtOption_Parser::write_ovoptions;
+  return &QvtOption_Parser::write_ppcoptions;
+}
+
+// Leaves the text in the current record's command; on failure that stays as it was.
+int write_text(EngineImp& imp) {
+  std::string text = "connect";
+  if (target_writer(*imp.currentProcessor)(text, imp) == kError) return kCannotBeWritten;
+  imp.currentProcessor->command = std::move(text);
+  return kValue;
+}
+
+}  // namespace
+
+int QvtOption_Parser::ReadQvtOptFile(std::string processorName, EngineImp& imp) {
+  std::string line = read_option_line(processorName);
+  if (line.empty()) return kNoOptionFile;
+  imp.currentProcessor->command = std::move(line);
+  return read_text(imp, Source::file);
+}
+
+int QvtOption_Parser::ReadQvtCommand(std::string command, EngineImp& imp) {
+  imp.currentProcessor->command = std::move(command);
+  return read_text(imp, Source::command);
+}
+
+int QvtOption_Parser::WriteQvtCmdString(EngineImp& imp, std::string& command) {
+  const int result = write_text(imp);
+  if (result == kValue) command = imp.currentProcessor->command;
+  return result;
+}
+
+int QvtOption_Parser::WriteQvtOptFile(EngineImp& imp) {
+  if (const int result = write_text(imp); result != kValue) return result;
+  if (write_option_file(imp.currentProcessor->name, imp.currentProcessor->command)) return kValue;
+  imp.engine->SetErrorStr("Error Opening File");
+  return kFileNotWritten;
+}
+
+}  // namespace SdkDebugDialog

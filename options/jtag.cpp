@@ -1,0 +1,99 @@
+// The JTAG chain: the "-configdevice" option, and texts of cable and chain alone.
+
+#include <memory>
+#include <string>
+
+#include "SdkDebugDialog/EngineImp.h"
+#include "SdkDebugDialog/JtagOption.h"
+#include "options/QvtOption_Parser.h"
+#include "options/groups.h"
+#include "options/keyword.h"
+#include "options/option_loop.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+int read_jtagport(const Pair& pair, JtagOption& /*device*/, EngineImp& imp) {
+  imp.cpuJtag = same_word(pair.value, "cpu") ? 1 : 0;
+  return imp.cpuJtag == 1 ? kValue : kError;
+}
+
+int read_hardppc(const Pair& pair, JtagOption& device, EngineImp& /*imp*/) {
+  device.hardppc = same_word(pair.value, "ppc405") ? 1 : 2;
+  return kValue;
+}
+
+using Row = Keyword<JtagOption>;
+
+constexpr Row kKeywords[] = {
+    {.name = "devicenr", .field = &JtagOption::devicenr, .written = always<JtagOption>},
+    {.name = "partname", .field = &JtagOption::partname, .written = always<JtagOption>},
+    {.name = "irlength", .field = &JtagOption::irlength, .written = always<JtagOption>},
+    {.name = "idcode", .field = &JtagOption::idcode, .hex = true, .written = always<JtagOption>},
+    {.name = "jtagport", .read = read_jtagport},
+    {.name = "isfpga", .field = &JtagOption::isfpga},
+    {.name = "hardppc", .read = read_hardppc},
+    {.name = "nppc", .field = &JtagOption::nppc},
+};
+
+constexpr Option kCableAndChain[] = {
+    {.name = "-debugdevice", .group = read_debugdevice},
+    {.name = "-cable", .group = read_cable},
+    {.name = "-configdevice", .group = read_configdevice},
+    {.name = "-bscan", .argument = read_bscan},
+};
+
+}  // namespace
+
+// --- One device ---
+
+int read_configdevice(TokenCursor& in, EngineImp& imp) {
+  auto device = std::make_unique<JtagOption>();
+  const PairsEnd end = read_pairs(in, kKeywords, *device, imp, "UNKNOWN Parameter '%s' for option '-configDevice'");
+  if (end.refused) return kError;
+  // A device whose last key lacks its value joins the chain all the same.
+  imp.jtagChain.push_back(device.get());
+  device.release();  // NOLINT(bugprone-unused-return-value): the chain's holder releases it
+  return end.kind;
+}
+
+int QvtOption_Parser::parse_configdevice(std::string& text, EngineImp& imp) {
+  return read_front(text, [&](TokenCursor& in) { return read_configdevice(in, imp); });
+}
+
+int QvtOption_Parser::write_jtagoptions(std::string& out, EngineImp& imp) {
+  if (const int refused = write_cable_section(out, imp); refused != kValue) return refused;
+  write_bscan(out, imp);
+  // This form is not read back: the reader knows the pair "jtagport cpu".
+  if (imp.cpuJtag == 1) out += " -configdevice jtagpin cpujtag";
+  for (const JtagOption* const device : imp.jtagChain) {
+    out += " -configdevice";
+    write_pairs(out, kKeywords, *device);
+  }
+  return kValue;
+}
+
+int write_chain_and_device(std::string& out, EngineImp& imp) {
+  if (const int refused = QvtOption_Parser::write_jtagoptions(out, imp); refused != kValue) return refused;
+  return QvtOption_Parser::write_debugdeviceoptions(out, imp);
+}
+
+// --- Cable and chain alone ---
+
+int QvtOption_Parser::ReadJtagCableOptions(std::string& text, EngineImp& imp) {
+  return read_front(text, [&](TokenCursor& in) {
+    const int end = read_options(in, imp, kCableAndChain, "UNKNOWN Option '%s'", UnknownName::lastToken);
+    return end == kEnd ? kValue : kNotUnderstood;
+  });
+}
+
+int QvtOption_Parser::WriteJtagCableOptionsString(EngineImp& imp, std::string& out) {
+  if (write_jtagoptions(out, imp) != kValue) return kCannotBeWritten;
+  if (imp.currentProcessor->debugDevice != 0) {
+    out += " -debugdevice deviceNr ";
+    append_decimal(out, imp.currentProcessor->debugDevice);
+  }
+  return kValue;
+}
+
+}  // namespace SdkDebugDialog

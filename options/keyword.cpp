@@ -1,0 +1,12 @@
+#include "options/keyword.h"
+
+#include <boost/algorithm/string/predicate.hpp>
+
+namespace SdkDebugDialog {
+
+bool same_word(std::string_view a, std::string_view b) {
+  // The locale decides on single characters, so words of different lengths are never the same.
+  return a.size() == b.size() && boost::iequals(a, b);
+}
+
+}  // namespace SdkDebugDialog

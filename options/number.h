@@ -1,0 +1,27 @@
+#pragma once
+
+// Numbers in option values.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace SdkDebugDialog {
+
+// The rule of the C library's strtoul with base 0 on 64 bits, whatever the width of long: white space and a sign
+// before the number, "0x" hexadecimal, a leading "0" octal, else decimal; reading stops at the first character that
+// does not fit; nothing that fits is 0, what does not fit into 64 bits is the largest value. Callers cut the result
+// to their field.
+std::uint64_t to_unsigned(std::string_view text);
+
+// The rule of strtol with base 0 on 64 bits.
+std::int64_t to_signed(std::string_view text);
+
+// The rule of strtol with base 10 on 64 bits.
+std::int64_t to_decimal(std::string_view text);
+
+// What printf's "%d" and "0x%x" give.
+void append_decimal(std::string& out, std::int32_t value);
+void append_hex(std::string& out, std::uint32_t value);
+
+}  // namespace SdkDebugDialog

@@ -1,0 +1,18 @@
+#pragma once
+
+// The file in which a processor's connect command is kept: <working directory>/etc/qvt_<processor>.opt.
+
+#include <string>
+
+namespace SdkDebugDialog {
+
+// The first line of the file that is not empty, or its first 1,023 characters. Empty when there is no such line, and
+// when the file is missing, cannot be read, or is no regular file.
+std::string read_option_line(const std::string& processor);
+
+// Makes text the whole content of the file: afterwards the file holds either the text or what it held before, whatever
+// happens meanwhile. A link stays a link and an existing file keeps its mode; a file that may not be written, and
+// anything but a regular file, is refused. False when the file was not written.
+bool write_option_file(const std::string& processor, const std::string& text);
+
+}  // namespace SdkDebugDialog

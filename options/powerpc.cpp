@@ -1,0 +1,59 @@
+// The PowerPC ("ppc").
+
+#include <algorithm>
+#include <string>
+
+#include "SdkDebugDialog/Engine.h"
+#include "SdkDebugDialog/EngineImp.h"
+#include "model/processor_kind.h"
+#include "options/QvtOption_Parser.h"
+#include "options/groups.h"
+#include "options/keyword.h"
+#include "options/target.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+struct Connection {
+  std::string_view name;
+  std::uint32_t type;
+  int (*read)(TokenCursor& in, EngineImp& imp);
+  int (*write)(std::string& out, EngineImp& imp);
+};
+
+constexpr Connection kConnections[] = {
+    {"sim", Engine::SIMULATOR, read_ppcsim, &QvtOption_Parser::write_ppcsim_options},
+    {"hw", Engine::HARDWARE, read_general_options, write_chain_and_device},
+};
+
+}  // namespace
+
+int read_ppc_target(TokenCursor& in, EngineImp& imp) {
+  std::string_view word;
+  const Connection* const connection = in.next(word) == kEnd ? nullptr : find_row(kConnections, word);
+  if (connection == nullptr || !admits(imp, connection->type)) return kError;
+  // The processor is known before its options are read, the connection only after.
+  learn_processor(imp, kFamilyPowerPC, kVariantOtherPowerPC);
+  if (connection->read(in, imp) == kError) return kError;
+  imp.currentProcessor->connectionType = connection->type;
+  learn_connection(imp, connection->type);
+  return kValue;
+}
+
+int QvtOption_Parser::parse_ppcoptions(std::string& text, EngineImp& imp) {
+  return read_front(text, [&](TokenCursor& in) { return read_ppc_target(in, imp); });
+}
+
+int QvtOption_Parser::write_ppcoptions(std::string& out, EngineImp& imp) {
+  out += " ppc";
+  const auto* const connection =
+      std::ranges::find(kConnections, imp.currentProcessor->connectionType, &Connection::type);
+  if (connection == std::end(kConnections)) {
+    imp.engine->SetErrorStr("Invalid Connect Type for PowerPC Target");
+    return kError;
+  }
+  out.append(1, ' ').append(connection->name);
+  return connection->write(out, imp);
+}
+
+}  // namespace SdkDebugDialog

@@ -1,0 +1,66 @@
+// How a software stub is reached: "-comm", "-port", "-baud" and "-timeout".
+
+#include <algorithm>
+#include <string>
+
+#include "SdkDebugDialog/Engine.h"
+#include "SdkDebugDialog/EngineImp.h"
+#include "SdkDebugDialog/ProcessorInfo.h"
+#include "options/QvtOption_Parser.h"
+#include "options/groups.h"
+#include "options/keyword.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+using R = ProcessorInfoImp;
+
+constexpr Word kLinks[] = {{"jtag", Engine::STUB_OVER_JTAG}, {"serial", Engine::STUB_OVER_SERIAL}};
+
+int read_comm(const Pair& pair, R& r, EngineImp& /*imp*/) {
+  const Word* const link = find_row(kLinks, pair.value);
+  if (link == nullptr) return kError;
+  r.stubType = link->value;
+  return kValue;
+}
+
+// The rate has always stood behind two blanks.
+void write_baud(std::string& out, const R& r) {
+  out += ' ';
+  append_decimal(out, r.stubBaudRate);
+}
+
+constexpr Keyword<R> kOptions[] = {
+    {.name = "-comm", .read = read_comm},
+    {.name = "-port", .field = &R::stubSerialPort, .written = always<R>},
+    {.name = "-baud", .field = &R::stubBaudRate, .written = always<R>, .write = write_baud, .gap = "  "},
+    {.name = "-timeout", .field = &R::stubTimeout, .written = always<R>},
+};
+
+}  // namespace
+
+int read_stub_option(TokenCursor& in, std::string_view option, EngineImp& imp) {
+  std::string_view value;
+  if (const int kind = in.next(value); kind != kValue) return kind;
+  const Keyword<R>* const row = find_row(kOptions, option);
+  if (row != nullptr) return read_value(*row, {option, value}, *imp.currentProcessor, imp);
+  // The option stands where the text says parameter, and the value where it says option.
+  set_error(imp, "UNKNOWN Parameter '%s' for  option '%s'", std::string(option).c_str(), std::string(value).c_str());
+  return kError;
+}
+
+int QvtOption_Parser::parse_commoptions(std::string& text, std::string option, EngineImp& imp) {
+  return read_front(text, [&](TokenCursor& in) { return read_stub_option(in, option, imp); });
+}
+
+void write_comm(std::string& out, const EngineImp& imp) {
+  const bool jtag = imp.currentProcessor->stubType == Engine::STUB_OVER_JTAG;
+  out.append(" -comm ").append(kLinks[jtag ? 0 : 1].name);
+}
+
+int QvtOption_Parser::write_commoptions(std::string& out, EngineImp& imp) {
+  write_pairs(out, kOptions, *imp.currentProcessor);
+  return kValue;
+}
+
+}  // namespace SdkDebugDialog
