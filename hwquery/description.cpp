@@ -1,0 +1,145 @@
+// Selects a processor, reads its settings, and completes them from the hardware description.
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "SdkDebugDialog/Engine.h"
+#include "SdkDebugDialog/EngineImp.h"
+#include "SdkDebugDialog/JtagOption.h"
+#include "SdkDebugDialog/ProcessorInfo.h"
+#include "model/error_text.h"
+#include "model/processor_kind.h"
+#include "model/result.h"
+#include "options/QvtOption_Parser.h"
+#include "options/status.h"
+#include "platform/ComMsgMgr.h"
+#include "platform/HHSMHwManager.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+// Takes back a read that failed: nothing of it stays but the text that tells why. The chain's devices came with that
+// read, so nobody else can hold them.
+void forget_failed_read(EngineImp& imp) {
+  for (const JtagOption* const device : imp.jtagChain) delete device;
+  std::string reason = std::move(imp.errorStr);
+  imp.EngineImpInit();
+  imp.errorStr = std::move(reason);
+}
+
+// Selects a listed processor and fills it by read. The text notListed has the name as its %s.
+template <class Read>
+int select_processor(EngineImp& imp, const std::string& name, ProcessorInfo& info, const char* notListed, Read read) {
+  ProcessorInfoImp* const processor = imp.FindProcessor(name);
+  if (processor == nullptr) {
+    set_error(imp, notListed, name.c_str());
+    return kNotApplicable;
+  }
+  imp.currentProcessor = processor;
+  imp.EngineImpInit();
+  const int status = read();
+  if (was_read(status)) {
+    imp.GetFPUType();
+  } else {
+    forget_failed_read(imp);
+  }
+  info = {processor->procVariant, processor->procFamily, processor->allowedConnections};
+  return status;
+}
+
+// Targets that need no processor of the design.
+bool is_bare_target(std::uint32_t connections) {
+  return connections == Engine::ODM_TARGET || connections == Engine::QMTC_TARGET || connections == Engine::DCC_TARGET ||
+         connections == Engine::DAP_TARGET;
+}
+
+}  // namespace
+
+int EngineImp::GetFPUType() {
+  if (currentProcessor == nullptr) return kRefused;
+  currentProcessor->fpuType = kFpuNone;
+  if (currentProcessor->procFamily != kFamilyPowerPC) return kOk;
+  if (hwManager == nullptr) return kNotSet;
+  std::vector<std::string> peripherals;
+  hwManager->getPeripherals(currentProcessor->name, peripherals);
+  for (const std::string& instance : peripherals) {
+    const std::string type = hwManager->getIpName(instance);
+    if (type == "apu_flt") {
+      currentProcessor->fpuType = kFpuSingle;
+      return kOk;
+    }
+    if (type == "apu_flt_varnel5") {
+      const std::string isDouble = hwManager->getParameterValue(instance, "C_DOUBLE_PRECISION");
+      currentProcessor->fpuType = std::strtoll(isDouble.c_str(), nullptr, 0) == 1 ? kFpuDouble : kFpuSingle;
+      return kOk;
+    }
+  }
+  return kNotSet;
+}
+
+int Engine::GetProcessorNr(std::string name) {
+  const ProcessorInfoImp* const processor = imp->FindProcessor(name);
+  if (processor != nullptr) return processor->cpuNr;
+  set_error(*imp, "Processor Instance %s cannot be debugged!!\n", name.c_str());
+  return -1;
+}
+
+int Engine::SetProcessor(std::string name, ProcessorInfo& info) {
+  return select_processor(
+      *imp, name, info,
+      "Processor Instance %s cannot be Debugged !!, Please check \t\t\t\t\tProcessor Connection in your HWS file\n",
+      [&] { return QvtOption_Parser::ReadQvtOptFile(name, *imp); });
+}
+
+int Engine::ParseProcessorInfo(std::string name, ProcessorInfo& info, std::string command) {
+  return select_processor(
+      *imp, name, info,
+      "Processor Instance %s not Found !!, Please check \t\t\t\t\tProcessor Connection in your HWS file\n",
+      [&] { return QvtOption_Parser::ReadQvtCommand(std::move(command), *imp); });
+}
+
+ProcessorInfoImp* EngineImp::GetProcessorInfo(std::string command) {
+  auto processor = std::make_unique<ProcessorInfoImp>();
+  // While the hardware is detached, the command alone tells what the processor is. A lone "-" in it throws: then too
+  // the hardware comes back, and the record, which is gone, is not left selected.
+  struct Detached {
+    explicit Detached(EngineImp& i) : imp(i), hw(std::exchange(i.hwManager, nullptr)) {}
+    ~Detached() {
+      imp.hwManager = hw;
+      if (!succeeded) imp.currentProcessor = nullptr;
+    }
+    Detached(const Detached&) = delete;
+    Detached& operator=(const Detached&) = delete;
+    EngineImp& imp;
+    HHSMHwManager* hw;
+    bool succeeded = false;
+  };
+  {
+    Detached detached(*this);
+    currentProcessor = processor.get();
+    EngineImpInit();
+    if (!was_read(QvtOption_Parser::ReadQvtCommand(std::move(command), *this))) {
+      ComMsgMgr::sendMsg::eval(1, "sdk", 0x20000000U, "%s\n", errorStr.c_str());
+      forget_failed_read(*this);
+      return nullptr;
+    }
+    detached.succeeded = true;
+  }
+  if (!is_bare_target(processor->allowedConnections)) {
+    const auto listed = std::ranges::find_if(processorList, [&](const ProcessorInfoImp* p) {
+      return p->procFamily == processor->procFamily && p->cpuNr == processor->cpuNr;
+    });
+    if (listed != processorList.end()) {
+      processor->name = (*listed)->name;
+      processor->allowedConnections = (*listed)->allowedConnections;
+    }
+    if (hwManager != nullptr && !processor->name.empty()) GetFPUType();
+  }
+  return processor.release();
+}
+
+}  // namespace SdkDebugDialog

@@ -1,0 +1,110 @@
+// Which processors of a design can be debugged, and how.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+#include "SdkDebugDialog/Engine.h"
+#include "SdkDebugDialog/EngineImp.h"
+#include "SdkDebugDialog/ProcessorInfo.h"
+#include "model/processor_kind.h"
+#include "model/result.h"
+#include "platform/HHSMHwManager.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+// One walk over a design. Every kind of processor is numbered from 1 on; numbers wrap at 256.
+class Discovery {
+ public:
+  Discovery(EngineImp& imp, HHSMHwManager& hw) : m_imp(imp), m_hw(hw) {}
+
+  void run() {
+    find_behind_debug_ip();
+    find_soft_without_debug_module();
+    find_cortex_a9();
+  }
+
+ private:
+  void find_behind_debug_ip() {
+    std::vector<std::string> debugIps;
+    m_hw.getIpInstances(debugIps, HW_IP_DEBUG);
+    for (const std::string& debugIp : debugIps) {
+      const std::string type = m_hw.getIpName(debugIp);
+      std::vector<std::string> processors;
+      m_hw.getOdmConnectedProcessorList(processors, debugIp);
+      if (type == "opb_odm" || type == "odm") {
+        for (const std::string& name : processors) add_soft(name, Engine::SIMULATOR | Engine::HARDWARE);
+      } else if (type == "jtag_ppc_bridge") {
+        for (const std::string& name : processors) add_powerpc(name);
+      }
+    }
+  }
+
+  void find_soft_without_debug_module() {
+    std::vector<std::string> names;
+    m_hw.getIpInstances(names, "ovrin", false);
+    if (names.empty()) return;
+    std::unordered_set<std::string_view> listed;
+    for (const ProcessorInfoImp* const processor : m_imp.processorList) listed.insert(processor->name);
+    for (const std::string& name : names) {
+      if (listed.insert(name).second) add_soft(name, Engine::SIMULATOR);
+    }
+  }
+
+  void find_cortex_a9() {
+    std::vector<std::string> names;
+    m_hw.getIpInstances(names, "hc9_cortexa9", false);
+    for (const std::string& name : names) add(name, kFamilyArm, kVariantCortexA9, Engine::HARDWARE, ++m_lastArm);
+  }
+
+  void add_soft(const std::string& name, std::uint32_t connections) {
+    connections |= m_imp.IsStubSerialConnect(name) | m_imp.IsStubJtagConnect(name);
+    add(name, kFamilySoft, kVariantSoft, connections, ++m_lastSoft);
+  }
+
+  void add_powerpc(const std::string& name) {
+    const bool is405 = m_hw.getIpName(name).find("405") != std::string::npos;
+    add(name, kFamilyPowerPC, is405 ? kVariantPpc405 : kVariantPpc440, Engine::SIMULATOR | Engine::HARDWARE,
+        ++m_lastPowerPC);
+  }
+
+  void add(const std::string& name, std::uint32_t family, std::uint32_t variant, std::uint32_t connections,
+           std::uint8_t number) {
+    auto processor = std::make_unique<ProcessorInfoImp>();
+    processor->name = name;
+    processor->procFamily = family;
+    processor->procVariant = variant;
+    processor->allowedConnections = connections;
+    processor->cpuNr = number;
+    m_imp.processorList.push_back(processor.get());
+    processor.release();  // NOLINT(bugprone-unused-return-value): whoever holds the list releases it
+  }
+
+  EngineImp& m_imp;
+  HHSMHwManager& m_hw;
+  std::uint8_t m_lastSoft = 0;
+  std::uint8_t m_lastPowerPC = 0;
+  std::uint8_t m_lastArm = 0;
+};
+
+}  // namespace
+
+int Engine::GetProcessorList(HHSMHwManager* hw, std::vector<std::string>& names) {
+  imp->hwManager = hw;
+  if (hw == nullptr) return kOk;
+  hw->getProcessorInstances(names, false);
+  Discovery(*imp, *hw).run();
+  return kOk;
+}
+
+EngineImp* Engine::GetProcessorList(HHSMHwManager* hw) {
+  std::vector<std::string> names;
+  GetProcessorList(hw, names);
+  return imp;
+}
+
+}  // namespace SdkDebugDialog
