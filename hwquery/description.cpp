@@ -23,7 +23,7 @@ namespace SdkDebugDialog {
 namespace {
 
 // Takes back a read that failed: nothing of it stays but the text that tells why. The chain's devices came with that
-// read, so nobody else can hold them.
+// read and were handed to nobody.
 void forget_failed_read(EngineImp& imp) {
   for (const JtagOption* const device : imp.jtagChain) delete device;
   std::string reason = std::move(imp.errorStr);
@@ -37,7 +37,7 @@ int select_processor(EngineImp& imp, const std::string& name, ProcessorInfo& inf
   ProcessorInfoImp* const processor = imp.FindProcessor(name);
   if (processor == nullptr) {
     set_error(imp, notListed, name.c_str());
-    return kNotApplicable;
+    return kNotListed;
   }
   imp.currentProcessor = processor;
   imp.EngineImpInit();
@@ -49,6 +49,20 @@ int select_processor(EngineImp& imp, const std::string& name, ProcessorInfo& inf
   }
   info = {processor->procVariant, processor->procFamily, processor->allowedConnections};
   return status;
+}
+
+// Reads a command as if no hardware were known, so that the command alone tells what the processor is.
+int read_without_hardware(EngineImp& imp, std::string command) {
+  struct Detached {
+    explicit Detached(EngineImp& i) : imp(i), hw(std::exchange(i.hwManager, nullptr)) {}
+    ~Detached() { imp.hwManager = hw; }
+    Detached(const Detached&) = delete;
+    Detached& operator=(const Detached&) = delete;
+    EngineImp& imp;
+    HHSMHwManager* hw;
+  };
+  const Detached detached(imp);
+  return QvtOption_Parser::ReadQvtCommand(std::move(command), imp);
 }
 
 // Targets that need no processor of the design.
@@ -104,30 +118,27 @@ int Engine::ParseProcessorInfo(std::string name, ProcessorInfo& info, std::strin
 
 ProcessorInfoImp* EngineImp::GetProcessorInfo(std::string command) {
   auto processor = std::make_unique<ProcessorInfoImp>();
-  // While the hardware is detached, the command alone tells what the processor is. A lone "-" in it throws: then too
-  // the hardware comes back, and the record, which is gone, is not left selected.
-  struct Detached {
-    explicit Detached(EngineImp& i) : imp(i), hw(std::exchange(i.hwManager, nullptr)) {}
-    ~Detached() {
-      imp.hwManager = hw;
-      if (!succeeded) imp.currentProcessor = nullptr;
+  // Whatever goes wrong, an exception included, nothing of the read stays and the record, which is gone then, is not
+  // left selected.
+  struct Selection {
+    explicit Selection(EngineImp& i) : imp(i) {}
+    ~Selection() {
+      if (kept) return;
+      forget_failed_read(imp);
+      imp.currentProcessor = nullptr;
     }
-    Detached(const Detached&) = delete;
-    Detached& operator=(const Detached&) = delete;
+    Selection(const Selection&) = delete;
+    Selection& operator=(const Selection&) = delete;
     EngineImp& imp;
-    HHSMHwManager* hw;
-    bool succeeded = false;
+    bool kept = false;
   };
-  {
-    Detached detached(*this);
-    currentProcessor = processor.get();
-    EngineImpInit();
-    if (!was_read(QvtOption_Parser::ReadQvtCommand(std::move(command), *this))) {
-      ComMsgMgr::sendMsg::eval(1, "sdk", 0x20000000U, "%s\n", errorStr.c_str());
-      forget_failed_read(*this);
-      return nullptr;
-    }
-    detached.succeeded = true;
+  currentProcessor = processor.get();
+  EngineImpInit();
+  Selection selection(*this);
+
+  if (!was_read(read_without_hardware(*this, std::move(command)))) {
+    ComMsgMgr::sendMsg::eval(1, "sdk", 0x20000000U, "%s\n", errorStr.c_str());
+    return nullptr;
   }
   if (!is_bare_target(processor->allowedConnections)) {
     const auto listed = std::ranges::find_if(processorList, [&](const ProcessorInfoImp* p) {
@@ -139,6 +150,7 @@ ProcessorInfoImp* EngineImp::GetProcessorInfo(std::string command) {
     }
     if (hwManager != nullptr && !processor->name.empty()) GetFPUType();
   }
+  selection.kept = true;
   return processor.release();
 }
 

@@ -96,7 +96,10 @@ class Discovery {
 int Engine::GetProcessorList(HHSMHwManager* hw, std::vector<std::string>& names) {
   imp->hwManager = hw;
   if (hw == nullptr) return kOk;
-  hw->getProcessorInstances(names, false);
+  // The manager may replace what it is given; the caller's names stay.
+  std::vector<std::string> instances;
+  hw->getProcessorInstances(instances, false);
+  names.insert(names.end(), instances.begin(), instances.end());
   Discovery(*imp, *hw).run();
   return kOk;
 }

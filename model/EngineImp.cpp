@@ -29,7 +29,7 @@ ProcessorInfoImp* EngineImp::FindProcessor(const std::string& name) {
   const auto hit = m_firstByName.find(name);
   if (hit != m_firstByName.end() && processorList[hit->second]->name == name) return processorList[hit->second];
 
-  // A miss, or a list that was changed by hand: the list itself decides.
+  // A miss, or records that took the place of others: the list itself decides.
   const auto found = std::ranges::find(processorList, name, &ProcessorInfoImp::name);
   if (found == processorList.end()) return nullptr;
   m_firstByName.clear();

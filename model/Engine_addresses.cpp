@@ -12,17 +12,10 @@ namespace {
 
 using Address = std::uint32_t ProcessorInfoImp::*;
 
-// The six bases of the debug address map, in the order in which they are laid out.
-constexpr Address kBases[] = {
-    &ProcessorInfoImp::icacheStartAddr, &ProcessorInfoImp::itagStartAddr, &ProcessorInfoImp::dcacheStartAddr,
-    &ProcessorInfoImp::dtagStartAddr,   &ProcessorInfoImp::dcrStartAddr,  &ProcessorInfoImp::tlbStartAddr,
-};
 constexpr std::uint32_t kBlock = 0x10000;
 
-int set_base(EngineImp& imp, Address field, const char* what, std::uint32_t a) {
-  if (imp.currentProcessor == nullptr || !check_base_alignment(imp, what, a)) return kRefused;
-  imp.currentProcessor->*field = a;
-  return kOk;
+int set_base(EngineImp& imp, MapBaseIndex base, std::uint32_t a) {
+  return imp.currentProcessor != nullptr && set_map_base(imp, kMapBases[base], a) ? kOk : kRefused;
 }
 
 int get_address(const ProcessorInfoImp& p, bool applies, Address field, unsigned int& a) {
@@ -39,24 +32,22 @@ int get_map_address(const EngineImp& imp, Address field, unsigned int& a) {
 
 }  // namespace
 
-bool check_base_alignment(EngineImp& imp, const char* what, std::uint32_t address) {
-  if (address % kBlock == 0) return true;
-  set_error(imp, "%s Start Address should be aligned at 64k boundry", what);
-  return false;
+bool set_map_base(EngineImp& imp, const MapBase& base, std::uint32_t address) {
+  if (address % kBlock != 0) {
+    set_error(imp, "%s Start Address should be aligned at 64k boundry", base.what);
+    return false;
+  }
+  imp.currentProcessor->*base.field = address;
+  if (base.map != nullptr) imp.currentProcessor->*base.map = address;
+  return true;
 }
 
-int Engine::SetIcacheBaseAddr(unsigned int a) {
-  const int result = set_base(*imp, &ProcessorInfoImp::icacheStartAddr, "Icache", a);
-  if (result == kOk) imp->currentProcessor->debugAddressMap = a;
-  return result;
-}
-int Engine::SetDcacheBaseAddr(unsigned int a) {
-  return set_base(*imp, &ProcessorInfoImp::dcacheStartAddr, "Dcache", a);
-}
-int Engine::SetITagBaseAddr(unsigned int a) { return set_base(*imp, &ProcessorInfoImp::itagStartAddr, "Itag", a); }
-int Engine::SetDTagBaseAddr(unsigned int a) { return set_base(*imp, &ProcessorInfoImp::dtagStartAddr, "Dtag", a); }
-int Engine::SetTlbBaseAddr(unsigned int a) { return set_base(*imp, &ProcessorInfoImp::tlbStartAddr, "TLB", a); }
-int Engine::SetDcrBaseAddr(unsigned int a) { return set_base(*imp, &ProcessorInfoImp::dcrStartAddr, "DCR", a); }
+int Engine::SetIcacheBaseAddr(unsigned int a) { return set_base(*imp, kIcache, a); }
+int Engine::SetDcacheBaseAddr(unsigned int a) { return set_base(*imp, kDcache, a); }
+int Engine::SetITagBaseAddr(unsigned int a) { return set_base(*imp, kItag, a); }
+int Engine::SetDTagBaseAddr(unsigned int a) { return set_base(*imp, kDtag, a); }
+int Engine::SetTlbBaseAddr(unsigned int a) { return set_base(*imp, kTlb, a); }
+int Engine::SetDcrBaseAddr(unsigned int a) { return set_base(*imp, kDcr, a); }
 
 int Engine::GetDebugAddressMap(unsigned int& a) { return get_map_address(*imp, &ProcessorInfoImp::debugAddressMap, a); }
 int Engine::GetIcacheBaseAddr(unsigned int& a) { return get_map_address(*imp, &ProcessorInfoImp::icacheStartAddr, a); }
@@ -96,14 +87,14 @@ int Engine::UnSetDebugAddressMap() {
 
 int EngineImp::InitPPCDebugAddressMap() {
   if (currentProcessor == nullptr) return kRefused;
-  for (const Address base : kBases) currentProcessor->*base = kAddressNotSet;
+  for (const MapBase& base : kMapBases) currentProcessor->*base.field = kAddressNotSet;
   return kOk;
 }
 
 int EngineImp::AssignAddressMap(unsigned int base) {
   if (currentProcessor == nullptr) return kRefused;
-  for (const Address field : kBases) {
-    if (currentProcessor->*field == kAddressNotSet) currentProcessor->*field = base;
+  for (const MapBase& row : kMapBases) {
+    if (currentProcessor->*row.field == kAddressNotSet) currentProcessor->*row.field = base;
     base += kBlock;
   }
   return kOk;

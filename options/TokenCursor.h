@@ -5,6 +5,8 @@
 
 namespace SdkDebugDialog {
 
+class EngineImp;
+
 // Walks over the tokens of a connect command. Nothing is copied or moved: the text must outlive the cursor, and
 // tokens are views into it.
 //
@@ -46,6 +48,12 @@ int read_front(std::string& text, Reader reader) {
   };
   Front front(text);
   return reader(front.cursor);
+}
+
+// The same for a reader that works on an engine.
+template <auto reader>
+int on_text(std::string& text, EngineImp& imp) {
+  return read_front(text, [&](TokenCursor& in) { return reader(in, imp); });
 }
 
 }  // namespace SdkDebugDialog

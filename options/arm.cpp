@@ -43,15 +43,15 @@ int read_dap_target(TokenCursor& in, EngineImp& imp) {
 }
 
 int QvtOption_Parser::parse_armoptions(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_arm_target(in, imp); });
+  return on_text<read_arm_target>(text, imp);
 }
 
 int QvtOption_Parser::parse_armr5options(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_r5_target(in, imp); });
+  return on_text<read_r5_target>(text, imp);
 }
 
 int QvtOption_Parser::parse_dapoptions(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_dap_target(in, imp); });
+  return on_text<read_dap_target>(text, imp);
 }
 
 }  // namespace SdkDebugDialog

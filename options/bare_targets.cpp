@@ -60,15 +60,15 @@ int read_qmtc_target(TokenCursor& in, EngineImp& imp) {
 }
 
 int QvtOption_Parser::parse_odmoptions(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_odm_target(in, imp); });
+  return on_text<read_odm_target>(text, imp);
 }
 
 int QvtOption_Parser::parse_dccoptions(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_dcc_target(in, imp); });
+  return on_text<read_dcc_target>(text, imp);
 }
 
 int QvtOption_Parser::parse_qmtcoptions(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_qmtc_target(in, imp); });
+  return on_text<read_qmtc_target>(text, imp);
 }
 
 }  // namespace SdkDebugDialog

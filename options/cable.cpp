@@ -1,10 +1,8 @@
 // The "-cable" option.
 
 #include <algorithm>
-#include <boost/algorithm/string/classification.hpp>
-#include <boost/algorithm/string/split.hpp>
+#include <boost/algorithm/string/replace.hpp>
 #include <string>
-#include <vector>
 
 #include "SdkDebugDialog/CableCatalogue.h"
 #include "SdkDebugDialog/CableOption.h"
@@ -67,9 +65,7 @@ int read_modulearg(const Pair& pair, CableOption& cable, EngineImp& /*imp*/) {
 
 // Every argument is written with a keyword of its own, empty ones too; the row writes the first keyword.
 void write_modulearg(std::string& out, const CableOption& cable) {
-  std::vector<std::string> arguments;
-  boost::split(arguments, cable.modulearg, boost::is_any_of(";"));
-  for (std::size_t i = 0; i < arguments.size(); ++i) out.append(i == 0 ? "" : " modulearg ").append(arguments[i]);
+  out += boost::replace_all_copy(cable.modulearg, ";", " modulearg ");
 }
 
 // A cable that its serial number selects is written without port and frequency.
@@ -116,9 +112,7 @@ int read_cable(TokenCursor& in, EngineImp& imp) {
   return end.kind == kEnd ? check_cable(imp, (end.seen & kFrequencySeen) == 0) : end.kind;
 }
 
-int QvtOption_Parser::parse_cable(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_cable(in, imp); });
-}
+int QvtOption_Parser::parse_cable(std::string& text, EngineImp& imp) { return on_text<read_cable>(text, imp); }
 
 int QvtOption_Parser::setcable_frequency(EngineImp& imp, int useDefault) {
   CableOption& cable = *imp.cable;

@@ -5,6 +5,7 @@
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
 #include "SdkDebugDialog/ProcessorInfo.h"
+#include "model/base_address.h"
 #include "model/processor_kind.h"
 #include "options/QvtOption_Parser.h"
 #include "options/groups.h"
@@ -19,7 +20,9 @@ using Row = Keyword<R>;
 // --- Values that are more than a number or a text ---
 
 constexpr Word kProcessorTypes[] = {{"ppc405", kVariantPpc405}, {"ppc440", kVariantPpc440}};
-constexpr Word kFpuTypes[] = {{"sp", kFpuSingle}, {"dp", kFpuDouble}};
+constexpr Word kSingle = {"sp", kFpuSingle};
+constexpr Word kDouble = {"dp", kFpuDouble};
+constexpr Word kFpuTypes[] = {kSingle, kDouble};
 
 // A processor that the hardware description numbered keeps its number; the text may only repeat it. The number is
 // compared as the signed byte that is written.
@@ -51,7 +54,7 @@ int read_fputype(const Pair& pair, R& r, EngineImp& imp) {
   return kValue;
 }
 
-void write_fputype(std::string& out, const R& r) { out += kFpuTypes[r.fpuType == kFpuSingle ? 0 : 1].name; }
+void write_fputype(std::string& out, const R& r) { out += (r.fpuType == kFpuSingle ? kSingle : kDouble).name; }
 
 // --- What is written ---
 
@@ -63,15 +66,23 @@ bool has_romem(const R& r) {
 bool has_isocm(const R& r) { return r.procVariant == kVariantPpc405 && r.isocmStartAddr != kAddressNotSet; }
 bool has_fpu(const R& r) { return r.procFamily == kFamilyPowerPC && r.fpuType != kFpuNone; }
 
-template <std::uint32_t R::*field>
-bool has_base(const R& r) {
-  return r.procFamily == kFamilyPowerPC && r.*field != kAddressNotSet;
+// A misaligned base stays stored, but nothing follows it.
+template <MapBaseIndex base>
+int read_base(const Pair& pair, R& r, EngineImp& imp) {
+  const auto address = static_cast<std::uint32_t>(to_unsigned(pair.value));
+  r.*kMapBases[base].field = address;
+  return set_map_base(imp, kMapBases[base], address) ? kValue : kError;
 }
 
-// A base of the debug address map.
-template <std::uint32_t R::*field>
-constexpr Row base_row(std::string_view name, const char* what, std::uint32_t R::*mirror = nullptr) {
-  return {.name = name, .field = field, .hex = true, .base = what, .mirror = mirror, .written = has_base<field>};
+template <MapBaseIndex base>
+bool has_base(const R& r) {
+  return r.procFamily == kFamilyPowerPC && r.*kMapBases[base].field != kAddressNotSet;
+}
+
+template <MapBaseIndex base>
+constexpr Row base_row(std::string_view name) {
+  return {
+      .name = name, .field = kMapBases[base].field, .hex = true, .read = read_base<base>, .written = has_base<base>};
 }
 
 constexpr Row kKeywords[] = {
@@ -82,12 +93,12 @@ constexpr Row kKeywords[] = {
     {.name = "isocmStartAdr", .field = &R::isocmStartAddr, .hex = true, .written = has_isocm},
     {.name = "isocmSize", .field = &R::isocmSize, .written = has_isocm},
     {.name = "isocmDcrStartAdr", .field = &R::isocmDcrStartAddr, .hex = true, .written = has_isocm, .gap = "  "},
-    base_row<&R::icacheStartAddr>("icacheStartAdr", "Icache", &R::debugAddressMap),
-    base_row<&R::itagStartAddr>("itagStartAdr", "Itag"),
-    base_row<&R::dcacheStartAddr>("dcacheStartAdr", "Dcache"),
-    base_row<&R::dtagStartAddr>("dtagStartAdr", "Dtag"),
-    base_row<&R::tlbStartAddr>("tlbStartAdr", "TLB"),
-    base_row<&R::dcrStartAddr>("dcrStartAdr", "DCR"),
+    base_row<kIcache>("icacheStartAdr"),
+    base_row<kItag>("itagStartAdr"),
+    base_row<kDcache>("dcacheStartAdr"),
+    base_row<kDtag>("dtagStartAdr"),
+    base_row<kTlb>("tlbStartAdr"),
+    base_row<kDcr>("dcrStartAdr"),
     {.name = "fpuType", .read = read_fputype, .written = has_fpu, .write = write_fputype},
     {.name = "proctype", .read = read_proctype},
     {.name = "cpu_version", .field = &R::cpuVersion},
@@ -103,7 +114,7 @@ int read_debugdevice(TokenCursor& in, EngineImp& imp) {
 }
 
 int QvtOption_Parser::parse_debugdevice(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_debugdevice(in, imp); });
+  return on_text<read_debugdevice>(text, imp);
 }
 
 int QvtOption_Parser::write_debugdeviceoptions(std::string& out, EngineImp& imp) {

@@ -35,7 +35,7 @@ int read_general_options(TokenCursor& in, EngineImp& imp) {
 }
 
 int QvtOption_Parser::parse_options(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_general_options(in, imp); });
+  return on_text<read_general_options>(text, imp);
 }
 
 }  // namespace SdkDebugDialog

@@ -58,7 +58,7 @@ int read_configdevice(TokenCursor& in, EngineImp& imp) {
 }
 
 int QvtOption_Parser::parse_configdevice(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_configdevice(in, imp); });
+  return on_text<read_configdevice>(text, imp);
 }
 
 int QvtOption_Parser::write_jtagoptions(std::string& out, EngineImp& imp) {

@@ -11,7 +11,6 @@
 #include <variant>
 
 #include "SdkDebugDialog/EngineImp.h"
-#include "model/base_address.h"
 #include "model/error_text.h"
 #include "options/TokenCursor.h"
 #include "options/number.h"
@@ -77,10 +76,6 @@ struct Keyword {
   bool isSigned = false;  // read the number the signed way
   bool hex = false;       // write the number in hexadecimal
 
-  // For bases of the debug address map: what the text of a misaligned one names.
-  const char* base = nullptr;
-  // For bases: a second field that follows an aligned one.
-  std::uint32_t Record::*mirror = nullptr;
   // Reads the value instead of a plain store into the field: kValue or kError.
   int (*read)(const Pair& pair, Record& record, EngineImp& imp) = nullptr;
 
@@ -112,11 +107,6 @@ template <class Record>
 int read_value(const Keyword<Record>& row, const Pair& pair, Record& record, EngineImp& imp) {
   if (row.read != nullptr) return row.read(pair, record, imp);
   store_value(row, pair.value, record);
-  if (row.base == nullptr) return kValue;
-  // The misaligned base stays stored.
-  const std::uint32_t address = record.*std::get<std::uint32_t Record::*>(row.field);
-  if (!check_base_alignment(imp, row.base, address)) return kError;
-  if (row.mirror != nullptr) record.*row.mirror = address;
   return kValue;
 }
 

@@ -33,7 +33,7 @@ int read_modelsim(TokenCursor& in, EngineImp& imp) {
 }
 
 int QvtOption_Parser::parse_modelsim_options(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_modelsim(in, imp); });
+  return on_text<read_modelsim>(text, imp);
 }
 
 }  // namespace SdkDebugDialog

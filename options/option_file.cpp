@@ -11,7 +11,6 @@
 #include <cerrno>
 #include <chrono>
 #include <string_view>
-#include <thread>
 #include <utility>
 
 namespace SdkDebugDialog {
@@ -86,16 +85,6 @@ fs::path follow_links(fs::path path) {
   return {};
 }
 
-// Waits a while for the folder to be ours among the writers of option files. Not every file system can tell.
-bool lock_folder(int folder) {
-  const auto giveUp = std::chrono::steady_clock::now() + std::chrono::seconds(5);
-  while (::flock(folder, LOCK_EX | LOCK_NB) != 0) {
-    if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() > giveUp) return false;
-    std::this_thread::sleep_for(std::chrono::milliseconds(5));
-  }
-  return true;
-}
-
 bool write_all(int fd, std::string_view text) {
   while (!text.empty()) {
     const ssize_t count = ::write(fd, text.data(), text.size());
@@ -127,16 +116,29 @@ Before look_at(int folder, const char* name) {
 }
 
 // Fills a new file and sees to it that it is on the disk.
-bool write_new(int folder, const char* name, const Before& before, std::string_view text) {
-  Descriptor file(::openat(folder, name, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
-  if (!file || !write_all(file.get(), text)) return false;
+bool fill(Descriptor& file, const Before& before, std::string_view text) {
+  if (!write_all(file.get(), text)) return false;
   if (before.exists) {
-    // The owner is kept where we may; then the mode, which a new owner would have cut.
-    const bool owned = ::fchown(file.get(), before.status.st_uid, before.status.st_gid) == 0;
+    // Owner and group are kept where we may, if only the group; the mode comes after, for a new owner cuts it.
+    const bool owned = ::fchown(file.get(), before.status.st_uid, before.status.st_gid) == 0 ||
+                       ::fchown(file.get(), static_cast<uid_t>(-1), before.status.st_gid) == 0;
     const mode_t kept = owned ? 07777 : 0777;
     if (::fchmod(file.get(), before.status.st_mode & kept) != 0) return false;
   }
   return ::fsync(file.get()) == 0 && file.close();
+}
+
+// The text goes to a new file that then takes the place of the old one. Whoever has the folder to himself uses a name
+// that all writers share, and clears away what a writer that died has left there; one that finds another at work takes
+// a name of its own. The folder stays locked until it is closed.
+std::string new_file_name(int folder, const std::string& optionFile) {
+  std::string name = ".qvt_new";
+  if (name != optionFile && ::flock(folder, LOCK_EX | LOCK_NB) == 0) {
+    ::unlinkat(folder, name.c_str(), 0);
+    return name;
+  }
+  const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
+  return name + "." + std::to_string(::getpid()) + "." + std::to_string(now);
 }
 
 }  // namespace
@@ -163,17 +165,14 @@ bool write_option_file(const std::string& processor, const std::string& text) {
   const Descriptor folder(::open(path.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (!folder) return false;
 
-  // The text goes to a new file that then takes the place of the old one. All writers share the name of the new
-  // file, so that one that died in between leaves no more than the next one clears away.
-  std::string newName = ".qvt_new";
-  if (!lock_folder(folder.get())) newName += std::to_string(::getpid());
-  ::unlinkat(folder.get(), newName.c_str(), 0);
-
   const std::string name = path.filename().string();
+  const std::string newName = new_file_name(folder.get(), name);
   const Before before = look_at(folder.get(), name.c_str());
   if (!before.replaceable) return false;
-  const bool written = write_new(folder.get(), newName.c_str(), before, text) &&
-                       ::renameat(folder.get(), newName.c_str(), folder.get(), name.c_str()) == 0;
+  Descriptor file(::openat(folder.get(), newName.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
+  if (!file) return false;
+  const bool written =
+      fill(file, before, text) && ::renameat(folder.get(), newName.c_str(), folder.get(), name.c_str()) == 0;
   if (!written) {
     ::unlinkat(folder.get(), newName.c_str(), 0);
     return false;

@@ -11,8 +11,10 @@ namespace SdkDebugDialog {
 std::string read_option_line(const std::string& processor);
 
 // Makes text the whole content of the file: afterwards the file holds either the text or what it held before, whatever
-// happens meanwhile. A link stays a link and an existing file keeps its mode; a file that may not be written, and
-// anything but a regular file, is refused. False when the file was not written.
+// happens meanwhile. To that end a new file takes the old one's place, which needs the right to create files in the
+// folder. A symbolic link stays one, an existing file keeps its mode, and its owner and group where we may set them;
+// further hard links keep the old text. A file that may not be written, and anything but a regular file, is refused.
+// False when the file was not written.
 bool write_option_file(const std::string& processor, const std::string& text);
 
 }  // namespace SdkDebugDialog

@@ -41,7 +41,7 @@ int read_ppc_target(TokenCursor& in, EngineImp& imp) {
 }
 
 int QvtOption_Parser::parse_ppcoptions(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_ppc_target(in, imp); });
+  return on_text<read_ppc_target>(text, imp);
 }
 
 int QvtOption_Parser::write_ppcoptions(std::string& out, EngineImp& imp) {

@@ -11,6 +11,8 @@
 namespace SdkDebugDialog {
 namespace {
 
+constexpr std::string_view kIcf = "-icf";
+constexpr std::string_view kIpcport = "-ipcport";
 constexpr std::uint32_t kDefaultPort = 6470;
 
 // Both arguments are the next token of whatever kind; at the end of the text nothing is stored.
@@ -30,8 +32,8 @@ int read_ipcport(TokenCursor& in, std::string_view /*option*/, EngineImp& imp) {
 }
 
 constexpr Option kOptions[] = {
-    {.name = "-icf", .argument = read_icf},
-    {.name = "-ipcport", .argument = read_ipcport},
+    {.name = kIcf, .argument = read_icf},
+    {.name = kIpcport, .argument = read_ipcport},
     {.name = "-debugdevice", .group = read_debugdevice},  // never written here
 };
 
@@ -43,16 +45,16 @@ int read_ppcsim(TokenCursor& in, EngineImp& imp) {
 }
 
 int QvtOption_Parser::parse_ppcsim_options(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_ppcsim(in, imp); });
+  return on_text<read_ppcsim>(text, imp);
 }
 
 // A configuration file has precedence over the port.
 int QvtOption_Parser::write_ppcsim_options(std::string& out, EngineImp& imp) {
   const ProcessorInfoImp& processor = *imp.currentProcessor;
   if (!processor.simConfigFile.empty()) {
-    out.append(1, ' ').append(kOptions[0].name).append(1, ' ').append(processor.simConfigFile);
+    out.append(1, ' ').append(kIcf).append(1, ' ').append(processor.simConfigFile);
   } else if (!processor.simHost.empty()) {
-    out.append(1, ' ').append(kOptions[1].name).append(1, ' ').append(processor.simHost).append(1, ':');
+    out.append(1, ' ').append(kIpcport).append(1, ' ').append(processor.simHost).append(1, ':');
     append_decimal(out, static_cast<std::int32_t>(processor.simPort));
   }
   return kValue;

@@ -47,9 +47,7 @@ int read_ov_target(TokenCursor& in, EngineImp& imp) {
   return kValue;
 }
 
-int QvtOption_Parser::parse_ovoptions(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_ov_target(in, imp); });
-}
+int QvtOption_Parser::parse_ovoptions(std::string& text, EngineImp& imp) { return on_text<read_ov_target>(text, imp); }
 
 int QvtOption_Parser::write_ovoptions(std::string& out, EngineImp& imp) {
   const ProcessorInfoImp& processor = *imp.currentProcessor;
@@ -96,9 +94,7 @@ int read_pfsl(TokenCursor& in, EngineImp& imp) {
   return read_pairs(in, kPfslKeywords, nothing, imp, "UNKNOWN Parameter '%s' for  option '-pfsl'").kind;
 }
 
-int QvtOption_Parser::parse_ovfsloptions(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_pfsl(in, imp); });
-}
+int QvtOption_Parser::parse_ovfsloptions(std::string& text, EngineImp& imp) { return on_text<read_pfsl>(text, imp); }
 
 int QvtOption_Parser::write_ovfsloptions(std::string& /*out*/, EngineImp& /*imp*/) { return kValue; }
 

@@ -15,7 +15,9 @@ namespace {
 
 using R = ProcessorInfoImp;
 
-constexpr Word kLinks[] = {{"jtag", Engine::STUB_OVER_JTAG}, {"serial", Engine::STUB_OVER_SERIAL}};
+constexpr Word kJtag = {"jtag", Engine::STUB_OVER_JTAG};
+constexpr Word kSerial = {"serial", Engine::STUB_OVER_SERIAL};
+constexpr Word kLinks[] = {kJtag, kSerial};
 
 int read_comm(const Pair& pair, R& r, EngineImp& /*imp*/) {
   const Word* const link = find_row(kLinks, pair.value);
@@ -55,7 +57,7 @@ int QvtOption_Parser::parse_commoptions(std::string& text, std::string option, E
 
 void write_comm(std::string& out, const EngineImp& imp) {
   const bool jtag = imp.currentProcessor->stubType == Engine::STUB_OVER_JTAG;
-  out.append(" -comm ").append(kLinks[jtag ? 0 : 1].name);
+  out.append(" -comm ").append((jtag ? kJtag : kSerial).name);
 }
 
 int QvtOption_Parser::write_commoptions(std::string& out, EngineImp& imp) {

@@ -14,6 +14,8 @@
 namespace SdkDebugDialog {
 namespace {
 
+constexpr std::string_view kConfig = "-config";
+constexpr std::string_view kIpcport = "-ipcport";
 constexpr std::uint32_t kDefaultPort = 2340;
 constexpr std::string_view kTarget = "ov";  // the only one
 constexpr std::string_view kCycleApproximate = "cycle_approximate";
@@ -35,8 +37,8 @@ int read_ipcport(TokenCursor& in, std::string_view /*option*/, EngineImp& imp) {
 }
 
 constexpr Option kOptions[] = {
-    {.name = "-config", .argument = read_config},
-    {.name = "-ipcport", .argument = read_ipcport},
+    {.name = kConfig, .argument = read_config},
+    {.name = kIpcport, .argument = read_ipcport},
 };
 
 }  // namespace
@@ -53,7 +55,7 @@ int read_virtual_platform(TokenCursor& in, EngineImp& imp) {
 }
 
 int QvtOption_Parser::parse_vpoptions(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_virtual_platform(in, imp); });
+  return on_text<read_virtual_platform>(text, imp);
 }
 
 int QvtOption_Parser::write_vpoptions(std::string& out, EngineImp& imp) {
@@ -62,11 +64,11 @@ int QvtOption_Parser::write_vpoptions(std::string& out, EngineImp& imp) {
   if (processor.procFamily != kFamilySoft) return kError;
   out.append(1, ' ').append(kTarget);
   if (processor.vpConfigured != 0) {
-    out.append(1, ' ').append(kOptions[0].name);
+    out.append(1, ' ').append(kConfig);
     if (processor.vpCycleApproximate != 0) out.append(1, ' ').append(kCycleApproximate);
   } else if (!processor.simHost.empty()) {
     // Option, host and port are written without anything between them; such a text is not read back.
-    out.append(1, ' ').append(kOptions[1].name).append(processor.simHost);
+    out.append(1, ' ').append(kIpcport).append(processor.simHost);
     append_decimal(out, static_cast<std::int32_t>(processor.simPort));
   }
   return kValue;

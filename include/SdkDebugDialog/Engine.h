@@ -28,10 +28,11 @@ struct ProcessorInfo;
 // that it stores, and stores none otherwise. Without a selected processor every operation that works on one
 // returns 1 and touches nothing.
 //
-// "No cable in use" below means: the connection is the simulator, the stub is a serial one, or the connection is
-// the virtual platform.
+// "No cable in use" below means: the connection is the simulator, the stub type is STUB_OVER_SERIAL (whatever the
+// connection), or the connection is the virtual platform.
 //
-// One engine is used from one thread at a time, and no two engines may read option text at the same time.
+// One engine is used from one thread at a time, and no two threads may read option text at the same time, be it with
+// two engines or with the static operations.
 class SDKDEBUGDIALOG_API Engine {
  public:
   // Ways to connect; single bits, so that ProcessorInfo::allowedConnections holds a set of them.
@@ -95,7 +96,7 @@ class SDKDEBUGDIALOG_API Engine {
   // appends: one discovery per engine is what is meant. Always 0.
   int GetProcessorList(HHSMHwManager* hw, std::vector<std::string>& names);
 
-  // The same without the names. Returns the engine's state as an opaque handle; never null.
+  // The same without the names. Returns imp; null would mean that discovery failed, which it does not.
   EngineImp* GetProcessorList(HHSMHwManager* hw);
 
   // The number (0 to 255) of the processor on its debug link, or -1 with "Processor Instance %s cannot be
@@ -103,7 +104,8 @@ class SDKDEBUGDIALOG_API Engine {
   int GetProcessorNr(std::string name);
 
   // Selects a listed processor, resets the settings, reads its option file (<working directory>/etc/qvt_<name>.opt)
-  // and takes the FPU from the hardware description; then fills info. Names are compared byte for byte.
+  // and takes the FPU from the hardware description, whatever the file says; then fills info. Names are compared byte
+  // for byte.
   //   0  read
   //   4  no option file, or nothing in it: the settings are the defaults
   //   3  the file's command is not understood: the settings are the defaults, the error text tells why if
@@ -115,7 +117,8 @@ class SDKDEBUGDIALOG_API Engine {
 
   // The same with the settings taken from a connect command. Results 0, 3 and 2 as above; the text for an unlisted
   // processor is "Processor Instance %s not Found !!, Please check \t\t\t\t\tProcessor Connection in your HWS
-  // file\n".
+  // file\n". The targets odm, dcc, qmtc and dap replace the processor's allowedConnections, and dcc and dap its family
+  // and variant; this outlasts a reset and, but for dap, a failed read.
   int ParseProcessorInfo(std::string name, ProcessorInfo& info, std::string command);
 
   // --- Connection ---
@@ -127,14 +130,15 @@ class SDKDEBUGDIALOG_API Engine {
 
   // --- Software stub ---
 
-  // Selects how the stub is reached. A serial stub needs STUB_UART_PRESENT in the selected connection, else 1 with
-  // "UART device not present in system"; a JTAG stub needs STUB_JTAG_PRESENT, else 1 with "JTAG device not present
-  // in system". Other values are stored as they are.
+  // Selects how the stub is reached. A serial stub needs STUB_UART_PRESENT in the selected connection (not in what the
+  // processor admits), else 1 with "UART device not present in system"; a JTAG stub needs STUB_JTAG_PRESENT, else 1
+  // with "JTAG device not present in system". Other values are stored as they are. A connection with such a mark cannot
+  // be written: select STUB | STUB_UART_PRESENT, set the stub type, then select STUB.
   int SetStubType(StubType s);
   // 2 unless the selected connection has the STUB bit.
   int GetStubType(StubType& s);
 
-  // The serial device, such as "/dev/ttyS0"; not checked. Always 0.
+  // The serial device, such as "/dev/ttyS0"; not checked.
   int SetStubSerialPort(std::string port);
   int GetStubSerialPort(std::string& port);
 
@@ -194,12 +198,12 @@ class SDKDEBUGDIALOG_API Engine {
   // not set. It is set through the option text alone.
   int GetISOCMBaseAddr(unsigned int& a);
 
-  // Read-only memory: base and size in bytes, not checked; any processor. Always 0.
+  // Read-only memory: base and size in bytes, not checked; any processor.
   int SetROMem(unsigned int start, unsigned int size);
   // 2 unless the connection is hardware; 1 when start is not set.
   int GetROMem(unsigned int& start, unsigned int& size);
 
-  // Marks the debug address map and its six bases as not set.
+  // Marks the debug address map and its six bases as not set; any processor.
   int UnSetDebugAddressMap();
 
   // --- Cable ---
@@ -240,9 +244,11 @@ class SDKDEBUGDIALOG_API Engine {
 
   // --- JTAG chain ---
 
-  // Makes the chain a copy of v; the records are shared, and none is destroyed. Needs no processor. Always 0.
+  // Makes the chain a copy of v; the records are shared, and none is destroyed. With the engine's own chain as v the
+  // chain comes out empty. Needs no processor. Always 0.
   int SetJtagChainOptions(std::vector<JtagOption*>& v);
-  // Copies the chain. 2 for the simulator connection and for a serial stub; 1 when the chain is empty.
+  // Copies the chain. 2 for the simulator connection and for STUB_OVER_SERIAL, even when there are devices; 1 when
+  // the chain is empty.
   int GetJtagChainOptions(std::vector<JtagOption*>& v);
 
   // --- Cable and chain as text ---
@@ -251,8 +257,9 @@ class SDKDEBUGDIALOG_API Engine {
   // -bscan. A lone "-" in a text that is read throws std::out_of_range.
 
   // Reads a text into the live configuration: whatever it sets is applied, even another cable type, and what was
-  // applied before a failure stays. 1 when the text is not understood, and for any but a ZARVEK_PLUGIN cable, then
-  // with "Internal Error: Other Cable Options applies only for ZARVEK_PLUGIN cable type".
+  // applied before a failure stays. 1 when the text is not understood, with the reader's text if it stored one, and for
+  // any but a ZARVEK_PLUGIN cable, with "Internal Error: Other Cable Options applies only for ZARVEK_PLUGIN cable
+  // type".
   int SetPluginCableOptions(std::string text);
   // Answers "-cable type zarvek_plugin" with module and arguments of the live cable. 2 for any but a ZARVEK_PLUGIN
   // cable; 1, with out emptied, when no module is named. Needs no processor.
@@ -280,13 +287,15 @@ class SDKDEBUGDIALOG_API Engine {
 
   // --- The connect command ---
 
-  // Writes the command to the processor's option file, whole or not at all.
+  // Writes the command to the processor's option file, whole or not at all. The folder etc must exist, and files must
+  // be allowed to be created in it.
   //   0  written
-  //   1  the selected connection or cable cannot be written; the error text tells why
-  //   4  "Error Opening File": the file cannot be written
+  //   1  the selected connection or cable cannot be written; "Invalid Connect Type for Ovrin Target", "Invalid Connect
+  //      Type for PowerPC Target", "Invalid Cable Type", or no text for a virtual platform that is no soft processor
+  //   4  "Error Opening File": the file cannot be written; the record's command is the new one all the same
   int Generate();
 
-  // Answers the command. 1 when the selected connection or cable cannot be written (command is untouched).
+  // Answers the command. 1 as above; command is untouched then.
   int GenerateCmdString(std::string& command);
 };
 

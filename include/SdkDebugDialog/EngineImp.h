@@ -25,8 +25,9 @@ class SDKDEBUGDIALOG_API EngineImp {
   // they accept only the kinds that are there.
   HHSMHwManager* hwManager = nullptr;
 
-  // The debuggable processors, in the order of discovery. The records are not owned. Names of listed records do
-  // not change while the list holds them.
+  // The debuggable processors, in the order of discovery. The engine never destroys the records: whoever had it
+  // discover them does, after the last use of the engine. Records may be appended; those in the list keep their place
+  // and their name.
   std::vector<ProcessorInfoImp*> processorList;
 
   // The processor being edited; null until one is selected. Not owned.
@@ -41,7 +42,8 @@ class SDKDEBUGDIALOG_API EngineImp {
   // 1 when the processor is reached through its own JTAG pins.
   std::int32_t cpuJtag = 0;
 
-  // The devices of the JTAG chain, in chain order. The records are not owned.
+  // The devices of the JTAG chain, in chain order. The records are not owned: selecting a processor, a reset and
+  // Engine::SetJtagChainOptions drop the pointers, so that whoever wants to release the records does so before.
   std::vector<JtagOption*> jtagChain;
 
   // Text of the last error.
@@ -69,7 +71,7 @@ class SDKDEBUGDIALOG_API EngineImp {
 
   // Finds the current processor's FPU in the hardware description and stores it in fpuType (0 none, 1 single, 2
   // double precision); the first FPU among the peripherals decides. 0: not a PowerPC, or an FPU was found; 1: a
-  // PowerPC without one, or no current processor.
+  // PowerPC without one, or no hardware known (fpuType is 0 then), or no current processor.
   int GetFPUType();
 
   // Builds a processor record from a connect command alone and selects it. The command is read as if no hardware
@@ -78,9 +80,9 @@ class SDKDEBUGDIALOG_API EngineImp {
   // and dap targets need no processor: their record keeps an empty name.
   //
   // The caller owns the record, which is the engine's current processor as well. Null when the command cannot be
-  // read: the engine's error text tells why and was sent to the message manager, the settings are reset, and
-  // there is no current processor. A lone "-" in the command throws std::out_of_range and leaves the engine
-  // likewise.
+  // read: then the engine's error text, whether or not the reader stored one, was sent to the message manager, the
+  // settings are reset, and there is no current processor. A lone "-" in the command throws std::out_of_range, and
+  // an exception of the hardware description passes through; both leave settings and selection likewise.
   ProcessorInfoImp* GetProcessorInfo(std::string command);
 
   // The class of a memory controller by the name of its IP type, in any case: "BRAM", "EXT_DRAM",

@@ -8,8 +8,9 @@
 namespace SdkDebugDialog {
 
 // Records are created by the option reader, one per device, and belong to whoever takes the chain
-// (Engine::GetJtagChainOptions, Engine::ParseJtagCableInfo). Chains are vectors of plain pointers and may share
-// records; the engine never destroys one.
+// (EngineImp::jtagChain, Engine::GetJtagChainOptions, Engine::ParseJtagCableInfo). Chains are vectors of plain pointers
+// and may share records. The engine destroys none that a caller may hold; those of a read that failed as a whole, which
+// nobody was given, it does.
 struct JtagOption {
   std::string partname = "UNKNOWN";
   std::uint32_t idcode = 0;  // JTAG IDCODE

@@ -22,8 +22,8 @@ struct ProcessorInfo {
 // Everything that the connect command can say about one processor. A fresh record is that of a processor
 // known from a command alone: no name, a soft processor, only the simulator admitted.
 //
-// Records are plain data. The engine points to them and never destroys them; whoever created them (or took
-// them over, see EngineImp::GetProcessorInfo) does.
+// Records are plain data. The engine points to them and never destroys them: the caller does, those that discovery
+// listed (EngineImp::processorList) as well as those that EngineImp::GetProcessorInfo handed over.
 struct SDKDEBUGDIALOG_API ProcessorInfoImp {
   // --- Identity: set when the record is created, kept by ProcessorInfoImpInit ---
 
@@ -31,7 +31,7 @@ struct SDKDEBUGDIALOG_API ProcessorInfoImp {
   std::uint32_t procFamily = 0;          // 0 soft processor, 1 PowerPC, 2 ARM
   std::uint32_t procVariant = 0;         // 0 soft processor, 1 ppc405, 2 ppc440, 4 Cortex-A9, 5 R5, 6 other PowerPC
   std::uint32_t allowedConnections = 1;  // set of Engine::ConnectionType bits that the processor admits
-  std::uint8_t cpuNr = 1;                // number on the debug link; checked, compared and printed as signed
+  std::uint8_t cpuNr = 1;                // number on the debug link; written as a signed number
 
   // --- Settings: what a reset restores is the value given here ---
 
@@ -77,7 +77,7 @@ struct SDKDEBUGDIALOG_API ProcessorInfoImp {
   std::uint8_t uartEnabled = 0;            // flag: the debug module's UART was asked for
   std::uint32_t bscanPort = 3;             // BSCAN user register: 2, 3, 34, 35 for USER1 to USER4
 
-  std::string command;  // connect command last read or written for this processor
+  std::string command;  // connect command last read or last produced for this processor
 
   // Puts every setting back to its default and keeps the identity.
   void ProcessorInfoImpInit();
