@@ -1,0 +1,37 @@
+#include "tool.h"
+
+namespace {
+
+using Cables = Tool;
+
+TEST_F(Cables, AreListedWithTheirDefaultsAndFrequencies) {
+  const Result result = qvtcfg({"cables"});
+  EXPECT_EQ(result.code, 0);
+  EXPECT_EQ(result.err, "");
+  EXPECT_EQ(result.out,
+            "TYPE  NAME                FREQUENCY  PORT   SUPPORTED FREQUENCIES (Hz)\n"
+            "0     none                -          -      -\n"
+            "1     zarvek_svffile      -          -      -\n"
+            "2     zarvek_parallel4    5000000    LPT1   200000 625000 2500000 5000000\n"
+            "3     zarvek_platformusb  6000000    USB21  750000 1500000 3000000 6000000 12000000 24000000\n"
+            "4     zarvek_parallel3    200000     LPT1   200000\n"
+            "5     zarvek_plugin       -          -      -\n"
+            "6     digilent_plugin     -          -      -\n"
+            "7     zarvek_tcf          -          -      -\n");
+}
+
+TEST_F(Cables, AreListedAsJson) {
+  const auto cables = json({"cables"})["cables"];
+  ASSERT_EQ(cables.size(), 8U);
+  EXPECT_EQ(cables[4], nlohmann::json::parse(R"({"type": 4, "name": "zarvek_parallel3", "frequency": 200000,
+                                                 "port": "LPT1", "frequencies": [200000]})"));
+  EXPECT_EQ(cables[7], nlohmann::json::parse(R"({"type": 7, "name": "zarvek_tcf", "frequency": null,
+                                                 "port": null, "frequencies": []})"));
+}
+
+TEST_F(Cables, NeedNoDesign) {
+  std::filesystem::remove(folder() / "design.json");
+  EXPECT_EQ(qvtcfg({"cables"}).code, 0);
+}
+
+}  // namespace

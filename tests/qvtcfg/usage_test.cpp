@@ -1,0 +1,79 @@
+#include "tool.h"
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+using Usage = Tool;
+
+TEST_F(Usage, HelpOfTheProgramListsTheCommandsAndAnExample) {
+  for (const char* flag : {"-h", "--help"}) {
+    const Result result = qvtcfg({flag});
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(result.err, "");
+    for (const char* text : {"processors", "show", "command", "read", "set", "cables", "\nExample:\n  qvtcfg -C "}) {
+      EXPECT_THAT(result.out, HasSubstr(text));
+    }
+  }
+}
+
+TEST_F(Usage, HelpOfEveryCommandShowsAnExample) {
+  for (const char* command : {"processors", "show", "command", "read", "set", "cables"}) {
+    const Result result = qvtcfg({command, "--help"});
+    EXPECT_EQ(result.code, 0) << command;
+    EXPECT_EQ(result.err, "") << command;
+    EXPECT_THAT(result.out, HasSubstr("\nExample:\n  qvtcfg ")) << command;
+  }
+}
+
+TEST_F(Usage, HelpOfSetListsTheKeys) {
+  const std::string help = qvtcfg({"set", "-h"}).out;
+  for (const char* key : {"connection=", "stub=", "stub-port=", "stub-baud=", "debug-device=", "cpu-jtag=on",
+                          "address-map=unset", "icache=", "itag=", "dcache=", "dtag=", "tlb=", "dcr=", "rom=START,SIZE",
+                          "cable=", "frequency=", "port=", "esn="}) {
+    EXPECT_THAT(help, HasSubstr(std::string("\n  ") + key));
+  }
+}
+
+TEST_F(Usage, VersionIsThatOfTheLibrary) {
+  const Result result = qvtcfg({"--version"});
+  EXPECT_EQ(result.code, 0);
+  EXPECT_EQ(result.out, "qvtcfg 1.0.0\n");
+}
+
+TEST_F(Usage, OptionsOfTheProgramMayFollowTheCommand) {
+  EXPECT_THAT(qvtcfg({"cables", "--json"}).out, StartsWith("{"));
+}
+
+TEST_F(Usage, TwoDashesEndTheOptions) {
+  EXPECT_THAT(qvtcfg({"read", "ovrin_0", "--", "-foo"}).err,
+              IsComplaint("the command given: the connect command is not understood; 'qvtcfg command ovrin_0' prints"));
+}
+
+TEST_F(Usage, MistakesAreExplainedInOneLine) {
+  const struct {
+    std::vector<std::string> arguments;
+    const char* why;
+  } kMistakes[] = {
+      {{}, "which command? One of processors, show, command, read, set, cables; see 'qvtcfg --help'"},
+      {{"cabels"}, "unknown command 'cabels' (did you mean 'cables'?); see 'qvtcfg --help'"},
+      {{"--jsn", "cables"}, "unknown option '--jsn'; see 'qvtcfg cables --help'"},
+      {{"cables", "all"}, "unexpected argument 'all'; see 'qvtcfg cables --help'"},
+      {{"show"}, "PROC is required; see 'qvtcfg show --help'"},
+      {{"show", "ovrin_0", "ovrin_1"}, "unexpected argument 'ovrin_1'; see 'qvtcfg show --help'"},
+      {{"show", "ovrin_0", "--write"}, "unknown option '--write'; see 'qvtcfg show --help'"},
+      {{"read", "ovrin_0"}, "TEXT is required; see 'qvtcfg read --help'"},
+      {{"set", "ovrin_0"}, "CHANGE is required; see 'qvtcfg set --help'"},
+      {{"-C"}, "-C: 1 required DIR missing; see 'qvtcfg --help'"},
+      {{"\033]0;x\007"}, "unknown command '\\x1b]0;x\\x07'"},
+  };
+  for (const auto& mistake : kMistakes) {
+    const Result result = qvtcfg(mistake.arguments);
+    EXPECT_EQ(result.code, 2) << mistake.why;
+    EXPECT_EQ(result.out, "") << mistake.why;
+    EXPECT_THAT(result.err, IsComplaint(mistake.why));
+  }
+}
+
+}  // namespace

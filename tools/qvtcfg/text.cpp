@@ -1,0 +1,140 @@
+#include "text.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <numeric>
+
+namespace qvtcfg {
+namespace {
+
+constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
+
+unsigned char byte_at(std::string_view text, std::size_t at) {
+  return at < text.size() ? static_cast<unsigned char>(text[at]) : 0;
+}
+
+bool is_continuation(unsigned char byte) { return (byte & 0xC0U) == 0x80; }
+
+// What may follow a lead byte of UTF-8: how many bytes, and the range of the first of them, which leaves out the
+// second control block, overlong forms and surrogates.
+struct Lead {
+  unsigned char first, last;
+  std::size_t length;
+  unsigned char low, high;
+};
+constexpr Lead kLeads[] = {
+    {0xC2, 0xC2, 2, 0xA0, 0xBF}, {0xC3, 0xDF, 2, 0x80, 0xBF}, {0xE0, 0xE0, 3, 0xA0, 0xBF},
+    {0xE1, 0xEC, 3, 0x80, 0xBF}, {0xED, 0xED, 3, 0x80, 0x9F}, {0xEE, 0xEF, 3, 0x80, 0xBF},
+    {0xF0, 0xF0, 4, 0x90, 0xBF}, {0xF1, 0xF3, 4, 0x80, 0xBF}, {0xF4, 0xF4, 4, 0x80, 0x8F},
+};
+
+// The length in bytes of the printable character that the text begins with; 0 when there is none.
+std::size_t character_length(std::string_view text) {
+  const unsigned char lead = byte_at(text, 0);
+  if (lead < 0x80) return lead >= 0x20 && lead != 0x7F ? 1 : 0;
+  const auto* const row =
+      std::ranges::find_if(kLeads, [&](const Lead& l) { return l.first <= lead && lead <= l.last; });
+  if (row == std::end(kLeads)) return 0;
+  const unsigned char second = byte_at(text, 1);
+  if (second < row->low || second > row->high) return 0;
+  for (std::size_t i = 2; i < row->length; ++i) {
+    if (!is_continuation(byte_at(text, i))) return 0;
+  }
+  return row->length;
+}
+
+// Levenshtein's distance.
+std::size_t distance(std::string_view a, std::string_view b) {
+  std::vector<std::size_t> row(b.size() + 1);
+  std::iota(row.begin(), row.end(), std::size_t{0});
+  for (std::size_t i = 1; i <= a.size(); ++i) {
+    std::size_t diagonal = row[0];
+    row[0] = i;
+    for (std::size_t j = 1; j <= b.size(); ++j) {
+      const std::size_t replaced = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
+      diagonal = row[j];
+      row[j] = std::min({replaced, row[j] + 1, row[j - 1] + 1});
+    }
+  }
+  return row.back();
+}
+
+}  // namespace
+
+std::string visible(std::string_view text) {
+  std::string out;
+  while (!text.empty()) {
+    std::size_t length = character_length(text);
+    if (length > 0) {
+      out += text.substr(0, length);
+    } else {
+      char spelled[5];
+      std::snprintf(spelled, sizeof spelled, "\\x%02x", byte_at(text, 0));
+      out += spelled;
+      length = 1;
+    }
+    text.remove_prefix(length);
+  }
+  return out;
+}
+
+std::string one_line(std::string_view text, std::size_t limit) {
+  std::string out;
+  for (std::size_t at = text.find_first_not_of(kWhiteSpace); at < text.size() && out.size() <= limit;) {
+    const std::size_t end = std::min(text.find_first_of(kWhiteSpace, at), text.size());
+    // A longer piece than the limit is cut anyway; the margin keeps the cut off a character's middle.
+    if (!out.empty()) out += ' ';
+    out += visible(text.substr(at, std::min(end - at, limit + 8)));
+    at = text.find_first_not_of(kWhiteSpace, end);
+  }
+  if (out.size() <= limit) return out;
+  std::size_t cut = limit;
+  while (cut > 0 && is_continuation(byte_at(out, cut))) --cut;
+  return out.substr(0, cut) + "...";
+}
+
+std::optional<std::size_t> first_non_text(std::string_view text) {
+  for (std::size_t at = 0; at < text.size();) {
+    const bool white = kWhiteSpace.find(text[at]) != std::string_view::npos;
+    const std::size_t length = white ? 1 : character_length(text.substr(at));
+    if (length == 0) return at;
+    at += length;
+  }
+  return std::nullopt;
+}
+
+std::vector<std::string> split_words(std::string_view text) {
+  std::vector<std::string> words;
+  for (std::size_t at = text.find_first_not_of(" \t"); at < text.size();) {
+    const std::size_t end = std::min(text.find_first_of(" \t", at), text.size());
+    words.emplace_back(text.substr(at, end - at));
+    at = text.find_first_not_of(" \t", end);
+  }
+  return words;
+}
+
+std::string join(const std::vector<std::string>& items, std::string_view separator) {
+  std::string out;
+  for (const std::string& item : items) {
+    if (!out.empty()) out += separator;
+    out += item;
+  }
+  return out;
+}
+
+std::string suggestion(std::string_view name, const std::vector<std::string>& candidates) {
+  constexpr std::size_t kResembles = 2;  // changed letters
+  constexpr std::size_t kLongestName = 64;
+  if (name.size() > kLongestName) return "";
+  std::size_t best = kResembles + 1;
+  std::string found;
+  for (const std::string& candidate : candidates) {
+    const std::size_t apart = distance(name, candidate);
+    if (apart >= best || apart >= candidate.size()) continue;
+    best = apart;
+    found = candidate;
+  }
+  return found.empty() ? "" : " (did you mean '" + found + "'?)";
+}
+
+}  // namespace qvtcfg
