@@ -1,0 +1,228 @@
+// The state behind the engine: its reset, and finding a processor by name.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "SdkDebugDialog/EngineImp.h"
+#include "model/error_text.h"
+#include "tests/support/DefaultSettings.h"
+#include "tests/support/FakeHardware.h"
+#include "tests/support/SelectedEngine.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+static_assert(std::is_same_v<decltype(EngineImp::hwManager), HHSMHwManager*>);
+static_assert(std::is_same_v<decltype(EngineImp::processorList), std::vector<ProcessorInfoImp*>>);
+static_assert(std::is_same_v<decltype(EngineImp::currentProcessor), ProcessorInfoImp*>);
+static_assert(std::is_same_v<decltype(EngineImp::engine), Engine*>);
+static_assert(std::is_same_v<decltype(EngineImp::cable), CableOption*>);
+static_assert(std::is_same_v<decltype(EngineImp::cpuJtag), std::int32_t>);
+static_assert(std::is_same_v<decltype(EngineImp::jtagChain), std::vector<JtagOption*>>);
+static_assert(std::is_same_v<decltype(EngineImp::errorStr), std::string>);
+static_assert(!std::is_copy_constructible_v<EngineImp> && !std::is_copy_assignable_v<EngineImp>);
+
+// --- Reset ---
+
+TEST(EngineImp, StartsReset) {
+  const EngineImp imp;
+  EXPECT_EQ(imp.hwManager, nullptr);
+  EXPECT_TRUE(imp.processorList.empty());
+  EXPECT_EQ(imp.currentProcessor, nullptr);
+  EXPECT_EQ(imp.engine, nullptr);
+  ASSERT_NE(imp.cable, nullptr);
+  expect_no_link(imp);
+  EXPECT_EQ(imp.errorStr, "");
+}
+
+TEST(EngineImp, ResetTakesBackTheSettings) {
+  JtagOption device;
+  device.partname = "dv3";
+  SelectedEngine s;
+  CableOption* const cable = s.imp.cable;
+  s.processor.name = "ovrin_0";
+  s.processor.procFamily = 1;
+  s.processor.procVariant = 2;
+  s.processor.allowedConnections = 135;
+  s.processor.cpuNr = 9;
+  s.processor.connectionType = 1;
+  s.processor.command = "connect ov sim";
+  s.engine.SetCableType(Engine::ZARVEK_PLATFORMUSB);
+  s.engine.SetCableESN("0001");
+  s.imp.cable->url = "tcp:host";
+  s.engine.SetCpuJtag();
+  s.imp.jtagChain = {&device};
+  s.engine.SetErrorStr("before");
+  s.imp.EngineImpInit();
+  expect_default_settings(s.processor);
+  expect_no_link(s.imp);
+  EXPECT_EQ(s.error(), "");
+  EXPECT_EQ(s.imp.cable, cable);
+  // The identity of the processor and the device survive.
+  EXPECT_EQ(s.processor.name, "ovrin_0");
+  EXPECT_EQ(s.processor.procFamily, 1U);
+  EXPECT_EQ(s.processor.procVariant, 2U);
+  EXPECT_EQ(s.processor.allowedConnections, 135U);
+  EXPECT_EQ(s.processor.cpuNr, 9);
+  EXPECT_EQ(device.partname, "dv3");
+}
+
+TEST(EngineImp, ResetKeepsHardwareListAndSelection) {
+  FakeHardware hw;
+  SelectedEngine s;
+  ProcessorInfoImp other;
+  other.stubBaudRate = 9600;
+  s.imp.hwManager = &hw;
+  s.imp.processorList = {&other, &s.processor};
+  s.imp.EngineImpInit();
+  EXPECT_EQ(s.imp.hwManager, &hw);
+  EXPECT_EQ(s.imp.processorList, (std::vector<ProcessorInfoImp*>{&other, &s.processor}));
+  EXPECT_EQ(s.imp.currentProcessor, &s.processor);
+  EXPECT_EQ(s.imp.engine, &s.engine);
+  EXPECT_EQ(other.stubBaudRate, 9600);
+  EXPECT_TRUE(hw.questions.empty());
+}
+
+TEST(EngineImp, ResetWorksWithoutASelectedProcessor) {
+  Engine engine;
+  engine.SetCableType(Engine::ZARVEK_PARALLEL4);
+  engine.SetCpuJtag();
+  engine.SetErrorStr("before");
+  engine.imp->EngineImpInit();
+  expect_no_link(*engine.imp);
+  EXPECT_EQ(engine.imp->errorStr, "");
+  EXPECT_EQ(engine.imp->currentProcessor, nullptr);
+}
+
+// --- Error text ---
+
+TEST(EngineImp, FormatsErrorTextsOfUpTo2047Characters) {
+  SelectedEngine s;
+  for (const std::size_t length : {0U, 1U, 2044U, 2045U, 2046U, 2047U, 100000U}) {
+    SCOPED_TRACE(length);
+    const std::string name(length, 'x');
+    set_error(s.imp, "<%s>", name.c_str());
+    EXPECT_EQ(s.error(), ("<" + name + ">").substr(0, 2047));
+  }
+}
+
+// --- Finding a processor by name ---
+
+TEST(FindProcessor, FindsNothingInAnEmptyList) {
+  EngineImp imp;
+  EXPECT_EQ(imp.FindProcessor(""), nullptr);
+  EXPECT_EQ(imp.FindProcessor("ovrin_0"), nullptr);
+}
+
+TEST(FindProcessor, ComparesByteForByte) {
+  DiscoveredEngine d;
+  const ProcessorInfoImp* const ovrin = &d.list("ovrin_0");
+  const ProcessorInfoImp* const zero = &d.list(std::string("ovrin_0\0x", 9));
+  const ProcessorInfoImp* const nameless = &d.list("");
+  const ProcessorInfoImp* const blank = &d.list(" ovrin_0");
+  EXPECT_EQ(d.imp.FindProcessor("ovrin_0"), ovrin);
+  EXPECT_EQ(d.imp.FindProcessor(std::string("ovrin_0\0x", 9)), zero);
+  EXPECT_EQ(d.imp.FindProcessor(""), nameless);
+  EXPECT_EQ(d.imp.FindProcessor(" ovrin_0"), blank);
+  for (const char* const name : {"OVRIN_0", "Ovrin_0", "ovrin_0 ", "ovrin_", "ovrin_00", "\tovrin_0"}) {
+    EXPECT_EQ(d.imp.FindProcessor(name), nullptr) << name;
+  }
+}
+
+TEST(FindProcessor, TakesTheFirstOfSeveralWithOneName) {
+  DiscoveredEngine d;
+  d.list("other");
+  const ProcessorInfoImp* const first = &d.list("twice");
+  d.list("twice");
+  EXPECT_EQ(d.imp.FindProcessor("twice"), first);
+  EXPECT_EQ(d.imp.FindProcessor("twice"), first);
+}
+
+TEST(FindProcessor, SeesWhatWasAppended) {
+  DiscoveredEngine d;
+  d.list("a");
+  EXPECT_EQ(d.imp.FindProcessor("b"), nullptr);
+  const ProcessorInfoImp* const b = &d.list("b");
+  EXPECT_EQ(d.imp.FindProcessor("b"), b);
+}
+
+// The list is open to its holder, who may change it in any way between two lookups.
+class FindProcessorInAListChangedByHand : public testing::Test {
+ protected:
+  FindProcessorInAListChangedByHand() {
+    for (const auto& [record, name] :
+         {std::pair(&a, "a"), std::pair(&b, "b"), std::pair(&c, "c"), std::pair(&otherB, "b")}) {
+      record->name = name;
+    }
+    imp.processorList = {&a, &b, &c};
+    EXPECT_EQ(imp.FindProcessor("a"), &a);
+    EXPECT_EQ(imp.FindProcessor("b"), &b);
+    EXPECT_EQ(imp.FindProcessor("c"), &c);
+  }
+
+  ProcessorInfoImp a;
+  ProcessorInfoImp b;
+  ProcessorInfoImp c;
+  ProcessorInfoImp otherB;
+  EngineImp imp;
+};
+
+TEST_F(FindProcessorInAListChangedByHand, FindsNothingAfterItWasEmptied) {
+  imp.processorList.clear();
+  EXPECT_EQ(imp.FindProcessor("a"), nullptr);
+  EXPECT_EQ(imp.FindProcessor("b"), nullptr);
+}
+
+TEST_F(FindProcessorInAListChangedByHand, FindsTheRestAfterOneWasTakenOut) {
+  imp.processorList.erase(imp.processorList.begin());
+  EXPECT_EQ(imp.FindProcessor("a"), nullptr);
+  EXPECT_EQ(imp.FindProcessor("b"), &b);
+  EXPECT_EQ(imp.FindProcessor("c"), &c);
+}
+
+TEST_F(FindProcessorInAListChangedByHand, FindsAllAfterOneWasPutInFront) {
+  imp.processorList.insert(imp.processorList.begin(), &otherB);
+  EXPECT_EQ(imp.FindProcessor("a"), &a);
+  EXPECT_EQ(imp.FindProcessor("b"), &otherB);
+  EXPECT_EQ(imp.FindProcessor("c"), &c);
+}
+
+TEST_F(FindProcessorInAListChangedByHand, FindsAllAfterItWasTurnedAround) {
+  imp.processorList = {&c, &b, &a};
+  EXPECT_EQ(imp.FindProcessor("a"), &a);
+  EXPECT_EQ(imp.FindProcessor("b"), &b);
+  EXPECT_EQ(imp.FindProcessor("c"), &c);
+}
+
+TEST_F(FindProcessorInAListChangedByHand, TakesTheFirstAfterItWasTurnedAroundWithTwoOfOneName) {
+  imp.processorList = {&a, &b, &otherB};
+  EXPECT_EQ(imp.FindProcessor("b"), &b);
+  imp.processorList = {&otherB, &a, &b};
+  EXPECT_EQ(imp.FindProcessor("b"), &otherB);
+}
+
+TEST_F(FindProcessorInAListChangedByHand, FindsTheRecordThatReplacedAnotherOfTheSameName) {
+  imp.processorList[1] = &otherB;
+  EXPECT_EQ(imp.FindProcessor("b"), &otherB);
+}
+
+TEST(FindProcessor, IsQuickInAListOf100000) {
+  constexpr int kCount = 100000;
+  const auto records = std::make_unique<ProcessorInfoImp[]>(kCount);
+  EngineImp imp;
+  for (int i = 0; i < kCount; ++i) {
+    records[static_cast<std::size_t>(i)].name = "ovrin_" + std::to_string(i);
+    imp.processorList.push_back(&records[static_cast<std::size_t>(i)]);
+  }
+  // Walking the list for each of these would take minutes.
+  for (int i = kCount - 1; i >= 0; --i) {
+    ASSERT_EQ(imp.FindProcessor("ovrin_" + std::to_string(i)), &records[static_cast<std::size_t>(i)]);
+  }
+}
+
+}  // namespace
+}  // namespace SdkDebugDialog

@@ -1,0 +1,182 @@
+#include "options/keyword.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/support/SelectedEngine.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+using namespace std::string_literals;
+
+// --- Words ---
+
+TEST(SameWord, ComparesWholeWordsInAnyCase) {
+  EXPECT_TRUE(same_word("", ""));
+  EXPECT_TRUE(same_word("connect", "connect"));
+  EXPECT_TRUE(same_word("connect", "CONNECT"));
+  EXPECT_TRUE(same_word("cOnNeCt_1", "CoNnEcT_1"));
+  EXPECT_FALSE(same_word("zarvek_parallel", "zarvek_parallel4"));
+  EXPECT_FALSE(same_word("zarvek_parallel4", "zarvek_parallel"));
+  EXPECT_FALSE(same_word("connect", "connecT "));
+  EXPECT_FALSE(same_word("connect", ""));
+  EXPECT_FALSE(same_word("-cable", "_cable"));
+  EXPECT_FALSE(same_word("@", "`"));
+  EXPECT_FALSE(same_word("sim\0"s, "sim"));
+  EXPECT_TRUE(same_word("s\0m"s, "S\0M"s));
+  EXPECT_FALSE(same_word("\xE4", "\xC4"));
+}
+
+constexpr Word kWords[] = {{"sp", 1}, {"Dp", 2}, {"spdp", 3}};
+
+TEST(FindRow, AnswersTheRowThatAWordNamesInAnyCase) {
+  EXPECT_EQ(find_row(kWords, "sp"), &kWords[0]);
+  EXPECT_EQ(find_row(kWords, "SP"), &kWords[0]);
+  EXPECT_EQ(find_row(kWords, "dP"), &kWords[1]);
+  EXPECT_EQ(find_row(kWords, "SPDP"), &kWords[2]);
+}
+
+TEST(FindRow, AnswersNullForAnyOtherWord) {
+  for (const std::string word : {"", "s", "spd", "spdpx", "d p", "-sp"}) EXPECT_EQ(find_row(kWords, word), nullptr);
+}
+
+// --- Keywords ---
+
+struct Record {
+  std::int8_t narrow = 0;
+  std::uint8_t byte = 0;
+  std::int32_t number = 0;
+  std::uint32_t address = 0;
+  std::string text;
+  std::string seen;
+};
+
+using Row = Keyword<Record>;
+
+int read_seen(const Pair& pair, Record& record, EngineImp& /*imp*/) {
+  record.seen.append(pair.key).append("=").append(pair.value).append(";");
+  return pair.value == "no" ? kError : kValue;
+}
+
+bool has_address(const Record& record) { return record.address != 0; }
+void write_seen(std::string& out, const Record& record) { out.append("<").append(record.seen).append(">"); }
+
+constexpr Row kRows[] = {
+    {.name = "Narrow", .field = &Record::narrow, .written = always<Record>},
+    {.name = "byte", .field = &Record::byte, .written = always<Record>},
+    {.name = "number", .field = &Record::number, .isSigned = true, .written = always<Record>},
+    {.name = "address", .field = &Record::address, .hex = true, .written = has_address, .gap = "  "},
+    {.name = "text", .field = &Record::text, .written = always<Record>},
+    {.name = "seen", .read = read_seen, .written = always<Record>, .write = write_seen},
+    {.name = "nothing"},
+};
+
+static_assert(row_index(kRows, "Narrow") == 0 && row_index(kRows, "nothing") == 6);
+static_assert(row_range(kRows, "byte", "address").size() == 3);
+static_assert(row_range(kRows, "byte", "address").front().name == "byte");
+
+// What reading pairs gives.
+struct Pairs {
+  SelectedEngine selected;
+  Record record;
+  PairsEnd end;
+  std::string rest;
+
+  explicit Pairs(const std::string& text) {
+    TokenCursor in(text);
+    end = read_pairs(in, kRows, record, selected.imp, "UNKNOWN '%s' here");
+    rest = in.rest();
+  }
+};
+
+TEST(ReadPairs, StoresEveryKindOfValueCutToItsField) {
+  Pairs pairs("narrow 200 BYTE 0x1ff Number -0x80000000 address 0x1ffffffff text -5abc");
+  EXPECT_EQ(pairs.end.kind, 3);
+  EXPECT_FALSE(pairs.end.refused);
+  EXPECT_EQ(pairs.record.narrow, -56);
+  EXPECT_EQ(pairs.record.byte, 255);
+  EXPECT_EQ(pairs.record.number, -2147483647 - 1);
+  EXPECT_EQ(pairs.record.address, 0xFFFFFFFFU);
+  EXPECT_EQ(pairs.record.text, "-5abc");
+  EXPECT_EQ(pairs.selected.error(), "");
+}
+
+TEST(ReadPairs, ConvertsAFieldTheSignedWayWhereItsRowSaysSo) {
+  // Beyond 64 bits the two ways differ in the bits that are kept.
+  EXPECT_EQ(Pairs("number 99999999999999999999").record.number, -1);
+  EXPECT_EQ(Pairs("number -99999999999999999999").record.number, 0);
+  EXPECT_EQ(Pairs("address -99999999999999999999").record.address, 0xFFFFFFFFU);
+}
+
+TEST(ReadPairs, TellsWhatEndedThem) {
+  struct Case {
+    std::string text;
+    int kind;
+    bool refused;
+    std::string rest;
+    std::string error;
+  };
+  const std::vector<Case> cases = {
+      {"", 3, false, "", ""},
+      {" \r\n", 3, false, "", ""},
+      {"byte 1", 3, false, "", ""},
+      {"byte 1 -next 2", 1, false, " 2", ""},
+      {"-next", 1, false, "", ""},
+      {"byte", 2, false, "", ""},
+      {"byte 1 narrow", 2, false, "", ""},
+      {"byte -next 2", 2, false, " 2", ""},
+      {"unknown", 2, false, "", ""},
+      {"unknown 5 byte 1", 2, true, " byte 1", "UNKNOWN 'unknown' here"},
+      {"Byte1 5", 2, true, "", "UNKNOWN 'Byte1' here"},
+      {"seen no byte 1", 2, true, " byte 1", ""},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.text);
+    Pairs pairs(c.text);
+    EXPECT_EQ(pairs.end.kind, c.kind);
+    EXPECT_EQ(pairs.end.refused, c.refused);
+    EXPECT_EQ(pairs.rest, c.rest);
+    EXPECT_EQ(pairs.selected.error(), c.error);
+  }
+}
+
+TEST(ReadPairs, MarksTheRowsThatWereMet) {
+  EXPECT_EQ(Pairs("").end.seen, 0U);
+  EXPECT_EQ(Pairs("nothing x").end.seen, 0x40U);
+  EXPECT_EQ(Pairs("byte 1 NARROW 2 byte 3").end.seen, 0x3U);
+  EXPECT_EQ(Pairs("byte 1 seen no").end.seen, 0x2U);
+}
+
+TEST(ReadPairs, HandsThePairAsItWasTypedToTheRowsOwnReader) {
+  EXPECT_EQ(Pairs("SeEn Yes seen NO").record.seen, "SeEn=Yes;seen=NO;");
+}
+
+TEST(ReadPairs, CutsTheErrorTextOfAHugeKey) {
+  Pairs pairs(std::string(1 << 20, 'k') + " 1");
+  EXPECT_EQ(pairs.selected.error(), "UNKNOWN '" + std::string(2047 - 9, 'k'));
+}
+
+TEST(WritePairs, WritesTheRowsThatAreToBeWrittenInTheirOrder) {
+  Record record;
+  record.narrow = -56;
+  record.byte = 200;
+  record.number = -1;
+  record.text = "t";
+  record.seen = "s";
+  std::string out = "before";
+  write_pairs(out, kRows, record);
+  EXPECT_EQ(out, "before Narrow -56 byte 200 number -1 text t seen <s>");
+  record.address = 0xA001093;
+  out.clear();
+  write_pairs(out, kRows, record);
+  EXPECT_EQ(out, " Narrow -56 byte 200 number -1  address 0xa001093 text t seen <s>");
+  out.clear();
+  write_pairs(out, row_range(kRows, "byte", "number"), record);
+  EXPECT_EQ(out, " byte 200 number -1");
+}
+
+}  // namespace
+}  // namespace SdkDebugDialog

@@ -1,0 +1,597 @@
+// The option file, as the parser reads and writes it.
+
+#include "options/option_file.h"
+
+#include <fcntl.h>
+#include <grp.h>
+#include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "options/QvtOption_Parser.h"
+#include "tests/options/reading.h"
+#include "tests/options/work_folder.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+using namespace std::string_literals;
+
+constexpr char kOld[] = "an older and rather long content of the option file\n";
+constexpr char kNew[] = "connect ov odm -debugdevice deviceNr 2 cpunr 1";
+
+// An engine whose processor "p" is written as kNew.
+struct Writer : SelectedEngine {
+  Writer() {
+    processor.name = "p";
+    processor.debugDevice = 2;
+  }
+};
+
+// Runs in a process of its own; what it returns is its exit code, a signal that ends it counts 1000 more.
+int in_child(const std::function<int()>& run) {
+  const pid_t child = ::fork();
+  if (child == 0) ::_exit(run());
+  int status = 0;
+  if (child < 0 || ::waitpid(child, &status, 0) != child) return -1;
+  return WIFSIGNALED(status) ? 1000 + WTERMSIG(status) : WEXITSTATUS(status);
+}
+
+bool become_nobody() { return ::setgroups(0, nullptr) == 0 && ::setgid(65534) == 0 && ::setuid(65534) == 0; }
+
+mode_t mode_of(const fs::path& path) {
+  struct stat status = {};
+  EXPECT_EQ(::stat(path.c_str(), &status), 0);
+  return status.st_mode & 07777;
+}
+
+class OptionFile : public testing::Test {
+ protected:
+  const WorkFolder& folder() const { return m_folder; }
+  fs::path etc() const { return m_folder.path() / "etc"; }
+  fs::path file() const { return m_folder.option_file("p"); }
+  std::string content() const { return WorkFolder::read(file()); }
+
+  // What is read from a file with this content.
+  void expect_read(const std::string& fileContent, int status, const std::string& command) {
+    SCOPED_TRACE(testing::PrintToString(fileContent.substr(0, 60)) + " of " + std::to_string(fileContent.size()));
+    WorkFolder::write(file(), fileContent);
+    expect_read_as_it_is(status, command);
+  }
+  void expect_read_as_it_is(int status, const std::string& command) {
+    SelectedEngine e;
+    e.processor.command = "an older command";
+    EXPECT_EQ(QvtOption_Parser::ReadQvtOptFile("p", e.imp), status);
+    EXPECT_TRUE(e.processor.command == command) << e.processor.command.size() << " characters";
+    EXPECT_EQ(e.error(), "");
+  }
+  void expect_no_file() { expect_read_as_it_is(4, "an older command"); }
+
+  // Writing is refused, and tells so.
+  void expect_refused() {
+    Writer e;
+    EXPECT_EQ(e.engine.Generate(), 4);
+    EXPECT_EQ(e.error(), "Error Opening File");
+    EXPECT_EQ(e.processor.command, kNew);
+  }
+  void expect_written() {
+    Writer e;
+    EXPECT_EQ(e.engine.Generate(), 0);
+    EXPECT_EQ(e.error(), "");
+    EXPECT_EQ(content(), kNew);
+  }
+  void expect_names(const std::vector<std::string>& names) { EXPECT_EQ(WorkFolder::list(etc()), names); }
+
+ private:
+  WorkFolder m_folder;
+};
+
+// --- Which file ---
+
+TEST_F(OptionFile, LiesInTheWorkingDirectoryUnderTheNameOfTheProcessor) {
+  WorkFolder::write(etc() / "qvt_ovrin_0.opt", "connect ov sim");
+  WorkFolder::write(etc() / "qvt_.opt", "connect ov stub");
+  WorkFolder::write(etc() / "qvt_a b.opt", "vpconnect ov");
+  SelectedEngine e;
+  EXPECT_EQ(QvtOption_Parser::ReadQvtOptFile("ovrin_0", e.imp), 0);
+  EXPECT_EQ(e.processor.connectionType, 1U);
+  EXPECT_EQ(QvtOption_Parser::ReadQvtOptFile("", e.imp), 0);
+  EXPECT_EQ(e.processor.connectionType, 4U);
+  EXPECT_EQ(QvtOption_Parser::ReadQvtOptFile("a b", e.imp), 0);
+  EXPECT_EQ(e.processor.connectionType, 8U);
+  EXPECT_EQ(QvtOption_Parser::ReadQvtOptFile("Ovrin_0", e.imp), 4);
+}
+
+TEST_F(OptionFile, FollowsTheWorkingDirectory) {
+  fs::create_directories(etc() / "other" / "etc");
+  fs::current_path(etc() / "other");
+  Writer e;
+  EXPECT_EQ(e.engine.Generate(), 0);
+  EXPECT_EQ(WorkFolder::read(etc() / "other" / "etc" / "qvt_p.opt"), kNew);
+  EXPECT_FALSE(fs::exists(file()));
+}
+
+TEST_F(OptionFile, IsWrittenUnderTheNameOfTheSelectedRecord) {
+  Writer e;
+  e.processor.name = "q";
+  EXPECT_EQ(e.engine.Generate(), 0);
+  expect_names({"qvt_q.opt"});
+}
+
+TEST_F(OptionFile, OfANameThatNoFileCanHaveIsNeitherReadNorWritten) {
+  for (const std::string& name : {"a\0b"s, std::string(300, 'n'), "no/such/folder"s}) {
+    Writer e;
+    e.processor.name = name;
+    EXPECT_EQ(QvtOption_Parser::ReadQvtOptFile(name, e.imp), 4);
+    EXPECT_EQ(e.engine.Generate(), 4);
+    EXPECT_EQ(e.error(), "Error Opening File");
+  }
+  expect_names({});
+}
+
+// --- Which line ---
+
+TEST_F(OptionFile, IsReadFromTheFirstLineThatIsNotEmpty) {
+  expect_read("connect ov odm", 0, "connect ov odm");
+  expect_read("connect ov odm\n", 0, "connect ov odm");
+  expect_read("\nconnect ov odm\n", 0, "connect ov odm");
+  expect_read("\n\n\n\nconnect ov odm\nconnect mips\n", 0, "connect ov odm");
+  expect_read("connect mips\nconnect ov odm\n", 3, "connect mips");
+  expect_read(std::string(100000, '\n') + "connect ov odm", 0, "connect ov odm");
+  expect_read(std::string(1020, '\n') + "connect ov odm\nconnect mips", 0, "connect ov odm");
+  expect_read(std::string(1023, '\n') + "connect ov odm\nconnect mips", 0, "connect ov odm");
+  expect_read(std::string(1024, '\n') + "connect ov odm\nconnect mips", 0, "connect ov odm");
+}
+
+TEST_F(OptionFile, KeepsTheCarriageReturnOfALine) {
+  expect_read("connect ov odm\r\nconnect mips\r\n", 0, "connect ov odm\r");
+}
+
+TEST_F(OptionFile, TakesACarriageReturnAloneForTheCommand) {
+  expect_read("\r\nconnect ov odm\r\n", 3, "\r");
+  expect_read("\n\r\nconnect ov odm\n", 3, "\r");
+  expect_read("\r", 3, "\r");
+}
+
+TEST_F(OptionFile, TakesALineOfWhiteSpaceForTheCommand) {
+  expect_read(" \nconnect ov odm\n", 3, " ");
+  expect_read("\t\v\f\n", 3, "\t\v\f");
+}
+
+TEST_F(OptionFile, WithoutALineIsAsGoodAsMissing) {
+  for (const std::string& empty : {""s, "\n"s, "\n\n"s, std::string(1024, '\n'), std::string(1 << 20, '\n')}) {
+    expect_read(empty, 4, "an older command");
+  }
+}
+
+TEST_F(OptionFile, IsCutAfter1023Characters) {
+  const std::string start = "connect ov stub -port ";
+  for (const std::string& before : {""s, "\n"s, "\n\n\n"s, std::string(1000, '\n')}) {
+    for (const std::string& after : {""s, "\n"s, "\nconnect mips\n"s}) {
+      for (const std::size_t length : {1000U, 1022U, 1023U, 1024U, 1025U, 2047U, 2048U, 5000U}) {
+        const std::string line = start + std::string(length - start.size(), 'x');
+        expect_read(before + line + after, 0, line.substr(0, 1023));
+      }
+    }
+  }
+}
+
+TEST_F(OptionFile, LosesWhatStandsBehind1023Characters) {
+  const std::string blanks(1023 - 14, ' ');
+  expect_read("connect ov odm" + blanks + "-foo", 0, "connect ov odm" + blanks);
+  expect_read("connect ov odm" + blanks.substr(2) + "xyz", 3, "connect ov odm" + blanks.substr(2) + "xy");
+  // An option of which the dash alone is left.
+  WorkFolder::write(file(), "connect ov odm" + blanks.substr(1) + "-quiet");
+  SelectedEngine e;
+  EXPECT_THROW(QvtOption_Parser::ReadQvtOptFile("p", e.imp), std::out_of_range);
+  EXPECT_EQ(e.processor.command.back(), '-');
+}
+
+TEST_F(OptionFile, KeepsNulBytes) {
+  expect_read("\0\nconnect ov odm\n"s, 3, "\0"s);
+  expect_read("connect ov odm\0\n"s, 3, "connect ov odm\0"s);
+  expect_read("connect ov stub -port a\0b\n"s, 0, "connect ov stub -port a\0b"s);
+}
+
+TEST_F(OptionFile, KeepsBytesThatAreNoText) {
+  expect_read("\xFF\xFE\x80\n", 3, "\xFF\xFE\x80");
+  expect_read("connect ov stub -port \x80\xFF\n", 0, "connect ov stub -port \x80\xFF");
+}
+
+// --- How much of it ---
+
+TEST_F(OptionFile, OfAGigabyteWithoutALineEndIsReadAtOnce) {
+  WorkFolder::write(file(), "connect ov stub -port x");
+  ASSERT_EQ(::truncate(file().c_str(), off_t{1} << 30), 0);
+  const auto start = std::chrono::steady_clock::now();
+  expect_read_as_it_is(0, "connect ov stub -port x" + std::string(1023 - 23, '\0'));
+  EXPECT_LT(std::chrono::steady_clock::now() - start, 500ms);
+}
+
+TEST_F(OptionFile, OfAGigabyteIsReplacedAtOnce) {
+  WorkFolder::write(file(), kOld);
+  ASSERT_EQ(::truncate(file().c_str(), off_t{1} << 30), 0);
+  expect_written();
+}
+
+// --- What is no option file ---
+
+TEST_F(OptionFile, IsMissingWithoutItsFolderWhichIsNotCreated) {
+  fs::remove(etc());
+  expect_no_file();
+  expect_refused();
+  EXPECT_FALSE(fs::exists(etc()));
+  WorkFolder::write(etc(), "a file in place of the folder");
+  expect_no_file();
+  expect_refused();
+  EXPECT_EQ(WorkFolder::read(etc()), "a file in place of the folder");
+}
+
+TEST_F(OptionFile, IsNotAFolder) {
+  fs::create_directory(file());
+  expect_no_file();
+  expect_refused();
+  EXPECT_TRUE(fs::is_directory(file()));
+  expect_names({"qvt_p.opt"});
+}
+
+TEST_F(OptionFile, IsNotASocket) {
+  const int server = ::socket(AF_UNIX, SOCK_STREAM, 0);
+  ASSERT_GE(server, 0);
+  sockaddr_un address = {};
+  address.sun_family = AF_UNIX;
+  ASSERT_LT(file().string().size(), sizeof address.sun_path);
+  std::strcpy(address.sun_path, file().c_str());
+  sockaddr generic = {};
+  static_assert(sizeof(sockaddr_un) > sizeof generic);
+  ASSERT_EQ(::bind(server, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  expect_no_file();
+  expect_refused();
+  EXPECT_TRUE(fs::is_socket(file()));
+  ::close(server);
+}
+
+// Whether a process waits for something.
+bool sleeps(pid_t process) {
+  const std::string status = WorkFolder::read("/proc/" + std::to_string(process) + "/stat");
+  const std::size_t state = status.rfind(") ");
+  return state != std::string::npos && status[state + 2] == 'S';
+}
+
+TEST_F(OptionFile, IsNotAPipeWhichIsNotEvenOpened) {
+  for (const bool linked : {false, true}) {
+    const fs::path pipe = linked ? folder().path() / "pipe" : file();
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    if (linked) fs::create_symlink(pipe, file());
+    // Waits in open until somebody opens the other end.
+    const pid_t waiting = ::fork();
+    if (waiting == 0) ::_exit(::open(pipe.c_str(), O_WRONLY) >= 0 ? 0 : 1);
+    ASSERT_GT(waiting, 0);
+    for (int i = 0; i < 400 && !sleeps(waiting); ++i) std::this_thread::sleep_for(5ms);
+    ASSERT_TRUE(sleeps(waiting));
+
+    const auto start = std::chrono::steady_clock::now();
+    expect_no_file();
+    expect_refused();
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 1s);
+    std::this_thread::sleep_for(20ms);
+    EXPECT_EQ(::waitpid(waiting, nullptr, WNOHANG), 0) << "the pipe was opened";
+    EXPECT_TRUE(fs::is_fifo(pipe));
+
+    ::kill(waiting, SIGKILL);
+    ::waitpid(waiting, nullptr, 0);
+    fs::remove(file());
+  }
+}
+
+TEST_F(OptionFile, IsNotFoundInAWorkingDirectoryThatIsGone) {
+  EXPECT_EQ(in_child([this] {
+              fs::create_directory(etc() / "gone");
+              fs::current_path(etc() / "gone");
+              fs::remove(etc() / "gone");
+              Writer e;
+              if (QvtOption_Parser::ReadQvtOptFile("p", e.imp) != 4) return 1;
+              if (!e.error().empty()) return 2;
+              if (e.engine.Generate() != 4) return 3;
+              if (e.error() != "Error Opening File") return 4;
+              return e.processor.command == kNew ? 0 : 5;
+            }),
+            0);
+  expect_names({});
+}
+
+// --- Links ---
+
+TEST_F(OptionFile, ThatIsALinkStaysOneAndItsTargetIsReplaced) {
+  fs::create_directory(folder().path() / "elsewhere");
+  const fs::path target = folder().path() / "elsewhere" / "real.opt";
+  for (const fs::path& link : {target, fs::path("../elsewhere/real.opt")}) {
+    SCOPED_TRACE(link);
+    WorkFolder::write(target, "connect ov sim");
+    fs::create_symlink(link, file());
+    expect_read_as_it_is(0, "connect ov sim");
+    expect_written();
+    EXPECT_EQ(fs::read_symlink(file()), link);
+    EXPECT_EQ(WorkFolder::read(target), kNew);
+    expect_names({"qvt_p.opt"});
+    EXPECT_EQ(WorkFolder::list(folder().path() / "elsewhere"), std::vector<std::string>{"real.opt"});
+    fs::remove(file());
+  }
+}
+
+TEST_F(OptionFile, IsFoundThroughAChainOfLinks) {
+  fs::create_symlink("second", file());
+  fs::create_symlink("third", etc() / "second");
+  WorkFolder::write(etc() / "third", "connect ov sim");
+  expect_read_as_it_is(0, "connect ov sim");
+  expect_written();
+  EXPECT_TRUE(fs::is_symlink(file()));
+  EXPECT_TRUE(fs::is_symlink(etc() / "second"));
+  EXPECT_FALSE(fs::is_symlink(etc() / "third"));
+  expect_names({"qvt_p.opt", "second", "third"});
+}
+
+TEST_F(OptionFile, IsCreatedWhereADanglingLinkPoints) {
+  fs::create_symlink("target", file());
+  expect_no_file();
+  expect_written();
+  EXPECT_EQ(fs::read_symlink(file()), "target");
+  EXPECT_EQ(WorkFolder::read(etc() / "target"), kNew);
+}
+
+TEST_F(OptionFile, IsNotCreatedInAMissingFolderThatALinkNames) {
+  fs::create_symlink("missing/target", file());
+  expect_no_file();
+  expect_refused();
+  EXPECT_TRUE(fs::is_symlink(file()));
+  expect_names({"qvt_p.opt"});
+}
+
+TEST_F(OptionFile, IsRefusedWhereLinksGoInCircles) {
+  fs::create_symlink("other", file());
+  fs::create_symlink("qvt_p.opt", etc() / "other");
+  expect_no_file();
+  expect_refused();
+  EXPECT_TRUE(fs::is_symlink(file()));
+  expect_names({"other", "qvt_p.opt"});
+}
+
+TEST_F(OptionFile, IsRefusedWhereALinkLeadsToAFolder) {
+  fs::create_symlink(etc(), file());
+  expect_no_file();
+  expect_refused();
+  EXPECT_TRUE(fs::is_symlink(file()));
+  expect_names({"qvt_p.opt"});
+}
+
+// --- What survives ---
+
+TEST_F(OptionFile, IsReplacedWholeAndLeavesNothingBesides) {
+  WorkFolder::write(file(), std::string(100000, 'o'));
+  expect_written();
+  expect_written();
+  expect_names({"qvt_p.opt"});
+}
+
+TEST_F(OptionFile, KeepsItsMode) {
+  for (const mode_t mode : {0600U, 0640U, 0644U, 0666U, 0604U, 0755U}) {
+    SCOPED_TRACE(mode);
+    WorkFolder::write(file(), kOld);
+    ASSERT_EQ(::chmod(file().c_str(), mode), 0);
+    const mode_t mask = ::umask(077);
+    expect_written();
+    ::umask(mask);
+    EXPECT_EQ(mode_of(file()), mode);
+  }
+}
+
+TEST_F(OptionFile, GetsTheModeThatTheProcessGivesNewFiles) {
+  for (const mode_t mask : {022U, 077U, 0U}) {
+    const mode_t before = ::umask(mask);
+    expect_written();
+    ::umask(before);
+    EXPECT_EQ(mode_of(file()), 0666U & ~mask);
+    fs::remove(file());
+  }
+}
+
+TEST_F(OptionFile, KeepsItsOwner) {
+  WorkFolder::write(file(), kOld);
+  if (::chown(file().c_str(), 65534, 65534) != 0) GTEST_SKIP() << "may not give files away";
+  ASSERT_EQ(::chmod(file().c_str(), 0640), 0);
+  expect_written();
+  struct stat status = {};
+  ASSERT_EQ(::stat(file().c_str(), &status), 0);
+  EXPECT_EQ(status.st_uid, 65534U);
+  EXPECT_EQ(status.st_gid, 65534U);
+  EXPECT_EQ(status.st_mode & 07777, 0640U);
+}
+
+// Reads or writes as a user without rights, in a folder that is open to everybody.
+class OptionFileOfOthers : public OptionFile {
+ protected:
+  void SetUp() override {
+    if (::geteuid() != 0) GTEST_SKIP() << "needs root to become somebody else";
+    fs::permissions(folder().path(), fs::perms::all);
+    fs::permissions(etc(), fs::perms::all);
+  }
+  // As Generate; 100 when that user cannot be had, 101 when the error text is wrong.
+  static int generate_as_nobody() {
+    return in_child([] {
+      if (!become_nobody()) return 100;
+      Writer e;
+      const int status = e.engine.Generate();
+      return e.error() == (status == 4 ? "Error Opening File" : "") && e.processor.command == kNew ? status : 101;
+    });
+  }
+  static int read_as_nobody() {
+    return in_child([] {
+      if (!become_nobody()) return 100;
+      SelectedEngine e;
+      return QvtOption_Parser::ReadQvtOptFile("p", e.imp);
+    });
+  }
+};
+
+TEST_F(OptionFileOfOthers, IsRefusedWhereTheUserMayNotWriteItAndIsNotReplaced) {
+  WorkFolder::write(file(), kOld);
+  struct stat before = {};
+  ASSERT_EQ(::stat(file().c_str(), &before), 0);
+  for (const mode_t mode : {0644U, 0444U, 0600U, 0U}) {
+    ASSERT_EQ(::chmod(file().c_str(), mode), 0);
+    EXPECT_EQ(generate_as_nobody(), 4);
+    EXPECT_EQ(content(), kOld);
+    expect_names({"qvt_p.opt"});
+  }
+  // The user's own file, made read-only.
+  ASSERT_EQ(::chown(file().c_str(), 65534, 65534), 0);
+  ASSERT_EQ(::chmod(file().c_str(), 0444), 0);
+  EXPECT_EQ(generate_as_nobody(), 4);
+  EXPECT_EQ(content(), kOld);
+  struct stat after = {};
+  ASSERT_EQ(::stat(file().c_str(), &after), 0);
+  EXPECT_EQ(after.st_ino, before.st_ino);
+  expect_names({"qvt_p.opt"});
+}
+
+TEST_F(OptionFileOfOthers, IsWrittenWhereTheUserMayWriteIt) {
+  EXPECT_EQ(generate_as_nobody(), 0);
+  EXPECT_EQ(content(), kNew);
+  WorkFolder::write(file(), kOld);
+  EXPECT_EQ(generate_as_nobody(), 0);
+  EXPECT_EQ(content(), kNew);
+  // Root's own file, open to all: its mode survives even where its owner cannot.
+  fs::remove(file());
+  WorkFolder::write(file(), kOld);
+  ASSERT_EQ(::chmod(file().c_str(), 0666), 0);
+  EXPECT_EQ(generate_as_nobody(), 0);
+  EXPECT_EQ(content(), kNew);
+  EXPECT_EQ(mode_of(file()), 0666U);
+  expect_names({"qvt_p.opt"});
+}
+
+TEST_F(OptionFileOfOthers, IsNotCreatedInAFolderThatTheUserMayNotWrite) {
+  fs::permissions(etc(),
+                  fs::perms::owner_all | fs::perms::group_exec | fs::perms::others_exec | fs::perms::others_read);
+  EXPECT_EQ(generate_as_nobody(), 4);
+  expect_names({});
+}
+
+TEST_F(OptionFileOfOthers, IsAsGoodAsMissingWhereTheUserMayNotReadIt) {
+  WorkFolder::write(file(), "connect ov odm");
+  EXPECT_EQ(read_as_nobody(), 0);
+  ASSERT_EQ(::chmod(file().c_str(), 0600), 0);
+  EXPECT_EQ(read_as_nobody(), 4);
+}
+
+// --- A full disk, a crash ---
+
+// Lets files grow to ten bytes and no further.
+void fill_disk(bool survive) {
+  const rlimit none = {0, 0};
+  ::setrlimit(RLIMIT_CORE, &none);
+  const rlimit ten = {10, 10};
+  ::setrlimit(RLIMIT_FSIZE, &ten);
+  static_cast<void>(std::signal(SIGXFSZ, survive ? SIG_IGN : SIG_DFL));
+}
+
+TEST_F(OptionFile, HoldsTheOldTextWholeWhenTheDiskIsFull) {
+  for (const bool existed : {true, false}) {
+    if (existed) WorkFolder::write(file(), kOld);
+    EXPECT_EQ(in_child([] {
+                fill_disk(true);
+                Writer e;
+                if (e.engine.Generate() != 4) return 1;
+                if (e.error() != "Error Opening File") return 2;
+                return e.processor.command == kNew ? 0 : 3;
+              }),
+              0);
+    EXPECT_EQ(content(), existed ? kOld : "");
+    expect_names(existed ? std::vector<std::string>{"qvt_p.opt"} : std::vector<std::string>{});
+    fs::remove(file());
+  }
+}
+
+TEST_F(OptionFile, HoldsTheOldTextWholeAfterACrashAndTheNextWriterClearsUp) {
+  WorkFolder::write(file(), kOld);
+  EXPECT_EQ(in_child([] {
+              fill_disk(false);
+              Writer e;
+              return e.engine.Generate();
+            }),
+            1000 + SIGXFSZ);
+  EXPECT_EQ(content(), kOld);
+  expect_written();
+  expect_names({"qvt_p.opt"});
+}
+
+// --- Several at a time ---
+
+TEST_F(OptionFile, HoldsOneWholeTextWhileTwoProcessesWriteIt) {
+  constexpr int kTimes = 100;
+  const std::string longName(3000, 'x');
+  const std::string shortText = "connect ov stub -comm serial -port a  -baud  0 -timeout 20000";
+  const std::string longText = "connect ov stub -comm serial -port " + longName + "  -baud  0 -timeout 20000";
+  WorkFolder::write(file(), shortText);
+
+  const auto start_writer = [](const std::string& port) {
+    const pid_t child = ::fork();
+    if (child != 0) return child;
+    SelectedEngine e;
+    e.processor.name = "p";
+    e.processor.connectionType = 4;
+    e.processor.stubType = 1;
+    e.processor.stubSerialPort = port;
+    int failed = 0;
+    for (int i = 0; i < kTimes; ++i) failed += e.engine.Generate() == 0 ? 0 : 1;
+    ::_exit(failed == 0 ? 0 : 1);
+  };
+  std::array<pid_t, 2> writers = {start_writer("a"), start_writer(longName)};
+
+  int looks = 0;
+  for (pid_t& writer : writers) {
+    int status = 0;
+    while (::waitpid(writer, &status, WNOHANG) == 0) {
+      const std::string now = content();
+      EXPECT_TRUE(now == shortText || now == longText) << now.size() << " characters";
+      ++looks;
+    }
+    EXPECT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+  }
+  EXPECT_GT(looks, 0);
+  EXPECT_TRUE(content() == shortText || content() == longText);
+  expect_names({"qvt_p.opt"});
+}
+
+TEST_F(OptionFile, IsWrittenInTheEndThoughAnotherProcessHoldsTheFolder) {
+  const int held = ::open(etc().c_str(), O_RDONLY | O_DIRECTORY);
+  ASSERT_GE(held, 0);
+  ASSERT_EQ(::flock(held, LOCK_EX), 0);
+  const auto start = std::chrono::steady_clock::now();
+  expect_written();
+  EXPECT_LT(std::chrono::steady_clock::now() - start, 20s);
+  expect_names({"qvt_p.opt"});
+  ::close(held);
+}
+
+}  // namespace
+}  // namespace SdkDebugDialog

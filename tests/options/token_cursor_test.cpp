@@ -1,0 +1,297 @@
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "options/QvtOption_Parser.h"
+#include "options/TokenCursor.h"
+#include "tests/support/SelectedEngine.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+using namespace std::string_literals;
+
+constexpr char kOutOfRange[] = "basic_string::at: __n (which is 1) >= this->size() (which is 1)";
+
+// What cutting one token off a text gives.
+struct Cut {
+  int kind;
+  std::string token;
+  std::string rest;
+  bool operator==(const Cut&) const = default;
+};
+std::ostream& operator<<(std::ostream& out, const Cut& cut) {
+  return out << cut.kind << ' ' << testing::PrintToString(cut.token) << " rest " << testing::PrintToString(cut.rest);
+}
+
+Cut cut(std::string text) {
+  std::string token = "before";
+  const int kind = QvtOption_Parser::get_token(text, token);
+  return {kind, token, text};
+}
+
+Cut cut_by_cursor(const std::string& text) {
+  TokenCursor in(text);
+  std::string_view token = "before";
+  const int kind = in.next(token);
+  return {kind, std::string(token), std::string(in.rest())};
+}
+
+void expect_cut(const std::string& text, const Cut& expected) {
+  SCOPED_TRACE(testing::PrintToString(text));
+  EXPECT_EQ(cut(text), expected);
+  EXPECT_EQ(cut_by_cursor(text), expected);
+}
+
+struct PairCut {
+  int kind;
+  std::string key;
+  std::string value;
+  std::string rest;
+  bool operator==(const PairCut&) const = default;
+};
+std::ostream& operator<<(std::ostream& out, const PairCut& cut) {
+  return out << cut.kind << ' ' << testing::PrintToString(cut.key) << ' ' << testing::PrintToString(cut.value)
+             << " rest " << testing::PrintToString(cut.rest);
+}
+
+void expect_pair(const std::string& text, const PairCut& expected) {
+  SCOPED_TRACE(testing::PrintToString(text));
+  std::string rest = text;
+  std::string key = "key before";
+  std::string value = "value before";
+  const int kind = QvtOption_Parser::get_tokenpair(rest, key, value);
+  EXPECT_EQ((PairCut{kind, key, value, rest}), expected);
+
+  TokenCursor in(text);
+  std::string_view keyView = "key before";
+  std::string_view valueView = "value before";
+  const int cursorKind = in.next_pair(keyView, valueView);
+  EXPECT_EQ((PairCut{cursorKind, std::string(keyView), std::string(valueView), std::string(in.rest())}), expected);
+}
+
+// --- Tokens ---
+
+TEST(GetToken, AnswersTheEndForWhiteSpaceAloneAndLeavesTheToken) {
+  for (const std::string text : {"", " ", "\t", "\n", "\r\n", "\v\f", "   \t\t  ", " \t\n\v\f\r ", "\n\n\n"}) {
+    expect_cut(text, {3, "before", ""});
+  }
+}
+
+TEST(GetToken, LeavesTheLineEndAfterAWordUntilItIsAskedFor) {
+  std::string text = "connect\r\n";
+  std::string token;
+  EXPECT_EQ(QvtOption_Parser::get_token(text, token), 0);
+  EXPECT_EQ(token, "connect");
+  EXPECT_EQ(text, "\r\n");
+  EXPECT_EQ(QvtOption_Parser::get_token(text, token), 3);
+  EXPECT_EQ(token, "connect");
+  EXPECT_EQ(text, "");
+}
+
+TEST(GetToken, PartsWordsAtATabAndAtAnyNumberOfBlanks) {
+  for (const std::string gap : {"\t", " ", "  ", "\t\t", " \t "}) {
+    SCOPED_TRACE(testing::PrintToString(gap));
+    std::string text = "one" + gap + "two";
+    std::string token;
+    EXPECT_EQ(QvtOption_Parser::get_token(text, token), 0);
+    EXPECT_EQ(token, "one");
+    EXPECT_EQ(text, gap + "two");
+    EXPECT_EQ(QvtOption_Parser::get_token(text, token), 0);
+    EXPECT_EQ(token, "two");
+    EXPECT_EQ(text, "");
+    EXPECT_EQ(QvtOption_Parser::get_token(text, token), 3);
+    EXPECT_EQ(token, "two");
+  }
+}
+
+TEST(GetToken, ReadsADashWithADigitAsAValueAndKeepsTheOptionBefore) {
+  newoption_token = "-older";
+  for (const std::string text : {"-5", "-0x10", "-1", "-0", "-9", "-9z", "-1-"}) expect_cut(text, {0, text, ""});
+  EXPECT_EQ(newoption_token, "-older");
+}
+
+TEST(GetToken, ReadsADashWithAnythingElseAsAnOption) {
+  for (const std::string& text :
+       {"-cable"s, "-CABLE"s, "--"s, "--5"s, "-."s, "-.5"s, "-x1"s, "-/"s, "-:"s, "-\x80"s, "-\0"s, "-a\nb"s}) {
+    newoption_token = "-older";
+    expect_cut(text, {1, text, ""});
+    EXPECT_EQ(newoption_token, text);
+  }
+}
+
+TEST(GetToken, ThrowsOutOfRangeForALoneDashWhichIsTakenOffTheText) {
+  struct Row {
+    std::string text;
+    std::string rest;
+  };
+  for (const Row& row : std::vector<Row>{{"-", ""}, {"  -", ""}, {"- x", " x"}, {"-\t-", "\t-"}, {"-\r\n", "\r\n"}}) {
+    SCOPED_TRACE(testing::PrintToString(row.text));
+    newoption_token = "-older";
+    std::string text = row.text;
+    std::string token = "before";
+    try {
+      QvtOption_Parser::get_token(text, token);
+      ADD_FAILURE() << "nothing was thrown";
+    } catch (const std::out_of_range& error) {
+      EXPECT_STREQ(error.what(), kOutOfRange);
+    }
+    EXPECT_EQ(token, "-");
+    EXPECT_EQ(text, row.rest);
+    EXPECT_EQ(newoption_token, "-older");
+
+    TokenCursor in(row.text);
+    std::string_view view;
+    EXPECT_THROW(in.next(view), std::out_of_range);
+    EXPECT_EQ(in.rest(), row.rest);
+  }
+}
+
+TEST(GetToken, HasNoWayToQuoteABlank) {
+  std::string text = R"("C:\my designs\a.cfg" 'b c' d\ e)";
+  std::vector<std::string> tokens;
+  std::string token;
+  while (QvtOption_Parser::get_token(text, token) == 0) tokens.push_back(token);
+  EXPECT_EQ(tokens, (std::vector<std::string>{R"("C:\my)", R"(designs\a.cfg")", "'b", "c'", "d\\", "e"}));
+}
+
+TEST(GetToken, KeepsLineEndsInsideATokenAndDropsThoseAtItsEnd) {
+  expect_cut("one\r\ntwo three", {0, "one\r\ntwo", " three"});
+  expect_cut("one\vtwo\fthree\nfour", {0, "one\vtwo\fthree\nfour", ""});
+  expect_cut("one\r\n two", {0, "one", "\r\n two"});
+  expect_cut("one\v\f\r\n\ttwo", {0, "one", "\v\f\r\n\ttwo"});
+  expect_cut("\r\n\v\fone\ntwo\n ", {0, "one\ntwo", "\n "});
+  expect_cut("-one\ntwo\n x", {1, "-one\ntwo", "\n x"});
+}
+
+TEST(GetToken, LeavesWhiteSpaceAtTheEndOfTheText) { expect_cut("  one  \t\r\n", {0, "one", "  \t\r\n"}); }
+
+TEST(GetToken, SortsEveryByteAsTheClassicLocaleDoes) {
+  for (int i = 0; i < 256; ++i) {
+    const char c = static_cast<char>(i);
+    const bool white = " \t\n\v\f\r"s.find(c) != std::string::npos;
+    const bool parts = c == ' ' || c == '\t';
+    expect_cut("a"s + c + "b", parts ? Cut{0, "a", c + "b"s} : Cut{0, "a"s + c + "b", ""});
+    expect_cut("a"s + c, white ? Cut{0, "a", std::string(1, c)} : Cut{0, "a"s + c, ""});
+    expect_cut(c + "a"s, white ? Cut{0, "a", ""} : Cut{c == '-' ? 1 : 0, c + "a"s, ""});
+    // A dash before a blank or a tab stands alone.
+    if (!parts) expect_cut("-"s + c + "a", {c >= '0' && c <= '9' ? 0 : 1, "-"s + c + "a", ""});
+  }
+}
+
+TEST(GetToken, TakesNulBytesForAnyOtherCharacter) {
+  expect_cut("\0"s, {0, "\0"s, ""});
+  expect_cut("a\0b c\0"s, {0, "a\0b"s, " c\0"s});
+  expect_cut("-\0 x"s, {1, "-\0"s, " x"});
+}
+
+TEST(GetToken, ReadsTokensOfAMegabyte) {
+  const std::string value(1 << 20, 'x');
+  expect_cut(" " + value + " y", {0, value, " y"});
+  const std::string option = "-" + value;
+  expect_cut(option, {1, option, ""});
+  EXPECT_EQ(newoption_token, option);
+}
+
+TEST(NewoptionToken, KeepsTheLastOptionAcrossCommandsAndEngines) {
+  SelectedEngine one;
+  EXPECT_EQ(QvtOption_Parser::ReadQvtCommand("connect ov odm -quiet -NoAttach", one.imp), 0);
+  EXPECT_EQ(newoption_token, "-NoAttach");
+  SelectedEngine two;
+  EXPECT_EQ(QvtOption_Parser::ReadQvtCommand("connect ov odm", two.imp), 0);
+  EXPECT_EQ(newoption_token, "-NoAttach");
+  EXPECT_EQ(cut("-5"), (Cut{0, "-5", ""}));
+  EXPECT_EQ(cut(""), (Cut{3, "before", ""}));
+  EXPECT_EQ(newoption_token, "-NoAttach");
+  EXPECT_EQ(cut("-next"), (Cut{1, "-next", ""}));
+  EXPECT_EQ(newoption_token, "-next");
+}
+
+// --- Pairs ---
+
+TEST(GetTokenpair, ReadsAKeyAndItsValue) {
+  expect_pair("type zarvek_plugin", {0, "type", "zarvek_plugin", ""});
+  expect_pair(" type\t-5 port", {0, "type", "-5", " port"});
+}
+
+TEST(GetTokenpair, AnswersAnErrorForAKeyAlone) {
+  expect_pair("type", {2, "type", "value before", ""});
+  expect_pair("type \r\n", {2, "type", "value before", ""});
+}
+
+TEST(GetTokenpair, ConsumesAnOptionInPlaceOfTheValueAndAnswersAnError) {
+  newoption_token = "-older";
+  expect_pair("type -cable port", {2, "type", "-cable", " port"});
+  EXPECT_EQ(newoption_token, "-cable");
+}
+
+TEST(GetTokenpair, AnswersOptionForAnOptionAndLeavesTheValue) {
+  newoption_token = "-older";
+  expect_pair("-cable type", {1, "-cable", "value before", " type"});
+  EXPECT_EQ(newoption_token, "-cable");
+}
+
+TEST(GetTokenpair, AnswersTheEndForAnEmptyText) {
+  expect_pair("", {3, "key before", "value before", ""});
+  expect_pair(" \r\n\t", {3, "key before", "value before", ""});
+}
+
+TEST(GetTokenpair, ThrowsForALoneDashInEitherPlace) {
+  std::string key;
+  std::string value;
+  std::string text = "- x";
+  EXPECT_THROW(QvtOption_Parser::get_tokenpair(text, key, value), std::out_of_range);
+  EXPECT_EQ(text, " x");
+  text = "type - x";
+  EXPECT_THROW(QvtOption_Parser::get_tokenpair(text, key, value), std::out_of_range);
+  EXPECT_EQ(key, "type");
+  EXPECT_EQ(value, "-");
+  EXPECT_EQ(text, " x");
+}
+
+// --- The cursor ---
+
+TEST(TokenCursor, AnswersViewsIntoTheText) {
+  const std::string text = " one  two ";
+  TokenCursor in(text);
+  std::string_view token;
+  EXPECT_EQ(in.next(token), 0);
+  EXPECT_EQ(token.data(), text.data() + 1);
+  EXPECT_EQ(in.next(token), 0);
+  EXPECT_EQ(token.data(), text.data() + 6);
+  EXPECT_EQ(in.rest().data(), text.data() + 9);
+}
+
+TEST(ReadFront, LeavesInTheTextWhatTheReaderDidNotConsume) {
+  std::string text = "one two three";
+  EXPECT_EQ(read_front(text, [](TokenCursor& /*in*/) { return 42; }), 42);
+  EXPECT_EQ(text, "one two three");
+  const auto two = [](TokenCursor& in) {
+    std::string_view key;
+    std::string_view value;
+    return in.next_pair(key, value);
+  };
+  EXPECT_EQ(read_front(text, two), 0);
+  EXPECT_EQ(text, " three");
+  EXPECT_EQ(read_front(text, two), 2);
+  EXPECT_EQ(text, "");
+}
+
+TEST(ReadFront, LeavesTheRestWhenTheReaderThrows) {
+  std::string text = "one - two";
+  EXPECT_THROW(read_front(text,
+                          [](TokenCursor& in) {
+                            std::string_view key;
+                            std::string_view value;
+                            return in.next_pair(key, value);
+                          }),
+               std::out_of_range);
+  EXPECT_EQ(text, " two");
+}
+
+}  // namespace
+}  // namespace SdkDebugDialog
