@@ -1,0 +1,43 @@
+#include "bench/folder.h"
+
+#include <stdlib.h>
+
+#include <fstream>
+#include <stdexcept>
+
+#include "bench/texts.h"
+
+namespace bench {
+namespace {
+
+class Folder {
+ public:
+  Folder() {
+    std::string name = std::filesystem::temp_directory_path() / "bench_XXXXXX";
+    if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no folder to work in");
+    path = name;
+    std::filesystem::create_directory(path / "etc");
+    std::ofstream(path / "etc/qvt_ovrin_0.opt") << hardware_text();
+  }
+  ~Folder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path, ignored);
+  }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+
+  std::filesystem::path path;
+};
+
+}  // namespace
+
+const std::filesystem::path& work_folder() {
+  static const Folder folder;
+  return folder.path;
+}
+
+std::filesystem::path example_design(const std::string& name) {
+  return std::filesystem::path(PROJECT_SOURCE_DIR) / "examples/designs" / name;
+}
+
+}  // namespace bench

@@ -1,0 +1,31 @@
+// Runs the benchmarks and prints one table. Takes the options of Google Benchmark.
+
+#include <benchmark/benchmark.h>
+
+#include <vector>
+
+#include "bench/report.h"
+#include "bench/suite.h"
+
+int main(int argc, char** argv) {
+  // Ours and the others take turns, so that all of them see the same machine. Options given later count.
+  char interleaved[] = "--benchmark_enable_random_interleaving=true";
+  char repetitions[] = "--benchmark_repetitions=9";
+  char shortest[] = "--benchmark_min_time=0.05";
+  std::vector<char*> arguments = {argv[0], interleaved, repetitions, shortest};
+  arguments.insert(arguments.end(), argv + 1, argv + argc);
+  int count = static_cast<int>(arguments.size());
+  arguments.push_back(nullptr);
+  benchmark::Initialize(&count, arguments.data());
+  if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
+
+  bench::add_reading();
+  bench::add_writing();
+  bench::add_discovery();
+  bench::add_lookup();
+  bench::add_selection();
+  bench::add_process();
+  bench::Collector times;
+  benchmark::RunSpecifiedBenchmarks(&times);
+  bench::print_table(times);
+}

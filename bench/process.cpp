@@ -1,0 +1,64 @@
+// The whole "qvtcfg command", beside the start of a program that does nothing with the same library.
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <stdio.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <string>
+#include <vector>
+
+#include "bench/folder.h"
+#include "bench/suite.h"
+#include "bench/texts.h"
+
+namespace bench {
+namespace {
+
+using Words = std::vector<std::string>;
+
+Words qvtcfg() { return {QVTCFG, "-C", work_folder(), "--design", example_design("large.json"), "command", "ovrin_0"}; }
+
+// Starts a program with its output going nowhere and waits for its end. Whether it went well.
+bool run(const Words& words) {
+  std::vector<char*> arguments;
+  for (const std::string& word : words) arguments.push_back(const_cast<char*>(word.c_str()));
+  arguments.push_back(nullptr);
+  posix_spawn_file_actions_t actions;
+  posix_spawn_file_actions_init(&actions);
+  posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+  pid_t child = 0;
+  const bool started = posix_spawn(&child, arguments[0], &actions, nullptr, arguments.data(), environ) == 0;
+  posix_spawn_file_actions_destroy(&actions);
+  int status = 0;
+  return started && waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+std::string output(const Words& words) {
+  std::string line;
+  for (const std::string& word : words) line += '\'' + word + "' ";
+  FILE* const pipe = popen(line.c_str(), "r");
+  if (pipe == nullptr) return {};
+  std::string text;
+  for (int c = 0; (c = std::fgetc(pipe)) != EOF;) text += static_cast<char>(c);
+  pclose(pipe);
+  return text;
+}
+
+void add_program(const Work& work, const char* who, const Words& words) {
+  expect(run(words), work, who);
+  add(
+      work, who, [words] { benchmark::DoNotOptimize(run(words)); }, Clock::wall);
+}
+
+}  // namespace
+
+void add_process() {
+  const Work work = {"qvtcfg command"};
+  expect(output(qvtcfg()) == hardware_text() + "\n", work, kOurs);
+  add_program(work, kOurs, qvtcfg());
+  add_program(work, "empty program", {EMPTY_PROGRAM});
+}
+
+}  // namespace bench
