@@ -1,9 +1,12 @@
 #include "options/TokenCursor.h"
 
+#include <bit>
+#include <cstdint>
 #include <stdexcept>
 
 #include "options/QvtOption_Parser.h"
 #include "options/status.h"
+#include "options/word_index.h"
 
 namespace SdkDebugDialog {
 
@@ -11,22 +14,33 @@ std::string newoption_token;
 
 namespace {
 
-// White space as in the classic C locale, whatever the program's locale is.
-constexpr std::string_view kSpace = " \t\n\v\f\r";
-
-std::size_t or_end(std::size_t position, std::string_view text) {
-  return position != std::string_view::npos ? position : text.size();
+// The first blank or tab, looked for in eight characters at a time; end if there is none.
+const char* find_blank(const char* text, const char* end) {
+  constexpr std::uint64_t kEach = 0x0101010101010101U;
+  for (; end - text >= 8; text += 8) {
+    const std::uint64_t packed = letters(text, 8);
+    // A byte that becomes 0 here borrows from its highest bit; the lowest one that does so is exact.
+    const std::uint64_t blank = packed ^ (' ' * kEach);
+    const std::uint64_t tab = packed ^ ('\t' * kEach);
+    const std::uint64_t found = (((blank - kEach) & ~blank) | ((tab - kEach) & ~tab)) & (0x80 * kEach);
+    if (found != 0) return text + std::countr_zero(found) / 8;
+  }
+  while (text != end && *text != ' ' && *text != '\t') ++text;
+  return text;
 }
 
 }  // namespace
 
 bool TokenCursor::cut(std::string_view& token) {
-  m_rest.remove_prefix(or_end(m_rest.find_first_not_of(kSpace), m_rest));
-  if (m_rest.empty()) return false;
+  const char* begin = m_rest.data();
+  const char* const textEnd = begin + m_rest.size();
+  while (begin != textEnd && is_space(*begin)) ++begin;
   // Only blanks and tabs part tokens; a line end before one of them is dropped, one inside a token stays.
-  token = m_rest.substr(0, m_rest.find_first_of(" \t"));
-  token = token.substr(0, token.find_last_not_of(kSpace) + 1);
-  m_rest.remove_prefix(token.size());
+  const char* end = find_blank(begin, textEnd);
+  while (end != begin && is_space(end[-1])) --end;
+  m_rest = {end, static_cast<std::size_t>(textEnd - end)};
+  if (begin == end) return false;
+  token = {begin, static_cast<std::size_t>(end - begin)};
   return true;
 }
 
@@ -38,6 +52,7 @@ int TokenCursor::classify(std::string_view token) {
   }
   if (token[1] >= '0' && token[1] <= '9') return kValue;
   newoption_token.assign(token);
+  m_option = token;
   return kOption;
 }
 
@@ -53,7 +68,7 @@ int QvtOption_Parser::get_token(std::string& input, std::string& token) {
     std::string_view found;
     if (!in.cut(found)) return kEnd;
     token.assign(found);
-    return TokenCursor::classify(found);
+    return in.classify(found);
   });
 }
 

@@ -7,6 +7,9 @@ namespace SdkDebugDialog {
 
 class EngineImp;
 
+// White space as in the classic C locale, whatever the program's locale is.
+constexpr bool is_space(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
 // Walks over the tokens of a connect command. Nothing is copied or moved: the text must outlive the cursor, and
 // tokens are views into it.
 //
@@ -24,15 +27,19 @@ class TokenCursor {
   // option, which is consumed then, stands in its place.
   int next_pair(std::string_view& key, std::string_view& value);
 
+  // The last option that was read, as newoption_token has it too.
+  std::string_view option() const { return m_option; }
+
   // What was not consumed yet.
   std::string_view rest() const { return m_rest; }
 
   // The two halves of next: cuts a token off (false at the end of the text), and tells its kind.
   bool cut(std::string_view& token);
-  static int classify(std::string_view token);
+  int classify(std::string_view token);
 
  private:
   std::string_view m_rest;
+  std::string_view m_option;
 };
 
 // Runs a reader on the front of a caller's text and leaves in the text what the reader did not consume.

@@ -38,25 +38,26 @@ constexpr Option kQmtcOptions[] = {
 };
 
 // The processor is marked with the target before anything is read.
-int read_bare_target(TokenCursor& in, EngineImp& imp, std::uint32_t target, std::span<const Option> options) {
+template <const auto& options>
+int read_bare_target(TokenCursor& in, EngineImp& imp, std::uint32_t target) {
   imp.currentProcessor->allowedConnections = target;
-  return read_options(in, imp, options, "UNKNOWN Option '%s'", UnknownName::option) == kEnd ? kValue : kError;
+  return read_options<options>(in, imp, "UNKNOWN Option '%s'", UnknownName::option) == kEnd ? kValue : kError;
 }
 
 }  // namespace
 
 int read_odm_target(TokenCursor& in, EngineImp& imp) {
-  return read_bare_target(in, imp, Engine::ODM_TARGET, kOdmOptions);
+  return read_bare_target<kOdmOptions>(in, imp, Engine::ODM_TARGET);
 }
 
 int read_dcc_target(TokenCursor& in, EngineImp& imp) {
   imp.currentProcessor->procFamily = kFamilyArm;
   imp.currentProcessor->procVariant = kVariantCortexA9;
-  return read_bare_target(in, imp, Engine::DCC_TARGET, kDccOptions);
+  return read_bare_target<kDccOptions>(in, imp, Engine::DCC_TARGET);
 }
 
 int read_qmtc_target(TokenCursor& in, EngineImp& imp) {
-  return read_bare_target(in, imp, Engine::QMTC_TARGET, kQmtcOptions);
+  return read_bare_target<kQmtcOptions>(in, imp, Engine::QMTC_TARGET);
 }
 
 int QvtOption_Parser::parse_odmoptions(std::string& text, EngineImp& imp) {

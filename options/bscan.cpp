@@ -15,7 +15,7 @@ constexpr const Word& kWritten = kRegisters[0];  // the only one that is written
 
 int read_bscan(TokenCursor& in, std::string_view /*option*/, EngineImp& imp) {
   std::string_view word;
-  const Word* const bscan = in.next(word) == kEnd ? nullptr : find_row(kRegisters, word);
+  const Word* const bscan = in.next(word) == kEnd ? nullptr : find_row<kRegisters>(word);
   if (bscan == nullptr) return kError;
   imp.currentProcessor->bscanPort = bscan->value;
   return kValue;
@@ -25,8 +25,10 @@ int QvtOption_Parser::parse_odmbscan(std::string& text, EngineImp& imp) {
   return read_front(text, [&](TokenCursor& in) { return read_bscan(in, "-bscan", imp); });
 }
 
-void write_bscan(std::string& out, const EngineImp& imp) {
-  if (imp.currentProcessor->bscanPort == kWritten.value) out.append(" -bscan ").append(kWritten.name);
+void write_bscan(TextOut& out, const EngineImp& imp) {
+  if (imp.currentProcessor->bscanPort != kWritten.value) return;
+  out.put(" -bscan ");
+  out.put(kWritten.name);
 }
 
 }  // namespace SdkDebugDialog

@@ -16,7 +16,11 @@ namespace {
 
 // --- Cable names ---
 
-using CableWriter = int (*)(std::string& out, const CableOption& cable);
+using CableWriter = int (*)(TextOut& out, const CableOption& cable);
+
+int write_zarvek(TextOut& out, const CableOption& cable);
+int write_plugin(TextOut& out, const CableOption& cable);
+int write_digilent(TextOut& out, const CableOption& cable);
 
 // A name in the text. Where a type has several, the first one is written; without a writer a type is only read.
 struct CableName {
@@ -26,19 +30,19 @@ struct CableName {
 };
 
 constexpr CableName kNames[] = {
-    {"zarvek_parallel", Engine::ZARVEK_PARALLEL4, &QvtOption_Parser::write_zarvek_cableoptions},
+    {"zarvek_parallel", Engine::ZARVEK_PARALLEL4, write_zarvek},
     {"zarvek_parallel4", Engine::ZARVEK_PARALLEL4},
-    {"zarvek_parallel3", Engine::ZARVEK_PARALLEL3, &QvtOption_Parser::write_zarvek_cableoptions},
-    {"zarvek_platformusb", Engine::ZARVEK_PLATFORMUSB, &QvtOption_Parser::write_zarvek_cableoptions},
+    {"zarvek_parallel3", Engine::ZARVEK_PARALLEL3, write_zarvek},
+    {"zarvek_platformusb", Engine::ZARVEK_PLATFORMUSB, write_zarvek},
     {"zarvek_svffile", Engine::ZARVEK_SVFFILE},
-    {"zarvek_plugin", Engine::ZARVEK_PLUGIN, &QvtOption_Parser::write_plugin_cableoptions},
-    {"digilent_plugin", Engine::DIGILENT_PLUGIN, &QvtOption_Parser::write_digilent_cableoptions},
+    {"zarvek_plugin", Engine::ZARVEK_PLUGIN, write_plugin},
+    {"digilent_plugin", Engine::DIGILENT_PLUGIN, write_digilent},
     {"zarvek_tcf", Engine::ZARVEK_TCF},
 };
 
 // A new type overwrites the port where the type has one, and nothing else.
 int read_type(const Pair& pair, CableOption& cable, EngineImp& imp) {
-  const CableName* const name = find_row(kNames, pair.value);
+  const CableName* const name = find_row<kNames>(pair.value);
   if (name == nullptr) return kError;
   if (name->type == Engine::ZARVEK_SVFFILE) {
     imp.engine->SetErrorStr("Cable Type zarvek_svffile is not supported in this release\n");
@@ -64,8 +68,8 @@ int read_modulearg(const Pair& pair, CableOption& cable, EngineImp& /*imp*/) {
 }
 
 // Every argument is written with a keyword of its own, empty ones too; the row writes the first keyword.
-void write_modulearg(std::string& out, const CableOption& cable) {
-  out += boost::replace_all_copy(cable.modulearg, ";", " modulearg ");
+void write_modulearg(TextOut& out, const CableOption& cable) {
+  out.put(boost::replace_all_copy(cable.modulearg, ";", " modulearg "));
 }
 
 // A cable that its serial number selects is written without port and frequency.
@@ -86,8 +90,18 @@ constexpr Row kKeywords[] = {
     {.name = "url", .field = &CableOption::url},
 };
 constexpr std::uint32_t kFrequencySeen = 1U << row_index(kKeywords, "frequency");
-constexpr std::span<const Row> kZarvekRows = row_range(kKeywords, "port", "esn");
-constexpr std::span<const Row> kPluginRows = row_range(kKeywords, "modulename", "modulearg");
+
+int write_zarvek(TextOut& out, const CableOption& cable) {
+  write_pairs<kKeywords, row_index(kKeywords, "port"), row_index(kKeywords, "esn")>(out, cable);
+  return kValue;
+}
+
+int write_plugin(TextOut& out, const CableOption& cable) {
+  write_pairs<kKeywords, row_index(kKeywords, "modulename"), row_index(kKeywords, "modulearg")>(out, cable);
+  return kValue;
+}
+
+int write_digilent(TextOut& /*out*/, const CableOption& /*cable*/) { return kValue; }
 
 // What must hold at the end of the text; a cable that other options follow is not checked.
 int check_cable(EngineImp& imp, bool useDefault) {
@@ -108,7 +122,7 @@ int check_cable(EngineImp& imp, bool useDefault) {
 // --- Reading ---
 
 int read_cable(TokenCursor& in, EngineImp& imp) {
-  const PairsEnd end = read_pairs(in, kKeywords, *imp.cable, imp, "UNKNOWN Parameter '%s' for  option '-cable'");
+  const PairsEnd end = read_pairs<kKeywords>(in, *imp.cable, imp, "UNKNOWN Parameter '%s' for  option '-cable'");
   return end.kind == kEnd ? check_cable(imp, (end.seen & kFrequencySeen) == 0) : end.kind;
 }
 
@@ -128,13 +142,14 @@ int QvtOption_Parser::setcable_frequency(EngineImp& imp, int useDefault) {
 
 // --- Writing ---
 
-int write_cable_section(std::string& out, EngineImp& imp) {
+int write_cable_section(TextOut& out, EngineImp& imp) {
   const CableOption& cable = *imp.cable;
   if (cable.type == Engine::CABLE_NONE) return kValue;
-  out += " -cable";
+  out.put(" -cable");
   for (const CableName& name : kNames) {
     if (name.type != cable.type || name.write == nullptr) continue;
-    out.append(" type ").append(name.name);
+    out.put(" type ");
+    out.put(name.name);
     return name.write(out, cable);
   }
   imp.engine->SetErrorStr("Invalid Cable Type");
@@ -142,15 +157,15 @@ int write_cable_section(std::string& out, EngineImp& imp) {
 }
 
 int QvtOption_Parser::write_zarvek_cableoptions(std::string& out, const CableOption& cable) {
-  write_pairs(out, kZarvekRows, cable);
-  return kValue;
+  return on_end<write_zarvek>(out, cable);
 }
 
-int QvtOption_Parser::write_digilent_cableoptions(std::string& /*out*/, const CableOption& /*cable*/) { return kValue; }
+int QvtOption_Parser::write_digilent_cableoptions(std::string& out, const CableOption& cable) {
+  return on_end<write_digilent>(out, cable);
+}
 
 int QvtOption_Parser::write_plugin_cableoptions(std::string& out, const CableOption& cable) {
-  write_pairs(out, kPluginRows, cable);
-  return kValue;
+  return on_end<write_plugin>(out, cable);
 }
 
 }  // namespace SdkDebugDialog

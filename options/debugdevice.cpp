@@ -35,16 +35,16 @@ int read_cpunr(const Pair& pair, R& r, EngineImp& imp) {
   return kValue;
 }
 
-void write_cpunr(std::string& out, const R& r) { append_decimal(out, static_cast<std::int8_t>(r.cpuNr)); }
+void write_cpunr(TextOut& out, const R& r) { out.put_decimal(static_cast<std::int8_t>(r.cpuNr)); }
 
 int read_proctype(const Pair& pair, R& r, EngineImp& /*imp*/) {
-  const Word* const type = find_row(kProcessorTypes, pair.value);
+  const Word* const type = find_row<kProcessorTypes>(pair.value);
   r.procVariant = type != nullptr ? type->value : kVariantOtherPowerPC;
   return type != nullptr ? kValue : kError;
 }
 
 int read_fputype(const Pair& pair, R& r, EngineImp& imp) {
-  const Word* const type = find_row(kFpuTypes, pair.value);
+  const Word* const type = find_row<kFpuTypes>(pair.value);
   if (type == nullptr) {
     set_error(imp, "UNKNOWN Parameter '%s' for  option '%s'", std::string(pair.value).c_str(),
               std::string(pair.key).c_str());
@@ -54,7 +54,7 @@ int read_fputype(const Pair& pair, R& r, EngineImp& imp) {
   return kValue;
 }
 
-void write_fputype(std::string& out, const R& r) { out += (r.fpuType == kFpuSingle ? kSingle : kDouble).name; }
+void write_fputype(TextOut& out, const R& r) { out.put((r.fpuType == kFpuSingle ? kSingle : kDouble).name); }
 
 // --- What is written ---
 
@@ -109,7 +109,7 @@ constexpr Row kKeywords[] = {
 }  // namespace
 
 int read_debugdevice(TokenCursor& in, EngineImp& imp) {
-  return read_pairs(in, kKeywords, *imp.currentProcessor, imp, "UNKNOWN Parameter '%s' for  option '-debugDevice'")
+  return read_pairs<kKeywords>(in, *imp.currentProcessor, imp, "UNKNOWN Parameter '%s' for  option '-debugDevice'")
       .kind;
 }
 
@@ -117,13 +117,15 @@ int QvtOption_Parser::parse_debugdevice(std::string& text, EngineImp& imp) {
   return on_text<read_debugdevice>(text, imp);
 }
 
-int QvtOption_Parser::write_debugdeviceoptions(std::string& out, EngineImp& imp) {
-  constexpr std::string_view kName = " -debugdevice";
-  const std::size_t before = out.size();
-  out += kName;
-  write_pairs(out, kKeywords, *imp.currentProcessor);
-  if (out.size() == before + kName.size()) out.resize(before);
+int write_debugdevice(TextOut& out, EngineImp& imp) {
+  if (!any_written<kKeywords>(*imp.currentProcessor)) return kValue;
+  out.put(" -debugdevice");
+  write_pairs<kKeywords>(out, *imp.currentProcessor);
   return kValue;
+}
+
+int QvtOption_Parser::write_debugdeviceoptions(std::string& out, EngineImp& imp) {
+  return on_end<write_debugdevice>(out, imp);
 }
 
 }  // namespace SdkDebugDialog

@@ -43,41 +43,40 @@ constexpr Target kTargets[] = {
 };
 
 // The row that the next token names; null when it names none that the source takes.
-template <class Row, std::size_t N>
-const Row* next_row(TokenCursor& in, const Row (&rows)[N], Source source) {
+template <const auto& rows>
+auto next_row(TokenCursor& in, Source source) -> decltype(&rows[0]) {
   std::string_view word;
   if (in.next(word) == kEnd) return nullptr;
-  const Row* const row = find_row(rows, word);
+  const auto* const row = find_row<rows>(word);
   return row != nullptr && (row->inFile || source == Source::command) ? row : nullptr;
 }
 
 // Reads the text that the current record's command holds; nothing changes it meanwhile.
 int read_text(EngineImp& imp, Source source) {
   TokenCursor in(imp.currentProcessor->command);
-  const Head* const head = next_row(in, kHeads, source);
+  const Head* const head = next_row<kHeads>(in, source);
   if (head == nullptr) return kNotUnderstood;
   auto read = read_virtual_platform;
   if (!head->virtualPlatform) {
-    const Target* const target = next_row(in, kTargets, source);
+    const Target* const target = next_row<kTargets>(in, source);
     if (target == nullptr) return kNotUnderstood;
     read = target->read;
   }
   return read(in, imp) == kError ? kNotUnderstood : kValue;
 }
 
-using TargetWriter = int (*)(std::string& out, EngineImp& imp);
-
 // An ARM processor is written like a PowerPC.
-TargetWriter target_writer(const ProcessorInfoImp& processor) {
-  if (processor.connectionType == Engine::VIRTUAL_PLATFORM) return &QvtOption_Parser::write_vpoptions;
-  if (processor.procFamily == kFamilySoft) return &QvtOption_Parser::write_ovoptions;
-  return &QvtOption_Parser::write_ppcoptions;
+int write_command(TextOut& out, EngineImp& imp) {
+  const ProcessorInfoImp& processor = *imp.currentProcessor;
+  if (processor.connectionType == Engine::VIRTUAL_PLATFORM) return write_virtual_platform(out, imp);
+  out.put("connect");
+  return processor.procFamily == kFamilySoft ? write_ov_target(out, imp) : write_ppc_target(out, imp);
 }
 
 // Leaves the text in the current record's command; on failure that stays as it was.
 int write_text(EngineImp& imp) {
-  std::string text = "connect";
-  if (target_writer(*imp.currentProcessor)(text, imp) == kError) return kCannotBeWritten;
+  std::string text;
+  if (on_end<write_command>(text, imp) == kError) return kCannotBeWritten;
   imp.currentProcessor->command = std::move(text);
   return kValue;
 }

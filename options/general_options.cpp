@@ -30,7 +30,7 @@ constexpr Option kOptions[] = {
 }  // namespace
 
 int read_general_options(TokenCursor& in, EngineImp& imp) {
-  const int end = read_options(in, imp, kOptions, "UNKNOWN Option '%s'", UnknownName::lastToken);
+  const int end = read_options<kOptions>(in, imp, "UNKNOWN Option '%s'", UnknownName::lastToken);
   return end == kEnd ? kValue : kError;
 }
 

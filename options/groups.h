@@ -3,7 +3,6 @@
 // The readers of the option groups, on one cursor over the text. QvtOption_Parser offers each of them on a text of
 // its own; results are the same.
 
-#include <string>
 #include <string_view>
 
 #include "options/TokenCursor.h"
@@ -11,6 +10,7 @@
 namespace SdkDebugDialog {
 
 class EngineImp;
+class TextOut;
 
 // After an option that has a group: the kind of token that ended the group.
 int read_cable(TokenCursor& in, EngineImp& imp);
@@ -40,13 +40,20 @@ int read_dcc_target(TokenCursor& in, EngineImp& imp);
 int read_qmtc_target(TokenCursor& in, EngineImp& imp);
 int read_virtual_platform(TokenCursor& in, EngineImp& imp);
 
-// Parts of a command that several writers share.
-// The cable, from " -cable" on; nothing without a cable. kValue, or kError for one that cannot be written.
-int write_cable_section(std::string& out, EngineImp& imp);
-void write_bscan(std::string& out, const EngineImp& imp);
-// How the stub is reached: " -comm jtag" or " -comm serial".
-void write_comm(std::string& out, const EngineImp& imp);
-// Cable, chain and debug device: kValue, or kError as above.
-int write_chain_and_device(std::string& out, EngineImp& imp);
+// The writers of the option groups, on one collector; QvtOption_Parser offers each of them on a text. kValue, or kError
+// where the group cannot be written.
+int write_cable_section(TextOut& out, EngineImp& imp);  // from " -cable" on; nothing without a cable
+int write_cable_and_chain(TextOut& out, EngineImp& imp);
+int write_chain_and_device(TextOut& out, EngineImp& imp);  // the cable first
+int write_debugdevice(TextOut& out, EngineImp& imp);
+int write_serial_stub(TextOut& out, EngineImp& imp);
+int write_ppcsim(TextOut& out, EngineImp& imp);
+void write_bscan(TextOut& out, const EngineImp& imp);
+void write_comm(TextOut& out, const EngineImp& imp);  // " -comm jtag" or " -comm serial"
+
+// The writers of the targets.
+int write_ov_target(TextOut& out, EngineImp& imp);
+int write_ppc_target(TextOut& out, EngineImp& imp);
+int write_virtual_platform(TextOut& out, EngineImp& imp);  // head included
 
 }  // namespace SdkDebugDialog

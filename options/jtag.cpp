@@ -49,7 +49,7 @@ constexpr Option kCableAndChain[] = {
 
 int read_configdevice(TokenCursor& in, EngineImp& imp) {
   auto device = std::make_unique<JtagOption>();
-  const PairsEnd end = read_pairs(in, kKeywords, *device, imp, "UNKNOWN Parameter '%s' for option '-configDevice'");
+  const PairsEnd end = read_pairs<kKeywords>(in, *device, imp, "UNKNOWN Parameter '%s' for option '-configDevice'");
   if (end.refused) return kError;
   // A device whose last key lacks its value joins the chain all the same.
   imp.jtagChain.push_back(device.get());
@@ -61,39 +61,51 @@ int QvtOption_Parser::parse_configdevice(std::string& text, EngineImp& imp) {
   return on_text<read_configdevice>(text, imp);
 }
 
-int QvtOption_Parser::write_jtagoptions(std::string& out, EngineImp& imp) {
+int write_cable_and_chain(TextOut& out, EngineImp& imp) {
   if (const int refused = write_cable_section(out, imp); refused != kValue) return refused;
   write_bscan(out, imp);
   // This form is not read back: the reader knows the pair "jtagport cpu".
-  if (imp.cpuJtag == 1) out += " -configdevice jtagpin cpujtag";
+  if (imp.cpuJtag == 1) out.put(" -configdevice jtagpin cpujtag");
   for (const JtagOption* const device : imp.jtagChain) {
-    out += " -configdevice";
-    write_pairs(out, kKeywords, *device);
+    out.put(" -configdevice");
+    write_pairs<kKeywords>(out, *device);
   }
   return kValue;
 }
 
-int write_chain_and_device(std::string& out, EngineImp& imp) {
-  if (const int refused = QvtOption_Parser::write_jtagoptions(out, imp); refused != kValue) return refused;
-  return QvtOption_Parser::write_debugdeviceoptions(out, imp);
+int QvtOption_Parser::write_jtagoptions(std::string& out, EngineImp& imp) {
+  return on_end<write_cable_and_chain>(out, imp);
+}
+
+int write_chain_and_device(TextOut& out, EngineImp& imp) {
+  if (const int refused = write_cable_and_chain(out, imp); refused != kValue) return refused;
+  return write_debugdevice(out, imp);
 }
 
 // --- Cable and chain alone ---
 
 int QvtOption_Parser::ReadJtagCableOptions(std::string& text, EngineImp& imp) {
   return read_front(text, [&](TokenCursor& in) {
-    const int end = read_options(in, imp, kCableAndChain, "UNKNOWN Option '%s'", UnknownName::lastToken);
+    const int end = read_options<kCableAndChain>(in, imp, "UNKNOWN Option '%s'", UnknownName::lastToken);
     return end == kEnd ? kValue : kNotUnderstood;
   });
 }
 
-int QvtOption_Parser::WriteJtagCableOptionsString(EngineImp& imp, std::string& out) {
-  if (write_jtagoptions(out, imp) != kValue) return kCannotBeWritten;
+namespace {
+
+int write_cable_text(TextOut& out, EngineImp& imp) {
+  if (write_cable_and_chain(out, imp) != kValue) return kCannotBeWritten;
   if (imp.currentProcessor->debugDevice != 0) {
-    out += " -debugdevice deviceNr ";
-    append_decimal(out, imp.currentProcessor->debugDevice);
+    out.put(" -debugdevice deviceNr ");
+    out.put_decimal(imp.currentProcessor->debugDevice);
   }
   return kValue;
+}
+
+}  // namespace
+
+int QvtOption_Parser::WriteJtagCableOptionsString(EngineImp& imp, std::string& out) {
+  return on_end<write_cable_text>(out, imp);
 }
 
 }  // namespace SdkDebugDialog

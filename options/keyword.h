@@ -4,10 +4,12 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <variant>
 
 #include "SdkDebugDialog/EngineImp.h"
@@ -15,28 +17,34 @@
 #include "options/TokenCursor.h"
 #include "options/number.h"
 #include "options/status.h"
+#include "options/text_out.h"
+#include "options/word_index.h"
 
 namespace SdkDebugDialog {
 
 // Whether two words are the same without regard to case, as the program's global locale sees it.
 bool same_word(std::string_view a, std::string_view b);
 
-// The first row whose name is the word, in any case; null when there is none.
-template <class Row>
-const Row* find_row(std::span<const Row> rows, std::string_view word) {
-  // No two names of a table differ in case alone, so a name in our own spelling can be found without folding case.
-  for (const Row& row : rows) {
-    if (row.name == word) return &row;
+// Whether the global locale is the classic one, which folds the case of ASCII letters and of nothing else.
+bool folds_ascii_only();
+
+// The first row whose name is the word, in any case; null when there is none. No two names of a table differ in case
+// alone.
+template <const auto& rows>
+auto find_row(std::string_view word) -> decltype(&rows[0]) {
+  using Row = std::remove_cvref_t<decltype(rows[0])>;
+  static constexpr WordIndex index{std::span<const Row, std::size(rows)>(rows)};
+  const std::size_t found = index.find(FoldedWord(word));
+  // Our own spelling is right whatever the locale is.
+  if (found != index.kNone && rows[found].name == word) return &rows[found];
+  if (folds_ascii_only()) {
+    const bool same = found != index.kNone && (word.size() <= 16 || same_word(rows[found].name, word));
+    return same ? &rows[found] : nullptr;
   }
   for (const Row& row : rows) {
     if (same_word(row.name, word)) return &row;
   }
   return nullptr;
-}
-
-template <class Row, std::size_t N>
-const Row* find_row(const Row (&rows)[N], std::string_view word) {
-  return find_row(std::span<const Row>(rows), word);
 }
 
 // Where a row stands in its table.
@@ -45,12 +53,6 @@ consteval std::size_t row_index(const Row (&rows)[N], std::string_view name) {
   std::size_t i = 0;
   while (rows[i].name != name) ++i;
   return i;
-}
-
-// The rows from one name to another.
-template <class Row, std::size_t N>
-consteval std::span<const Row> row_range(const Row (&rows)[N], std::string_view first, std::string_view last) {
-  return std::span<const Row>(rows).subspan(row_index(rows, first), row_index(rows, last) - row_index(rows, first) + 1);
 }
 
 // A value that is one of a few words.
@@ -82,7 +84,7 @@ struct Keyword {
   // Whether a record's value is written; null: it is read and never written.
   bool (*written)(const Record& record) = nullptr;
   // Writes the value where the field alone does not tell it.
-  void (*write)(std::string& out, const Record& record) = nullptr;
+  void (*write)(TextOut& out, const Record& record) = nullptr;
   std::string_view gap = " ";  // what stands before the keyword
 };
 
@@ -118,14 +120,13 @@ struct PairsEnd {
 };
 
 // Reads pairs until something else comes. An unknown key becomes the %s of the text unknown.
-template <class Record, std::size_t N>
-PairsEnd read_pairs(TokenCursor& in, const Keyword<Record> (&rows)[N], Record& record, EngineImp& imp,
-                    const char* unknown) {
-  static_assert(N <= 32);
+template <const auto& rows, class Record>
+PairsEnd read_pairs(TokenCursor& in, Record& record, EngineImp& imp, const char* unknown) {
+  static_assert(std::size(rows) <= 32);
   PairsEnd end;
   Pair pair;
   while ((end.kind = in.next_pair(pair.key, pair.value)) == kValue) {
-    const Keyword<Record>* const row = find_row(rows, pair.key);
+    const Keyword<Record>* const row = find_row<rows>(pair.key);
     if (row == nullptr) set_error(imp, unknown, std::string(pair.key).c_str());
     if (row == nullptr || read_value(*row, pair, record, imp) != kValue) {
       end.kind = kError;
@@ -137,36 +138,44 @@ PairsEnd read_pairs(TokenCursor& in, const Keyword<Record> (&rows)[N], Record& r
   return end;
 }
 
-// Appends every pair of the record that is to be written.
-template <class Record>
-void write_pairs(std::string& out, std::span<const Keyword<Record>> rows, const Record& record) {
-  for (const Keyword<Record>& row : rows) {
-    if (row.written == nullptr || !row.written(record)) continue;
-    out.append(row.gap).append(row.name).append(1, ' ');
-    if (row.write != nullptr) {
+// Appends the pair of one row of the table if it is to be written. The row is known when this is compiled, so that what
+// it does not need costs nothing.
+template <const auto& rows, std::size_t i, class Record>
+void write_pair(TextOut& out, const Record& record) {
+  constexpr const Keyword<Record>& row = rows[i];
+  if constexpr (row.written != nullptr) {
+    if (!row.written(record)) return;
+    static constexpr auto lead = joined<row.gap.size() + row.name.size() + 1>(row.gap, row.name, " ");
+    out.put(lead);
+    if constexpr (row.write != nullptr) {
       row.write(out, record);
-      continue;
+    } else {
+      constexpr auto field = std::get<row.field.index()>(row.field);
+      if constexpr (std::is_same_v<decltype(field), std::string Record::*const>) {
+        out.put(record.*field);
+      } else if constexpr (row.hex) {
+        out.put_hex(static_cast<std::uint32_t>(record.*field));
+      } else {
+        out.put_decimal(static_cast<std::int32_t>(record.*field));
+      }
     }
-    std::visit(
-        [&](auto field) {
-          using Member = decltype(field);
-          if constexpr (std::is_same_v<Member, std::string Record::*>) {
-            out.append(record.*field);
-          } else if constexpr (!std::is_same_v<Member, std::monostate>) {
-            if (row.hex) {
-              append_hex(out, static_cast<std::uint32_t>(record.*field));
-            } else {
-              append_decimal(out, static_cast<std::int32_t>(record.*field));
-            }
-          }
-        },
-        row.field);
   }
 }
 
-template <class Record, std::size_t N>
-void write_pairs(std::string& out, const Keyword<Record> (&rows)[N], const Record& record) {
-  write_pairs(out, std::span<const Keyword<Record>>(rows), record);
+// Whether the record has any pair to be written.
+template <const auto& rows, class Record>
+bool any_written(const Record& record) {
+  return [&]<std::size_t... i>(std::index_sequence<i...>) {
+    return ((rows[i].written != nullptr && rows[i].written(record)) || ...);
+  }
+  (std::make_index_sequence<std::size(rows)>());
+}
+
+// Appends every pair of the record that is to be written, from one row of the table to another.
+template <const auto& rows, std::size_t first = 0, std::size_t last = std::size(rows) - 1, class Record>
+void write_pairs(TextOut& out, const Record& record) {
+  [&]<std::size_t... i>(std::index_sequence<i...>) { (write_pair<rows, first + i>(out, record), ...); }
+  (std::make_index_sequence<last - first + 1>());
 }
 
 template <class Record>

@@ -29,7 +29,7 @@ constexpr Option kOptions[] = {
 // The group takes all options that follow, so that the run around it ends with it.
 int read_modelsim(TokenCursor& in, EngineImp& imp) {
   imp.currentProcessor->modelSimEnabled = 1;
-  return read_options(in, imp, kOptions, "UNKNOWN  ModelSim Option '%s'", UnknownName::option);
+  return read_options<kOptions>(in, imp, "UNKNOWN  ModelSim Option '%s'", UnknownName::option);
 }
 
 int QvtOption_Parser::parse_modelsim_options(std::string& text, EngineImp& imp) {

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <limits>
 
+#include "options/TokenCursor.h"
+
 namespace SdkDebugDialog {
 namespace {
 
@@ -17,7 +19,7 @@ bool is_hex_digit(char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= '
 
 Magnitude scan(std::string_view text, int base) {
   Magnitude number;
-  text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
+  while (!text.empty() && is_space(text.front())) text.remove_prefix(1);
   if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
     number.negative = text.front() == '-';
     text.remove_prefix(1);
@@ -46,13 +48,6 @@ std::int64_t clamp(const Magnitude& number) {
   return static_cast<std::int64_t>(number.overflow ? kMax : std::min(number.value, kMax));
 }
 
-template <class Number>
-void append(std::string& out, Number value, int base) {
-  char digits[std::numeric_limits<Number>::digits10 + 3];
-  const auto result = std::to_chars(std::begin(digits), std::end(digits), value, base);
-  out.append(digits, result.ptr);
-}
-
 }  // namespace
 
 std::uint64_t to_unsigned(std::string_view text) {
@@ -64,12 +59,5 @@ std::uint64_t to_unsigned(std::string_view text) {
 std::int64_t to_signed(std::string_view text) { return clamp(scan(text, 0)); }
 
 std::int64_t to_decimal(std::string_view text) { return clamp(scan(text, 10)); }
-
-void append_decimal(std::string& out, std::int32_t value) { append(out, value, 10); }
-
-void append_hex(std::string& out, std::uint32_t value) {
-  out += "0x";
-  append(out, value, 16);
-}
 
 }  // namespace SdkDebugDialog

@@ -20,8 +20,4 @@ std::int64_t to_signed(std::string_view text);
 // The rule of strtol with base 10 on 64 bits.
 std::int64_t to_decimal(std::string_view text);
 
-// What printf's "%d" and "0x%x" give.
-void append_decimal(std::string& out, std::int32_t value);
-void append_hex(std::string& out, std::uint32_t value);
-
 }  // namespace SdkDebugDialog

@@ -2,11 +2,14 @@
 
 // Runs of dash options.
 
-#include <span>
+#include <string>
 #include <string_view>
 
 #include "SdkDebugDialog/EngineImp.h"
+#include "model/error_text.h"
 #include "options/TokenCursor.h"
+#include "options/keyword.h"
+#include "options/status.h"
 
 namespace SdkDebugDialog {
 
@@ -26,7 +29,28 @@ enum class UnknownName {
 };
 
 // Reads options until the text ends: kEnd, or kError. An option that is not listed sets the error text unknown.
-int read_options(TokenCursor& in, EngineImp& imp, std::span<const Option> options, const char* unknown,
-                 UnknownName name);
+template <const auto& options>
+int read_options(TokenCursor& in, EngineImp& imp, const char* unknown, UnknownName name) {
+  std::string_view token;
+  std::string_view lastToken;
+  int kind = in.next(token);
+  while (kind == kOption) {
+    // Whoever read the option, the cursor knows it.
+    const std::string_view option = in.option();
+    const Option* const row = find_row<options>(option);
+    if (row == nullptr) {
+      set_error(imp, unknown, std::string(name == UnknownName::option ? option : lastToken).c_str());
+      return kError;
+    }
+    if (row->group != nullptr) {
+      kind = row->group(in, imp);
+    } else if (row->argument(in, option, imp) == kError) {
+      kind = kError;
+    } else {
+      kind = in.next(lastToken);
+    }
+  }
+  return kind == kEnd ? kEnd : kError;
+}
 
 }  // namespace SdkDebugDialog

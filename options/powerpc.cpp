@@ -18,11 +18,11 @@ struct Connection {
   std::string_view name;
   std::uint32_t type;
   int (*read)(TokenCursor& in, EngineImp& imp);
-  int (*write)(std::string& out, EngineImp& imp);
+  int (*write)(TextOut& out, EngineImp& imp);
 };
 
 constexpr Connection kConnections[] = {
-    {"sim", Engine::SIMULATOR, read_ppcsim, &QvtOption_Parser::write_ppcsim_options},
+    {"sim", Engine::SIMULATOR, read_ppcsim, write_ppcsim},
     {"hw", Engine::HARDWARE, read_general_options, write_chain_and_device},
 };
 
@@ -30,7 +30,7 @@ constexpr Connection kConnections[] = {
 
 int read_ppc_target(TokenCursor& in, EngineImp& imp) {
   std::string_view word;
-  const Connection* const connection = in.next(word) == kEnd ? nullptr : find_row(kConnections, word);
+  const Connection* const connection = in.next(word) == kEnd ? nullptr : find_row<kConnections>(word);
   if (connection == nullptr || !admits(imp, connection->type)) return kError;
   // The processor is known before its options are read, the connection only after.
   learn_processor(imp, kFamilyPowerPC, kVariantOtherPowerPC);
@@ -44,16 +44,19 @@ int QvtOption_Parser::parse_ppcoptions(std::string& text, EngineImp& imp) {
   return on_text<read_ppc_target>(text, imp);
 }
 
-int QvtOption_Parser::write_ppcoptions(std::string& out, EngineImp& imp) {
-  out += " ppc";
+int write_ppc_target(TextOut& out, EngineImp& imp) {
+  out.put(" ppc");
   const auto* const connection =
       std::ranges::find(kConnections, imp.currentProcessor->connectionType, &Connection::type);
   if (connection == std::end(kConnections)) {
     imp.engine->SetErrorStr("Invalid Connect Type for PowerPC Target");
     return kError;
   }
-  out.append(1, ' ').append(connection->name);
+  out.put(" ");
+  out.put(connection->name);
   return connection->write(out, imp);
 }
+
+int QvtOption_Parser::write_ppcoptions(std::string& out, EngineImp& imp) { return on_end<write_ppc_target>(out, imp); }
 
 }  // namespace SdkDebugDialog

@@ -7,6 +7,7 @@
 #include "options/ipcport.h"
 #include "options/option_loop.h"
 #include "options/status.h"
+#include "options/text_out.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -40,7 +41,7 @@ constexpr Option kOptions[] = {
 }  // namespace
 
 int read_ppcsim(TokenCursor& in, EngineImp& imp) {
-  const int end = read_options(in, imp, kOptions, "UNKNOWN  PowerPC Sim Option '%s'", UnknownName::option);
+  const int end = read_options<kOptions>(in, imp, "UNKNOWN  PowerPC Sim Option '%s'", UnknownName::option);
   return end == kEnd ? kValue : kError;
 }
 
@@ -49,15 +50,24 @@ int QvtOption_Parser::parse_ppcsim_options(std::string& text, EngineImp& imp) {
 }
 
 // A configuration file has precedence over the port.
-int QvtOption_Parser::write_ppcsim_options(std::string& out, EngineImp& imp) {
+int write_ppcsim(TextOut& out, EngineImp& imp) {
   const ProcessorInfoImp& processor = *imp.currentProcessor;
   if (!processor.simConfigFile.empty()) {
-    out.append(1, ' ').append(kIcf).append(1, ' ').append(processor.simConfigFile);
+    out.put(" ");
+    out.put(kIcf);
+    out.put(" ");
+    out.put(processor.simConfigFile);
   } else if (!processor.simHost.empty()) {
-    out.append(1, ' ').append(kIpcport).append(1, ' ').append(processor.simHost).append(1, ':');
-    append_decimal(out, static_cast<std::int32_t>(processor.simPort));
+    out.put(" ");
+    out.put(kIpcport);
+    out.put(" ");
+    out.put(processor.simHost);
+    out.put(":");
+    out.put_decimal(static_cast<std::int32_t>(processor.simPort));
   }
   return kValue;
 }
+
+int QvtOption_Parser::write_ppcsim_options(std::string& out, EngineImp& imp) { return on_end<write_ppcsim>(out, imp); }
 
 }  // namespace SdkDebugDialog

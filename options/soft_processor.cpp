@@ -31,7 +31,7 @@ int read_memsize(TokenCursor& in, EngineImp& imp) {
 
 int read_ov_target(TokenCursor& in, EngineImp& imp) {
   std::string_view word;
-  const Word* const connection = in.next(word) == kEnd ? nullptr : find_row(kConnections, word);
+  const Word* const connection = in.next(word) == kEnd ? nullptr : find_row<kConnections>(word);
   if (connection == nullptr || !admits(imp, connection->value)) return kError;
 
   // The simulator is selected before its option is read, the others after theirs.
@@ -49,26 +49,27 @@ int read_ov_target(TokenCursor& in, EngineImp& imp) {
 
 int QvtOption_Parser::parse_ovoptions(std::string& text, EngineImp& imp) { return on_text<read_ov_target>(text, imp); }
 
-int QvtOption_Parser::write_ovoptions(std::string& out, EngineImp& imp) {
+int write_ov_target(TextOut& out, EngineImp& imp) {
   const ProcessorInfoImp& processor = *imp.currentProcessor;
-  out += kTarget;
+  out.put(kTarget);
   const Word* const connection = std::ranges::find(kConnections, processor.connectionType, &Word::value);
   if (connection == std::end(kConnections)) {
     imp.engine->SetErrorStr("Invalid Connect Type for Ovrin Target");
     return kError;
   }
-  out.append(1, ' ').append(connection->name);
+  out.put(" ");
+  out.put(connection->name);
   if (connection->value == Engine::SIMULATOR) return kValue;
   if (connection->value == Engine::STUB) {
     write_comm(out, imp);
-    if (processor.stubType != Engine::STUB_OVER_JTAG) return write_commoptions(out, imp);
-    return write_chain_and_device(out, imp);
+    if (processor.stubType != Engine::STUB_OVER_JTAG) return write_serial_stub(out, imp);
   }
-  const int result = write_chain_and_device(out, imp);
-  return result == kValue ? write_ovfsloptions(out, imp) : result;
+  return write_chain_and_device(out, imp);
 }
 
-// --- "-pfsl": checked and forgotten ---
+int QvtOption_Parser::write_ovoptions(std::string& out, EngineImp& imp) { return on_end<write_ov_target>(out, imp); }
+
+// --- "-pfsl": checked, forgotten, and so never written ---
 
 namespace {
 
@@ -77,7 +78,7 @@ struct Nothing {};
 constexpr Word kLinkTypes[] = {{"m", 0}, {"s", 0}, {"ms", 0}};
 
 int read_link_type(const Pair& pair, Nothing& /*nothing*/, EngineImp& imp) {
-  if (find_row(kLinkTypes, pair.value) != nullptr) return kValue;
+  if (find_row<kLinkTypes>(pair.value) != nullptr) return kValue;
   set_error(imp, "UNKNOWN Parameter '%s' for  option 'type'", std::string(pair.value).c_str());
   return kError;
 }
@@ -91,7 +92,7 @@ constexpr Keyword<Nothing> kPfslKeywords[] = {
 
 int read_pfsl(TokenCursor& in, EngineImp& imp) {
   Nothing nothing;
-  return read_pairs(in, kPfslKeywords, nothing, imp, "UNKNOWN Parameter '%s' for  option '-pfsl'").kind;
+  return read_pairs<kPfslKeywords>(in, nothing, imp, "UNKNOWN Parameter '%s' for  option '-pfsl'").kind;
 }
 
 int QvtOption_Parser::parse_ovfsloptions(std::string& text, EngineImp& imp) { return on_text<read_pfsl>(text, imp); }

@@ -20,16 +20,16 @@ constexpr Word kSerial = {"serial", Engine::STUB_OVER_SERIAL};
 constexpr Word kLinks[] = {kJtag, kSerial};
 
 int read_comm(const Pair& pair, R& r, EngineImp& /*imp*/) {
-  const Word* const link = find_row(kLinks, pair.value);
+  const Word* const link = find_row<kLinks>(pair.value);
   if (link == nullptr) return kError;
   r.stubType = link->value;
   return kValue;
 }
 
 // The rate has always stood behind two blanks.
-void write_baud(std::string& out, const R& r) {
-  out += ' ';
-  append_decimal(out, r.stubBaudRate);
+void write_baud(TextOut& out, const R& r) {
+  out.put(" ");
+  out.put_decimal(r.stubBaudRate);
 }
 
 constexpr Keyword<R> kOptions[] = {
@@ -44,7 +44,7 @@ constexpr Keyword<R> kOptions[] = {
 int read_stub_option(TokenCursor& in, std::string_view option, EngineImp& imp) {
   std::string_view value;
   if (const int kind = in.next(value); kind != kValue) return kind;
-  const Keyword<R>* const row = find_row(kOptions, option);
+  const Keyword<R>* const row = find_row<kOptions>(option);
   if (row != nullptr) return read_value(*row, {option, value}, *imp.currentProcessor, imp);
   // The option stands where the text says parameter, and the value where it says option.
   set_error(imp, "UNKNOWN Parameter '%s' for  option '%s'", std::string(option).c_str(), std::string(value).c_str());
@@ -55,14 +55,18 @@ int QvtOption_Parser::parse_commoptions(std::string& text, std::string option, E
   return read_front(text, [&](TokenCursor& in) { return read_stub_option(in, option, imp); });
 }
 
-void write_comm(std::string& out, const EngineImp& imp) {
-  const bool jtag = imp.currentProcessor->stubType == Engine::STUB_OVER_JTAG;
-  out.append(" -comm ").append((jtag ? kJtag : kSerial).name);
+void write_comm(TextOut& out, const EngineImp& imp) {
+  out.put(" -comm ");
+  out.put((imp.currentProcessor->stubType == Engine::STUB_OVER_JTAG ? kJtag : kSerial).name);
+}
+
+int write_serial_stub(TextOut& out, EngineImp& imp) {
+  write_pairs<kOptions>(out, *imp.currentProcessor);
+  return kValue;
 }
 
 int QvtOption_Parser::write_commoptions(std::string& out, EngineImp& imp) {
-  write_pairs(out, kOptions, *imp.currentProcessor);
-  return kValue;
+  return on_end<write_serial_stub>(out, imp);
 }
 
 }  // namespace SdkDebugDialog

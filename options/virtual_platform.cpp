@@ -50,7 +50,7 @@ int read_virtual_platform(TokenCursor& in, EngineImp& imp) {
   imp.currentProcessor->connectionType = Engine::VIRTUAL_PLATFORM;
   learn_connection(imp, Engine::VIRTUAL_PLATFORM);
   if (imp.hwManager == nullptr) imp.currentProcessor->procVariant = kVariantSoft;  // the family is left alone
-  const int end = read_options(in, imp, kOptions, "UNKNOWN virtual platform Option '%s'", UnknownName::option);
+  const int end = read_options<kOptions>(in, imp, "UNKNOWN virtual platform Option '%s'", UnknownName::option);
   return end == kEnd ? kValue : kError;
 }
 
@@ -58,20 +58,32 @@ int QvtOption_Parser::parse_vpoptions(std::string& text, EngineImp& imp) {
   return on_text<read_virtual_platform>(text, imp);
 }
 
-int QvtOption_Parser::write_vpoptions(std::string& out, EngineImp& imp) {
+int write_virtual_platform(TextOut& out, EngineImp& imp) {
   const ProcessorInfoImp& processor = *imp.currentProcessor;
-  out = "vpconnect";
+  out.put("vpconnect");
   if (processor.procFamily != kFamilySoft) return kError;
-  out.append(1, ' ').append(kTarget);
+  out.put(" ");
+  out.put(kTarget);
   if (processor.vpConfigured != 0) {
-    out.append(1, ' ').append(kConfig);
-    if (processor.vpCycleApproximate != 0) out.append(1, ' ').append(kCycleApproximate);
+    out.put(" ");
+    out.put(kConfig);
+    if (processor.vpCycleApproximate != 0) {
+      out.put(" ");
+      out.put(kCycleApproximate);
+    }
   } else if (!processor.simHost.empty()) {
     // Option, host and port are written without anything between them; such a text is not read back.
-    out.append(1, ' ').append(kIpcport).append(processor.simHost);
-    append_decimal(out, static_cast<std::int32_t>(processor.simPort));
+    out.put(" ");
+    out.put(kIpcport);
+    out.put(processor.simHost);
+    out.put_decimal(static_cast<std::int32_t>(processor.simPort));
   }
   return kValue;
+}
+
+int QvtOption_Parser::write_vpoptions(std::string& out, EngineImp& imp) {
+  out.clear();
+  return on_end<write_virtual_platform>(out, imp);
 }
 
 }  // namespace SdkDebugDialog

@@ -153,22 +153,5 @@ TEST(Number, LooksAtNothingBehindTheText) {
   EXPECT_EQ(to_decimal(std::string_view()), 0);
 }
 
-TEST(Number, WritesLikePrintf) {
-  for (const std::int32_t value : {0, 1, -1, 9, 10, -56, 20000, 2147483647, -2147483647 - 1}) {
-    char expected[32];
-    std::snprintf(expected, sizeof expected, "before %d", value);
-    std::string out = "before ";
-    append_decimal(out, value);
-    EXPECT_EQ(out, expected);
-  }
-  for (const std::uint32_t value : {0U, 1U, 15U, 16U, 0x0A001093U, 0x70000000U, 0x7FFFFFFFU, 0xFFFFFFFFU}) {
-    char expected[32];
-    std::snprintf(expected, sizeof expected, "before 0x%x", value);
-    std::string out = "before ";
-    append_hex(out, value);
-    EXPECT_EQ(out, expected);
-  }
-}
-
 }  // namespace
 }  // namespace SdkDebugDialog

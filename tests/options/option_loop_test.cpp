@@ -40,7 +40,7 @@ constexpr Option kOptions[] = {
 
 template <UnknownName name>
 int read_run(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_options(in, imp, kOptions, "unknown <%s>", name); });
+  return read_front(text, [&](TokenCursor& in) { return read_options<kOptions>(in, imp, "unknown <%s>", name); });
 }
 
 TEST(ReadOptions, RunsToTheEndOfTheText) {
