@@ -143,21 +143,22 @@ PairsEnd read_pairs(TokenCursor& in, Record& record, EngineImp& imp, const char*
 template <const auto& rows, std::size_t i, class Record>
 void write_pair(TextOut& out, const Record& record) {
   constexpr const Keyword<Record>& row = rows[i];
-  if constexpr (row.written != nullptr) {
-    if (!row.written(record)) return;
-    static constexpr auto lead = joined<row.gap.size() + row.name.size() + 1>(row.gap, row.name, " ");
-    out.put(lead);
-    if constexpr (row.write != nullptr) {
-      row.write(out, record);
+  if (row.written == nullptr || !row.written(record)) return;
+  static constexpr auto lead = joined<row.gap.size() + row.name.size() + 1>(row.gap, row.name, " ");
+  out.put(lead);
+  if (row.write != nullptr) {
+    row.write(out, record);
+    return;
+  }
+  constexpr auto field = std::get<row.field.index()>(row.field);
+  using Member = std::remove_const_t<decltype(field)>;
+  if constexpr (std::is_same_v<Member, std::string Record::*>) {
+    out.put(record.*field);
+  } else if constexpr (!std::is_same_v<Member, std::monostate>) {
+    if (row.hex) {
+      out.put_hex(static_cast<std::uint32_t>(record.*field));
     } else {
-      constexpr auto field = std::get<row.field.index()>(row.field);
-      if constexpr (std::is_same_v<decltype(field), std::string Record::*const>) {
-        out.put(record.*field);
-      } else if constexpr (row.hex) {
-        out.put_hex(static_cast<std::uint32_t>(record.*field));
-      } else {
-        out.put_decimal(static_cast<std::int32_t>(record.*field));
-      }
+      out.put_decimal(static_cast<std::int32_t>(record.*field));
     }
   }
 }

@@ -581,7 +581,7 @@ TEST_F(OptionFile, HoldsOneWholeTextWhileTwoProcessesWriteIt) {
   expect_names({"qvt_p.opt"});
 }
 
-TEST_F(OptionFile, IsWrittenInTheEndThoughAnotherProcessHoldsTheFolder) {
+TEST_F(OptionFile, IsWrittenAtOnceThoughAnotherWriterHoldsTheFolder) {
   const int held = ::open(etc().c_str(), O_RDONLY | O_DIRECTORY);
   ASSERT_GE(held, 0);
   ASSERT_EQ(::flock(held, LOCK_EX), 0);
