@@ -115,9 +115,8 @@ Before look_at(int folder, const char* name) {
   return before;
 }
 
-// Fills a new file and sees to it that it is on the disk.
+// Fills a new file, which nobody else may read before it has the old one's mode, and sees to it that it is on the disk.
 bool fill(Descriptor& file, const Before& before, std::string_view text) {
-  if (!write_all(file.get(), text)) return false;
   if (before.exists) {
     // Owner and group are kept where we may, if only the group; the mode comes after, for a new owner cuts it.
     const bool owned = ::fchown(file.get(), before.status.st_uid, before.status.st_gid) == 0 ||
@@ -125,7 +124,7 @@ bool fill(Descriptor& file, const Before& before, std::string_view text) {
     const mode_t kept = owned ? 07777 : 0777;
     if (::fchmod(file.get(), before.status.st_mode & kept) != 0) return false;
   }
-  return ::fsync(file.get()) == 0 && file.close();
+  return write_all(file.get(), text) && ::fsync(file.get()) == 0 && file.close();
 }
 
 // The text goes to a new file that then takes the place of the old one. Whoever has the folder to himself uses a name
@@ -169,7 +168,8 @@ bool write_option_file(const std::string& processor, const std::string& text) {
   const std::string newName = new_file_name(folder.get(), name);
   const Before before = look_at(folder.get(), name.c_str());
   if (!before.replaceable) return false;
-  Descriptor file(::openat(folder.get(), newName.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
+  const mode_t mode = before.exists ? 0600 : 0666;
+  Descriptor file(::openat(folder.get(), newName.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
   if (!file) return false;
   const bool written =
       fill(file, before, text) && ::renameat(folder.get(), newName.c_str(), folder.get(), name.c_str()) == 0;

@@ -75,19 +75,20 @@ class Grouping : public std::numpunct<char> {
 
 // Commands in our own spelling, with every keyword that reading knows.
 const std::vector<std::string> kCommands = {
-    "qconnect ov odm -debugdevice deviceNr 2 cpunr 1 romemStartAdr 0x10000 romemSize 16 isocmStartAdr 0x10 isocmSize "
-    "16 "
-    "isocmDcrStartAdr 0x40 icacheStartAdr 0x10000 itagStartAdr 0x20000 dcacheStartAdr 0x30000 dtagStartAdr 0x40000 "
-    "tlbStartAdr 0x50000 dcrStartAdr 0x60000 fpuType dp proctype ppc405 cpu_version 1 odm_version 2 nCpu 3",
-    "connect ov odm -cable type zarvek_platformusb port USB21 frequency 6000000 esn 1 modulename m modulearg a fname f "
-    "url u",
+    ("qconnect ov odm -debugdevice deviceNr 2 cpunr 1 romemStartAdr 0x10000 romemSize 16 isocmStartAdr 0x10 isocmSize "
+     "16 "
+     "isocmDcrStartAdr 0x40 icacheStartAdr 0x10000 itagStartAdr 0x20000 dcacheStartAdr 0x30000 dtagStartAdr 0x40000 "
+     "tlbStartAdr 0x50000 dcrStartAdr 0x60000 fpuType dp proctype ppc405 cpu_version 1 odm_version 2 nCpu 3"),
+    ("connect ov odm -cable type zarvek_platformusb port USB21 frequency 6000000 esn 1 modulename m modulearg a fname "
+     "f "
+     "url u"),
     "connect ov odm -cable type zarvek_parallel",
     "connect ov odm -cable type zarvek_parallel3",
     "connect ov odm -cable type zarvek_parallel4",
     "connect ov odm -cable type zarvek_plugin modulename m",
     "connect ov odm -cable type zarvek_tcf",
-    "connect ov odm -configdevice devicenr 1 partname p irlength 10 idcode 0x1 jtagport cpu isfpga 1 hardppc ppc405 "
-    "nppc 1",
+    ("connect ov odm -configdevice devicenr 1 partname p irlength 10 idcode 0x1 jtagport cpu isfpga 1 hardppc ppc405 "
+     "nppc 1"),
     "connect ov odm -pfsl port 1 type ms -quiet -noattach -writeonly -bscan USER1 -bscan USER4",
     "connect ov stub -comm serial -port COM1 -baud 1 -timeout 5",
     "connect ov stub -comm jtag",

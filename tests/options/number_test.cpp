@@ -125,7 +125,9 @@ TEST(Number, ReadsSignsPrefixesAndEndsLikeTheCLibrary) {
     for (const std::string& sign : signs) {
       for (const std::string& prefix : prefixes) {
         for (const std::string& digit : digits) {
-          for (const std::string& end : ends) expect_as_c_library(start + sign + prefix + digit + end);
+          for (const std::string& end : ends) {
+            expect_as_c_library(std::string(start).append(sign).append(prefix).append(digit).append(end));
+          }
         }
       }
     }

@@ -16,7 +16,6 @@
 #include <array>
 #include <chrono>
 #include <csignal>
-#include <cstring>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
@@ -189,7 +188,7 @@ TEST_F(OptionFile, IsCutAfter1023Characters) {
     for (const std::string& after : {""s, "\n"s, "\nconnect mips\n"s}) {
       for (const std::size_t length : {1000U, 1022U, 1023U, 1024U, 1025U, 2047U, 2048U, 5000U}) {
         const std::string line = start + std::string(length - start.size(), 'x');
-        expect_read(before + line + after, 0, line.substr(0, 1023));
+        expect_read(std::string(before).append(line).append(after), 0, line.substr(0, 1023));
       }
     }
   }
@@ -260,9 +259,7 @@ TEST_F(OptionFile, IsNotASocket) {
   sockaddr_un address = {};
   address.sun_family = AF_UNIX;
   ASSERT_LT(file().string().size(), sizeof address.sun_path);
-  std::strcpy(address.sun_path, file().c_str());
-  sockaddr generic = {};
-  static_assert(sizeof(sockaddr_un) > sizeof generic);
+  file().string().copy(address.sun_path, sizeof address.sun_path - 1);
   ASSERT_EQ(::bind(server, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
   expect_no_file();
   expect_refused();
