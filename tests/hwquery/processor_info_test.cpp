@@ -191,6 +191,15 @@ TEST_F(ProcessorFromCommand, OfATargetThatNeedsNoneKeepsAnEmptyNameAndAsksNothin
   EXPECT_THAT(messages, IsEmpty());
 }
 
+TEST_F(ProcessorFromCommand, OfATargetThatNeedsNoneKeepsTheFpuOfTheCommand) {
+  for (const char* const target : {"odm", "qmtc", "dcc", "dap hw"}) {
+    const Record r = read(std::string("connect ") + target + " -debugdevice fpuType dp");
+    ASSERT_NE(r, nullptr) << target;
+    EXPECT_EQ(r->fpuType, 2U) << target;
+  }
+  EXPECT_THAT(hw.questions, IsEmpty());
+}
+
 TEST_F(ProcessorFromCommand, IsARecordOfItsOwnThatIsNotListed) {
   const std::vector<ProcessorInfoImp*> before = d.imp.processorList;
   const Record r = read("connect ov odm -bscan USER1");
