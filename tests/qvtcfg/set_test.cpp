@@ -35,7 +35,8 @@ TEST_F(Set, ColoursTheDifferencesOnATerminalUnlessNoColorIsSet) {
   write_option_file("ovrin_0", "connect ov odm -debugdevice cpunr 1");
   EXPECT_THAT(qvtcfg_on_terminal({"set", "ovrin_0", "debug-device=3", "--dry-run"}).out,
               HasSubstr("+ connect ov odm -debugdevice \033[32m[deviceNr 3]\033[0m cpunr 1"));
-  const Result plain = qvtcfg_on_terminal({"set", "ovrin_0", "debug-device=3", "--dry-run"}, "dumb");
+  const Result plain =
+      qvtcfg_on_terminal({"set", "ovrin_0", "debug-device=3", "--dry-run"}, {"TERM=xterm", "NO_COLOR=1"});
   EXPECT_THAT(plain.out, HasSubstr("+ connect ov odm -debugdevice [deviceNr 3] cpunr 1"));
 }
 
@@ -101,6 +102,22 @@ TEST_F(Set, TheSerialNumberStandsForPortAndFrequencyUntilItIsEmptied) {
             "connect ov odm -cable type zarvek_platformusb esn 0042 -debugdevice cpunr 1");
   EXPECT_EQ(json({"set", "ovrin_0", "esn=", "frequency=6000000"})["new"],
             "connect ov odm -cable type zarvek_platformusb port USB21 frequency 6000000 -debugdevice cpunr 1");
+}
+
+TEST_F(Set, TheModuleOfAPluginCableReplacesTheOneBefore) {
+  EXPECT_EQ(json({"set", "ovrin_0", "module=m,a,b", "cable=zarvek_plugin"})["new"],
+            "connect ov odm -cable type zarvek_plugin modulename m modulearg a modulearg b -debugdevice cpunr 1");
+  EXPECT_EQ(json({"set", "ovrin_0", "module=n"})["new"],
+            "connect ov odm -cable type zarvek_plugin modulename n -debugdevice cpunr 1");
+}
+
+TEST_F(Set, TheJtagChainAndItsRemoval) {
+  EXPECT_EQ(json({"set", "ovrin_0", "devices=1,prom32,16,0xa5059093:2,dv5,10,45708435"})["new"],
+            "connect ov odm -configdevice devicenr 1 partname prom32 irlength 16 idcode 0xa5059093 "
+            "-configdevice devicenr 2 partname dv5 irlength 10 idcode 0x2b97493 -debugdevice cpunr 1");
+  EXPECT_EQ(json({"set", "ovrin_0", "devices=3,p,6,1"})["new"],
+            "connect ov odm -configdevice devicenr 3 partname p irlength 6 idcode 0x1 -debugdevice cpunr 1");
+  EXPECT_EQ(json({"set", "ovrin_0", "devices=none"})["new"], "connect ov odm -debugdevice cpunr 1");
 }
 
 TEST_F(Set, ReadOnlyMemoryAndItsRemoval) {
@@ -172,6 +189,11 @@ TEST_F(Refused, ValuesThatAreWrong) {
              {{"esn=a\tb"}, 2, "esn=a b: expected one word"},
              {{"esn=\001"}, 2, "esn=\\x01: expected one word"},
              {{"cpu-jtag=off"}, 2, "cpu-jtag=off: expected on"},
+             {{"devices="}, 2, "devices=: expected a chain device as NR,PART,IRLENGTH,IDCODE, such as 1,prom32,16,"},
+             {{"devices=1,p,6,1:"}, 2, "devices=1,p,6,1:: expected a chain device"},
+             {{"devices=1,p,128,1"}, 2, "devices=1,p,128,1: expected a number from 0 to 127"},
+             {{"cable=zarvek_plugin", "module="}, 2, "module=: expected one word"},
+             {{"cable=zarvek_plugin", "module=m,"}, 2, "module=m,: expected one word"},
          });
 }
 
@@ -183,6 +205,10 @@ TEST_F(Refused, WhatTheEngineOrTheDesignDoesNotAllow) {
               "connection=stub: the processor does not admit this connection; it admits simulator, hardware"},
              {{"stub=serial"}, 1, "stub=serial: the connection is no stub; add connection=stub"},
              {{"stub-baud=9600"}, 1, "stub-baud=9600: the processor is not reached through a serial stub"},
+             {{"module=m"}, 1, "module=m: cable none has no module; add cable=zarvek_plugin"},
+             {{"cable=zarvek_plugin"}, 1, "cable zarvek_plugin is nothing without its module; add module=NAME"},
+             {{"connection=simulator", "devices=none"}, 1, "devices=none: the processor has no such setting"},
+             {{"connection=simulator", "module=m"}, 1, "module=m: the processor has no such setting"},
              {{"cable=zarvek_tcf"}, 1, "ovrin_1: Invalid Cable Type; "},
              {{"icache=0x10000"}, 1, "icache=0x10000: the processor has no such setting with its connection"},
              {{"address-map=unset"}, 1, "the processor has no such setting with its connection"},

@@ -144,8 +144,12 @@ TEST_F(Show, UsesColourOnATerminalOnly) {
   EXPECT_THAT(qvtcfg({"show", "ovrin_0"}).out, Not(HasSubstr("\033")));
 }
 
+TEST_F(Show, AnEmptyNoColorAsksForNothing) {
+  EXPECT_THAT(qvtcfg_on_terminal({"show", "ovrin_0"}, {"TERM=xterm", "NO_COLOR="}).out, HasSubstr("\033[1m"));
+}
+
 TEST_F(Show, UsesNoColourOnADumbTerminal) {
-  const Result result = qvtcfg_on_terminal({"show", "ovrin_0"}, "dumb");
+  const Result result = qvtcfg_on_terminal({"show", "ovrin_0"}, {"TERM=dumb"});
   EXPECT_THAT(result.out, HasSubstr("identity"));
   EXPECT_THAT(result.out, Not(HasSubstr("\033")));
 }

@@ -31,14 +31,14 @@ void join(int stream, const std::filesystem::path& path, int flags) {
   close(file);
 }
 
-// The program's own colours and languages are not to depend on where the tests run.
+// The program's language is not to depend on where the tests run.
 [[noreturn]] void become(const std::vector<std::string>& command, const std::filesystem::path& folder) {
   std::vector<char*> arguments;
+  arguments.reserve(command.size() + 1);
   for (const std::string& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));
   arguments.push_back(nullptr);
   setenv("QVTCFG", QVTCFG, 1);
   setenv("LC_ALL", "C", 1);
-  unsetenv("NO_COLOR");
   if (chdir(folder.c_str()) == 0) execv(arguments[0], arguments.data());
   _exit(127);
 }
@@ -75,12 +75,13 @@ Result Tool::qvtcfg(std::vector<std::string> arguments, const std::string& input
   return run(arguments, input);
 }
 
-Result Tool::qvtcfg_on_terminal(std::vector<std::string> arguments, const std::string& term) const {
+Result Tool::qvtcfg_on_terminal(std::vector<std::string> arguments, std::vector<std::string> environment) const {
   arguments.insert(arguments.begin(), QVTCFG);
   int terminal = -1;
   const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
   if (child == 0) {
-    setenv("TERM", term.c_str(), 1);
+    unsetenv("NO_COLOR");
+    for (std::string& variable : environment) putenv(variable.data());
     become(arguments, m_folder);
   }
   Result result;

@@ -24,8 +24,9 @@ class Tool : public testing::Test {
   // Runs qvtcfg with the arguments; the folder is the working directory.
   Result qvtcfg(std::vector<std::string> arguments, const std::string& input = "") const;
 
-  // Runs it with its output on a terminal of the given kind; err has nothing then.
-  Result qvtcfg_on_terminal(std::vector<std::string> arguments, const std::string& term = "xterm") const;
+  // Runs it with its output on a terminal, so that err has nothing, and with the variables NAME=VALUE.
+  Result qvtcfg_on_terminal(std::vector<std::string> arguments,
+                            std::vector<std::string> environment = {"TERM=xterm"}) const;
 
   // Runs a shell script in which $QVTCFG is the program.
   Result shell(const std::string& script) const;

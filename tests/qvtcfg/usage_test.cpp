@@ -12,26 +12,42 @@ TEST_F(Usage, HelpOfTheProgramListsTheCommandsAndAnExample) {
     const Result result = qvtcfg({flag});
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.err, "");
-    for (const char* text : {"processors", "show", "command", "read", "set", "cables", "\nExample:\n  qvtcfg -C "}) {
+    for (const char* text : {"processors", "show", "command", "read", "set", "cables", "\n  cable ",
+                             "\nExample:\n  qvtcfg -C ", "docs/design-file.md"}) {
       EXPECT_THAT(result.out, HasSubstr(text));
     }
   }
 }
 
 TEST_F(Usage, HelpOfEveryCommandShowsAnExample) {
-  for (const char* command : {"processors", "show", "command", "read", "set", "cables"}) {
-    const Result result = qvtcfg({command, "--help"});
-    EXPECT_EQ(result.code, 0) << command;
-    EXPECT_EQ(result.err, "") << command;
-    EXPECT_THAT(result.out, HasSubstr("\nExample:\n  qvtcfg ")) << command;
+  for (std::vector<std::string> command : std::vector<std::vector<std::string>>{{"processors"},
+                                                                                {"show"},
+                                                                                {"command"},
+                                                                                {"read"},
+                                                                                {"set"},
+                                                                                {"cables"},
+                                                                                {"cable"},
+                                                                                {"cable", "parse"},
+                                                                                {"cable", "format"}}) {
+    const std::string name = command.back();
+    command.push_back("--help");
+    const Result result = qvtcfg(command);
+    EXPECT_EQ(result.code, 0) << name;
+    EXPECT_EQ(result.err, "") << name;
+    EXPECT_THAT(result.out, HasSubstr("\nExample:\n  qvtcfg ")) << name;
+    EXPECT_THAT(result.out, HasSubstr(name)) << name;
   }
 }
 
 TEST_F(Usage, HelpOfSetListsTheKeys) {
   const std::string help = qvtcfg({"set", "-h"}).out;
-  for (const char* key : {"connection=", "stub=", "stub-port=", "stub-baud=", "debug-device=", "cpu-jtag=on",
-                          "address-map=unset", "icache=", "itag=", "dcache=", "dtag=", "tlb=", "dcr=", "rom=START,SIZE",
-                          "cable=", "frequency=", "port=", "esn="}) {
+  for (const char* key : {"connection=",    "stub=",         "stub-port=",
+                          "stub-baud=",     "debug-device=", "cpu-jtag=on",
+                          "devices=LIST",   "module=NAME",   "address-map=unset",
+                          "icache=",        "itag=",         "dcache=",
+                          "dtag=",          "tlb=",          "dcr=",
+                          "rom=START,SIZE", "cable=",        "frequency=",
+                          "port=",          "esn="}) {
     EXPECT_THAT(help, HasSubstr(std::string("\n  ") + key));
   }
 }
@@ -56,14 +72,22 @@ TEST_F(Usage, MistakesAreExplainedInOneLine) {
     std::vector<std::string> arguments;
     const char* why;
   } kMistakes[] = {
-      {{}, "which command? One of processors, show, command, read, set, cables; see 'qvtcfg --help'"},
+      {{}, "which command? One of processors, show, command, read, set, cables, cable; see 'qvtcfg --help'"},
       {{"cabels"}, "unknown command 'cabels' (did you mean 'cables'?); see 'qvtcfg --help'"},
       {{"--jsn", "cables"}, "unknown option '--jsn'; see 'qvtcfg cables --help'"},
       {{"cables", "all"}, "unexpected argument 'all'; see 'qvtcfg cables --help'"},
       {{"show"}, "PROC is required; see 'qvtcfg show --help'"},
       {{"show", "ovrin_0", "ovrin_1"}, "unexpected argument 'ovrin_1'; see 'qvtcfg show --help'"},
       {{"show", "ovrin_0", "--write"}, "unknown option '--write'; see 'qvtcfg show --help'"},
+      {{"read"}, "TEXT is required; see 'qvtcfg read --help'"},
       {{"read", "ovrin_0"}, "TEXT is required; see 'qvtcfg read --help'"},
+      {{"read", "connect ov sim", "ovrin_0", "x"}, "unexpected argument 'x'; see 'qvtcfg read --help'"},
+      {{"cable"}, "which command? One of parse, format; see 'qvtcfg cable --help'"},
+      {{"cable", "prase"}, "unknown command 'prase' (did you mean 'parse'?); see 'qvtcfg cable --help'"},
+      {{"cable", "parse"}, "TEXT is required; see 'qvtcfg cable parse --help'"},
+      {{"cable", "parse", "-cable", "type"}, "unknown option '-cable'; see 'qvtcfg cable parse --help'"},
+      {{"cable", "format", "--type"}, "--type: 1 required NAME missing; see 'qvtcfg cable format --help'"},
+      {{"cable", "format", "--speed", "1"}, "unknown option '--speed'; see 'qvtcfg cable format --help'"},
       {{"set", "ovrin_0"}, "CHANGE is required; see 'qvtcfg set --help'"},
       {{"-C"}, "-C: 1 required DIR missing; see 'qvtcfg --help'"},
       {{"\033]0;x\007"}, "unknown command '\\x1b]0;x\\x07'"},

@@ -4,7 +4,6 @@
 #include "catalogue.h"
 #include "command_line.h"
 #include "output.h"
-#include "text.h"
 #include "words.h"
 
 namespace qvtcfg {
@@ -27,10 +26,8 @@ Cable described(const Word& word) {
 }
 
 std::vector<std::string> row(const Cable& cable) {
-  std::vector<std::string> frequencies;
-  for (const unsigned int frequency : cable.frequencies) frequencies.push_back(std::to_string(frequency));
   return {std::to_string(cable.type), cable.name, cable.frequency != 0 ? std::to_string(cable.frequency) : "-",
-          cable.port.empty() ? "-" : cable.port, frequencies.empty() ? "-" : join(frequencies, " ")};
+          cable.port.empty() ? "-" : cable.port, cable.frequencies.empty() ? "-" : listed(cable.frequencies, " ")};
 }
 
 Json member(const Cable& cable) {

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <span>
 
 #include "failure.h"
 #include "keys.h"
@@ -12,22 +13,52 @@ namespace qvtcfg {
 namespace {
 
 // The parts of a command line that commands share.
-void take_processor(CLI::App& app, Arguments& a) {
-  app.add_option("PROC", a.processor, "Name of a processor of the design")->required()->type_name("");
+CLI::Option& take_processor(CLI::App& app, Arguments& a) {
+  return *app.add_option("PROC", a.processor, "Name of a processor of the design")->required()->type_name("");
 }
 
 void take_write(CLI::App& app, Arguments& a) { app.add_flag("--write", a.write, "Store the option file"); }
 
+void take_changed(CLI::App& app, Arguments& a) {
+  app.add_flag("--changed", a.changed_only, "Show only what differs from its default");
+}
+
+void take_text(CLI::App& app, Arguments& a, const char* what) {
+  app.add_option("TEXT", a.text, what)->required()->type_name("");
+}
+
+// --- The commands ---
+
 void take_nothing(CLI::App& /*app*/, Arguments& /*a*/) {}
+
+void take_program(CLI::App& app, Arguments& a) {
+  app.set_version_flag("--version", "qvtcfg " QVTCFG_VERSION, "Print the version");
+  app.add_option("-C", a.directory, "Work in this folder")->type_name("DIR");
+  app.add_option("--design", a.design, "The hardware design; design.json if not given")->type_name("FILE");
+  app.add_flag("--json", a.json, "Answer in JSON");
+}
+
+void take_show(CLI::App& app, Arguments& a) {
+  take_processor(app, a);
+  take_changed(app, a);
+}
 
 void take_command(CLI::App& app, Arguments& a) {
   take_processor(app, a);
   take_write(app, a);
 }
 
+// A single argument is the text, unless it could be a name.
 void take_read(CLI::App& app, Arguments& a) {
-  take_processor(app, a);
-  app.add_option("TEXT", a.text, "The connect command, in quotes; - for standard input")->required()->type_name("");
+  const auto name = [](const std::string& text) {
+    const bool possible = !text.empty() && text != "-" && text.find_first_of(kWhiteSpace) == std::string::npos;
+    return std::string(possible ? "" : "no name");
+  };
+  take_processor(app, a).required(false)->check(name, "")->description(
+      "Name of a processor of the design; without it the command tells the processor");
+  app.validate_positionals();
+  take_text(app, a, "The connect command, in quotes; - for standard input");
+  take_changed(app, a);
   take_write(app, a);
 }
 
@@ -37,37 +68,95 @@ void take_set(CLI::App& app, Arguments& a) {
   app.add_flag("--dry-run", a.dry_run, "Show what would change and store nothing");
 }
 
+void take_cable_parse(CLI::App& app, Arguments& a) {
+  take_text(app, a, "The options of cable and chain, in quotes; - for standard input");
+  take_changed(app, a);
+}
+
+void take_cable_format(CLI::App& app, Arguments& a) {
+  CableArguments& cable = a.cable;
+  app.add_option("--type", cable.type, "Type of the cable, see 'qvtcfg cables'")->type_name("NAME");
+  app.add_option("--frequency", cable.frequency, "Its clock; the type's default if not given")->type_name("HZ");
+  app.add_option("--port", cable.port, "Its port; the type's default if not given")->type_name("PORT");
+  app.add_option("--esn", cable.esn, "Its serial number, written instead of frequency and port")->type_name("ESN");
+  app.add_option("--module", cable.module, "Module of a zarvek_plugin cable")->type_name("NAME");
+  app.add_option("--module-arg", cable.module_arguments, "Argument of the module; may be given again")
+      ->type_name("ARG")
+      ->allow_extra_args(false);
+  app.add_option("--device", cable.devices, "The next device of the JTAG chain; may be given again")
+      ->type_name("NR,PART,IRLENGTH,IDCODE")
+      ->allow_extra_args(false);
+  app.add_option("--debug-device", cable.debug_device, "Number of the debug device in the chain")->type_name("NR");
+}
+
+std::string program_help() {
+  return "Exit codes: 0 done, 1 refused, 2 usage, 3 text not understood, 4 file\n\n"
+         "A design is a JSON file: docs/design-file.md describes it, and the schema design-file.schema.json is\n"
+         "installed in share/SdkDebugDialog.";
+}
+
+// --- The table of them ---
+
 struct Command {
   const char* name;
   const char* purpose;
   const char* example;
   void (*take)(CLI::App&, Arguments&);
-  Run run;
+  Run run = nullptr;                // none where one of its commands has to be chosen
   std::string (*help)() = nullptr;  // what else the help has to say
+  const Command* commands = nullptr;
+  std::size_t count = 0;  // of them
+};
+
+constexpr Command kCableCommands[] = {
+    {"parse", "Show what the options of cable and chain mean",
+     "qvtcfg cable parse '-cable type zarvek_parallel3 -configdevice devicenr 1 isfpga 1'", take_cable_parse,
+     run_cable_parse},
+    {"format", "Print the options of a cable and a chain",
+     "qvtcfg cable format --type zarvek_platformusb --device 1,prom32,16,0xa5059093 --debug-device 2",
+     take_cable_format, run_cable_format},
 };
 
 constexpr Command kCommands[] = {
     {"processors", "List the processors of the design", "qvtcfg -C my_board processors", take_nothing, run_processors},
-    {"show", "Show every setting of a processor, as its option file has it", "qvtcfg show cpu0", take_processor,
+    {"show", "Show every setting of a processor, as its option file has it", "qvtcfg show cpu0 --changed", take_show,
      run_show},
     {"command", "Print the connect command of a processor", "qvtcfg command cpu0", take_command, run_command},
-    {"read", "Show what a connect command means for a processor",
+    {"read", "Show what a connect command means, for a processor or by itself",
      "qvtcfg read cpu0 'connect ov odm -cable type zarvek_platformusb' --write", take_read, run_read},
     {"set", "Change settings of a processor and store its option file",
      "qvtcfg set cpu0 cable=zarvek_platformusb frequency=12000000 debug-device=2 --dry-run", take_set, run_set,
      keys_help},
     {"cables", "List the cables that are known", "qvtcfg --json cables", take_nothing, run_cables},
+    {"cable", "Read and write the options of cable and chain, without a design",
+     "qvtcfg cable format --type zarvek_platformusb", take_nothing, nullptr, nullptr, kCableCommands,
+     std::size(kCableCommands)},
 };
 
-std::string help_of(const Command& command) {
-  const std::string more = command.help != nullptr ? command.help() + "\n" : "";
-  return more + "Example:\n  " + command.example +
-         "\n\nThe options -C DIR, --design FILE and --json of 'qvtcfg --help' may be given as well.";
+constexpr Command kProgram = {"qvtcfg",
+                              "Debug settings of the processors of a hardware design",
+                              "qvtcfg -C my_board show cpu0",
+                              take_program,
+                              nullptr,
+                              program_help,
+                              kCommands,
+                              std::size(kCommands)};
+
+std::span<const Command> commands_of(const Command& command) { return {command.commands, command.count}; }
+
+std::vector<std::string> names_of_commands(const Command& command) {
+  std::vector<std::string> names;
+  for (const Command& c : commands_of(command)) names.emplace_back(c.name);
+  return names;
 }
 
-std::string help_of_program() {
-  return "Example:\n  qvtcfg -C my_board show cpu0\n\n"
-         "Exit codes: 0 done, 1 refused, 2 usage, 3 text not understood, 4 file";
+// --- Their help ---
+
+std::string help_of(const Command& command) {
+  std::string text = std::string("Example:\n  ") + command.example;
+  if (command.help != nullptr) text += "\n\n" + command.help();
+  if (&command == &kProgram) return text;
+  return text + "\n\nThe options -C DIR, --design FILE and --json of 'qvtcfg --help' may be given as well.";
 }
 
 void name_parts_of_help(CLI::FormatterBase& formatter) {
@@ -76,55 +165,85 @@ void name_parts_of_help(CLI::FormatterBase& formatter) {
   formatter.label("SUBCOMMAND", "COMMAND");
 }
 
-void add_command(CLI::App& app, const Command& command, Arguments& arguments) {
-  CLI::App& sub = *app.add_subcommand(command.name, command.purpose);
-  sub.group("Commands");
-  command.take(sub, arguments);
-  sub.footer([&command] { return help_of(command); });
+// --- Parsing ---
+
+void declare(CLI::App& app, const Command& command, Arguments& arguments) {
+  command.take(app, arguments);
+  app.footer([&command] { return help_of(command); });
+  app.require_subcommand(0, 1);
+  for (const Command& c : commands_of(command)) {
+    CLI::App& sub = *app.add_subcommand(c.name, c.purpose);
+    sub.group("Commands");
+    declare(sub, c, arguments);
+  }
 }
 
-void declare(CLI::App& app, Arguments& a) {
+void declare_program(CLI::App& app, Arguments& arguments) {
   name_parts_of_help(*app.get_formatter());
   app.set_help_flag("-h,--help", "Print this help");
-  app.set_version_flag("--version", "qvtcfg " QVTCFG_VERSION, "Print the version");
-  app.add_option("-C", a.directory, "Work in this folder")->type_name("DIR");
-  app.add_option("--design", a.design, "The hardware design; design.json if not given")->type_name("FILE");
-  app.add_flag("--json", a.json, "Answer in JSON");
-  app.require_subcommand(0, 1);
-  app.footer(help_of_program);
   // What is left over is explained here; options of the program may stand after the command as well.
   app.allow_extras();
   app.fallthrough();
-  for (const Command& command : kCommands) add_command(app, command, a);
+  declare(app, kProgram, arguments);
 }
 
-std::vector<std::string> command_names() {
-  std::vector<std::string> names;
-  for (const Command& command : kCommands) names.emplace_back(command.name);
-  return names;
+// An argument that begins with a dash and holds blanks is a text of options, not an option. A blank in front, which
+// keeps them apart, means nothing in such a text; it is taken away all the same, so that columns can be told.
+bool is_option_text(std::string_view argument) {
+  const std::size_t start = argument.find_first_not_of(' ');
+  return start < argument.size() && argument[start] == '-' &&
+         argument.find_first_of(kWhiteSpace, start) < argument.size();
 }
 
-Failure usage(const CLI::App& app, const std::string& text) {
-  const auto parsed = app.get_subcommands();
-  const std::string command = parsed.empty() ? "" : parsed.front()->get_name() + " ";
-  return {kUsage, text + "; see 'qvtcfg " + command + "--help'"};
+std::vector<std::string> protected_arguments(int argc, const char* const* argv) {
+  std::vector<std::string> arguments(argv + 1, argv + argc);
+  for (std::string& argument : arguments) {
+    if (is_option_text(argument)) argument.insert(0, 1, ' ');
+  }
+  return arguments;
+}
+
+void unprotect(std::string& text) {
+  if (text.starts_with(' ') && is_option_text(text)) text.erase(0, 1);
+}
+
+// The command that was given, with what was parsed for it.
+struct Chosen {
+  const Command* command = &kProgram;
+  const CLI::App* app = nullptr;
+  std::string name;  // after the program's
+};
+
+Chosen chosen_command(const CLI::App& program) {
+  Chosen chosen{&kProgram, &program, ""};
+  for (auto parsed = program.get_subcommands(); !parsed.empty(); parsed = chosen.app->get_subcommands()) {
+    chosen.app = parsed.front();
+    chosen.command = &*std::ranges::find_if(commands_of(*chosen.command),
+                                            [&](const Command& c) { return chosen.app->get_name() == c.name; });
+    chosen.name += chosen.app->get_name() + " ";
+  }
+  return chosen;
+}
+
+Failure usage(const CLI::App& program, const std::string& text) {
+  return {kUsage, text + "; see 'qvtcfg " + chosen_command(program).name + "--help'"};
 }
 
 // What is wrong with the first argument that nothing wanted.
-std::string why_left_over(const std::string& argument, bool command_known) {
+std::string why_left_over(const std::string& argument, const Command& command) {
   const std::string quoted = " '" + one_line(argument) + "'";
   if (argument.starts_with('-')) return "unknown option" + quoted;
-  if (command_known) return "unexpected argument" + quoted;
-  return "unknown command" + quoted + suggestion(argument, command_names());
+  if (command.run != nullptr) return "unexpected argument" + quoted;
+  return "unknown command" + quoted + suggestion(argument, names_of_commands(command));
 }
 
-const Command& chosen_command(const CLI::App& app) {
-  std::vector<std::string> left_over = app.remaining(true);
+Run chosen_run(const CLI::App& program) {
+  const Command& command = *chosen_command(program).command;
+  std::vector<std::string> left_over = program.remaining(true);
   std::erase(left_over, "--");  // it has done its work
-  const auto parsed = app.get_subcommands();
-  if (!left_over.empty()) throw usage(app, why_left_over(left_over.front(), !parsed.empty()));
-  if (parsed.empty()) throw usage(app, "which command? One of " + join(command_names()));
-  return *std::ranges::find_if(kCommands, [&](const Command& c) { return parsed.front()->get_name() == c.name; });
+  if (!left_over.empty()) throw usage(program, why_left_over(left_over.front(), command));
+  if (command.run == nullptr) throw usage(program, "which command? One of " + join(names_of_commands(command)));
+  return command.run;
 }
 
 }  // namespace
@@ -135,10 +254,12 @@ std::string Arguments::seen_from_outside(const std::string& path) const {
 }
 
 Run parse_command_line(int argc, const char* const* argv, Arguments& arguments, Output& out) {
-  CLI::App app("Debug settings of the processors of a hardware design", "qvtcfg");
-  declare(app, arguments);
+  CLI::App app(kProgram.purpose, kProgram.name);
+  declare_program(app, arguments);
+  std::vector<std::string> given = protected_arguments(argc, argv);
+  std::ranges::reverse(given);  // as the parser wants them
   try {
-    app.parse(argc, argv);
+    app.parse(std::move(given));
   } catch (const CLI::CallForHelp&) {
     const std::string help = app.help();
     out.line(help.substr(0, help.find_last_not_of('\n') + 1));
@@ -149,7 +270,8 @@ Run parse_command_line(int argc, const char* const* argv, Arguments& arguments, 
   } catch (const CLI::ParseError& error) {
     throw usage(app, one_line(error.what()));
   }
-  return chosen_command(app).run;
+  unprotect(arguments.text);
+  return chosen_run(app);
 }
 
 }  // namespace qvtcfg

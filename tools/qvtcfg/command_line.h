@@ -2,6 +2,7 @@
 
 // What the user asks for.
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,13 +10,22 @@ namespace qvtcfg {
 
 class Output;
 
+// What cable format writes, as given.
+struct CableArguments {
+  std::optional<std::string> type, frequency, port, esn, module, debug_device;
+  std::vector<std::string> module_arguments;
+  std::vector<std::string> devices;
+};
+
 struct Arguments {
-  std::string directory;  // where to work; empty: here
-  std::string design = "design.json";
+  std::string directory;              // where to work; empty: here
+  std::optional<std::string> design;  // a file; none: the default's, which need not be there for every command
   bool json = false;
-  std::string processor;
-  std::string text;                  // of read
+  std::optional<std::string> processor;
+  std::string text;                  // of read and cable parse
   std::vector<std::string> changes;  // of set
+  CableArguments cable;
+  bool changed_only = false;
   bool write = false;
   bool dry_run = false;
 
@@ -30,6 +40,8 @@ void run_command(const Arguments& arguments, Output& out);
 void run_read(const Arguments& arguments, Output& out);
 void run_set(const Arguments& arguments, Output& out);
 void run_cables(const Arguments& arguments, Output& out);
+void run_cable_parse(const Arguments& arguments, Output& out);
+void run_cable_format(const Arguments& arguments, Output& out);
 
 using Run = void (*)(const Arguments&, Output&);
 

@@ -1,8 +1,8 @@
 #include "keys.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
+#include <iterator>
 #include <limits>
 
 #include "SdkDebugDialog/EngineImp.h"
@@ -10,12 +10,14 @@
 #include "failure.h"
 #include "output.h"
 #include "text.h"
+#include "values.h"
 #include "words.h"
 
 namespace qvtcfg {
 namespace {
 
 using SdkDebugDialog::Engine;
+using SdkDebugDialog::JtagOption;
 
 struct Key {
   const char* name;
@@ -24,14 +26,6 @@ struct Key {
   void (*apply)(Engine&, const Change&);
 };
 
-Failure refused(const Change& change, const std::string& why) {
-  return {kRefused, one_line(change.argument) + ": " + why};
-}
-
-Failure wrong_value(const Change& change, const std::string& expected) {
-  return {kUsage, one_line(change.argument) + ": expected " + expected};
-}
-
 // Calls a setter; a refusal is explained by the engine's text.
 template <auto Set, typename... Values>
 void set(Engine& engine, const Change& change, Values... values) {
@@ -39,15 +33,16 @@ void set(Engine& engine, const Change& change, Values... values) {
   if ((engine.*Set)(values...) == 0) return;
   std::string text;
   engine.GetErrorStr(text);
-  throw refused(change, text.empty() ? "refused" : one_line(text));
+  throw refused(change.argument, text.empty() ? "refused" : one_line(text));
 }
 
-// What a getter answers for a setting that the processor or its connection does not have.
-constexpr int kNotApplicable = 2;
+// What a getter answers for a setting without a value, and for one that the processor or its connection does not have.
+enum Answer { kNotSet = 1, kNotApplicable = 2 };
 
 void require_applicable(int answer, const Change& change) {
   if (answer != kNotApplicable) return;
-  throw refused(change, "the processor has no such setting with its connection; 'qvtcfg show' tells the connection");
+  throw refused(change.argument,
+                "the processor has no such setting with its connection; 'qvtcfg show' tells the connection");
 }
 
 void require_cable_in_use(Engine& engine, const Change& change) {
@@ -58,57 +53,25 @@ void require_cable_in_use(Engine& engine, const Change& change) {
 void require_serial_stub(Engine& engine, const Change& change) {
   Engine::StubType stub = Engine::STUB_OVER_JTAG;
   if (engine.GetStubType(stub) == 0 && stub == Engine::STUB_OVER_SERIAL) return;
-  throw refused(change, "the processor is not reached through a serial stub; add connection=stub stub=serial");
-}
-
-// --- Values ---
-
-std::uint32_t number(const Change& change, std::string_view text, std::uint32_t max) {
-  const bool hex = text.starts_with("0x") || text.starts_with("0X");
-  const std::string_view digits = hex ? text.substr(2) : text;
-  std::uint32_t value = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, hex ? 16 : 10);
-  // The command's syntax takes a leading 0 for octal, people rarely do.
-  const bool ambiguous = !hex && digits.size() > 1 && digits.front() == '0';
-  if (error == std::errc() && end == digits.data() + digits.size() && !ambiguous && value <= max) return value;
-  throw wrong_value(change, "a number from 0 to " + std::to_string(max) + ", decimal or with 0x");
-}
-
-std::uint32_t number(const Change& change, std::uint32_t max = std::numeric_limits<std::uint32_t>::max()) {
-  return number(change, change.value, max);
-}
-
-unsigned int word(const Change& change, std::span<const Word> words) {
-  const Word* const found = find_word(words, change.value);
-  if (found == nullptr) throw wrong_value(change, join(names_of(words)) + suggestion(change.value, names_of(words)));
-  return found->value;
-}
-
-// The command's syntax has no quoting: a value is one word, and a dash begins an option unless a digit follows.
-std::string one_word(const Change& change) {
-  const std::string& text = change.value;
-  const bool option = text.starts_with('-') && (text.size() == 1 || text[1] < '0' || text[1] > '9');
-  const bool plain = text.find_first_of(" \t\n\v\f\r") == std::string::npos && !first_non_text(text);
-  if (plain && !option && !text.empty()) return text;
-  throw wrong_value(change, "one word of text, without blanks and without a dash in front");
+  throw refused(change.argument, "the processor is not reached through a serial stub; add connection=stub stub=serial");
 }
 
 // --- Keys ---
 
 void apply_connection(Engine& engine, const Change& change) {
-  const auto type = static_cast<Engine::ConnectionType>(word(change, kSelectable));
+  const auto type = static_cast<Engine::ConnectionType>(word(change.argument, change.value, kSelectable));
   if (engine.SetConnectionType(type) == 0) return;
   const auto admitted = names_in_set(kSelectable, engine.imp->currentProcessor->allowedConnections);
-  throw refused(change, "the processor does not admit this connection; it admits " + join(admitted));
+  throw refused(change.argument, "the processor does not admit this connection; it admits " + join(admitted));
 }
 
 // The engine looks for the marks of a stub's devices in the selected connection, where the writer wants the stub
 // alone: they are there for the moment.
 void apply_stub(Engine& engine, const Change& change) {
-  const auto stub = static_cast<Engine::StubType>(word(change, kStubs));
+  const auto stub = static_cast<Engine::StubType>(word(change.argument, change.value, kStubs));
   Engine::ConnectionType selected = Engine::HARDWARE;
   if (engine.GetConnectionType(selected) != 0 || selected != Engine::STUB) {
-    throw refused(change, "the connection is no stub; add connection=stub");
+    throw refused(change.argument, "the connection is no stub; add connection=stub");
   }
   constexpr unsigned int kMarks = Engine::STUB_JTAG_PRESENT | Engine::STUB_UART_PRESENT;
   const unsigned int present = engine.imp->currentProcessor->allowedConnections & kMarks;
@@ -119,29 +82,45 @@ void apply_stub(Engine& engine, const Change& change) {
 
 void apply_stub_port(Engine& engine, const Change& change) {
   require_serial_stub(engine, change);
-  set<&Engine::SetStubSerialPort>(engine, change, one_word(change));
+  set<&Engine::SetStubSerialPort>(engine, change, one_word(change.argument, change.value));
 }
 
 void apply_stub_baud(Engine& engine, const Change& change) {
   require_serial_stub(engine, change);
-  set<&Engine::SetStubBaudrate>(engine, change,
-                                static_cast<int>(number(change, std::numeric_limits<std::int32_t>::max())));
+  set<&Engine::SetStubBaudrate>(
+      engine, change,
+      static_cast<int>(number(change.argument, change.value, std::numeric_limits<std::int32_t>::max())));
 }
 
 void apply_debug_device(Engine& engine, const Change& change) {
   int device = 0;
   require_applicable(engine.GetDebugDevice(device), change);
-  set<&Engine::SetDebugDevice>(engine, change, static_cast<int>(number(change, 127)));
+  set<&Engine::SetDebugDevice>(engine, change, static_cast<int>(number(change.argument, change.value, kMaxByte)));
+}
+
+// The chain's devices belong to whoever replaces them.
+void apply_devices(Engine& engine, const Change& change) {
+  std::vector<JtagOption*> before;
+  require_applicable(engine.GetJtagChainOptions(before), change);
+  std::vector<JtagOption> devices;
+  if (change.value != "none") {
+    for (const std::string& text : split_at(change.value, ':')) devices.push_back(chain_device(change.argument, text));
+  }
+  std::vector<JtagOption*> after;
+  after.reserve(devices.size());
+  for (const JtagOption& device : devices) after.push_back(new JtagOption(device));
+  set<&Engine::SetJtagChainOptions, std::vector<JtagOption*>&>(engine, change, after);
+  for (const JtagOption* const device : before) delete device;
 }
 
 void apply_cpu_jtag(Engine& engine, const Change& change) {
-  if (change.value != "on") throw wrong_value(change, "on; a command read with 'qvtcfg read' takes it back");
+  if (change.value != "on") throw wrong_value(change.argument, "on; a command read with 'qvtcfg read' takes it back");
   require_cable_in_use(engine, change);
   set<&Engine::SetCpuJtag>(engine, change);
 }
 
 void apply_address_map(Engine& engine, const Change& change) {
-  if (change.value != "unset") throw wrong_value(change, "unset");
+  if (change.value != "unset") throw wrong_value(change.argument, "unset");
   unsigned int base = 0;
   require_applicable(engine.GetDebugAddressMap(base), change);
   set<&Engine::UnSetDebugAddressMap>(engine, change);
@@ -151,7 +130,7 @@ template <auto Set, auto Get>
 void apply_address(Engine& engine, const Change& change) {
   unsigned int base = 0;
   require_applicable((engine.*Get)(base), change);
-  set<Set>(engine, change, number(change));
+  set<Set>(engine, change, number(change.argument, change.value));
 }
 
 void apply_rom(Engine& engine, const Change& change) {
@@ -163,43 +142,51 @@ void apply_rom(Engine& engine, const Change& change) {
     start = SdkDebugDialog::kAddressNotSet;
     size = 0;
   } else if (comma == std::string::npos) {
-    throw wrong_value(change, "START,SIZE or unset");
+    throw wrong_value(change.argument, "START,SIZE or unset");
   } else {
-    constexpr auto kMax = std::numeric_limits<std::uint32_t>::max();
-    start = number(change, std::string_view(change.value).substr(0, comma), kMax);
-    size = number(change, std::string_view(change.value).substr(comma + 1), kMax);
+    start = number(change.argument, std::string_view(change.value).substr(0, comma));
+    size = number(change.argument, std::string_view(change.value).substr(comma + 1));
   }
   set<&Engine::SetROMem>(engine, change, start, size);
 }
 
 void apply_cable(Engine& engine, const Change& change) {
-  const unsigned int type = word(change, kCables);
+  const unsigned int type = word(change.argument, change.value, kCables);
   require_cable_in_use(engine, change);
   set<&Engine::SetCableType>(engine, change, static_cast<Engine::CableType>(type));
 }
 
 void apply_frequency(Engine& engine, const Change& change) {
-  const std::uint32_t frequency = number(change);
+  const std::uint32_t frequency = number(change.argument, change.value);
   Engine::CableType type = Engine::CABLE_NONE;
   require_applicable(engine.GetCableType(type), change);
-  const std::vector<unsigned int> offered = offered_frequencies(type);
-  if (std::ranges::find(offered, frequency) == offered.end()) {
-    std::vector<std::string> names;
-    for (const unsigned int f : offered) names.push_back(std::to_string(f));
-    throw refused(change, "cable " + name_of(kCables, type) +
-                              (names.empty() ? " has no frequency to choose" : " supports " + join(names)));
-  }
+  require_offered(change.argument, type, frequency);
   set<&Engine::SetCableSpeed>(engine, change, frequency);
 }
 
 void apply_port(Engine& engine, const Change& change) {
   require_cable_in_use(engine, change);
-  set<&Engine::SetCablePort>(engine, change, one_word(change));
+  set<&Engine::SetCablePort>(engine, change, one_word(change.argument, change.value));
 }
 
 void apply_esn(Engine& engine, const Change& change) {
   require_cable_in_use(engine, change);
-  set<&Engine::SetCableESN>(engine, change, change.value.empty() ? "" : one_word(change));
+  set<&Engine::SetCableESN>(engine, change, change.value.empty() ? "" : one_word(change.argument, change.value));
+}
+
+// The engine takes a module as text and adds arguments to those before.
+void apply_module(Engine& engine, const Change& change) {
+  Engine::CableType type = Engine::CABLE_NONE;
+  require_applicable(engine.GetCableType(type), change);
+  if (type != Engine::ZARVEK_PLUGIN) {
+    throw refused(change.argument, "cable " + name_of(kCables, type) + " has no module; add cable=zarvek_plugin");
+  }
+  std::string text = "-cable";
+  for (const std::string& item : split_at(change.value, ',')) {
+    text += (text == "-cable" ? " modulename " : " modulearg ") + one_word(change.argument, item);
+  }
+  set<&Engine::SetCableType>(engine, change, Engine::ZARVEK_PLUGIN);
+  set<&Engine::SetPluginCableOptions>(engine, change, text);
 }
 
 // In the order in which they are applied.
@@ -209,6 +196,8 @@ constexpr Key kKeys[] = {
     {"stub-port", "TEXT", "serial device of the stub, such as /dev/ttyS0", apply_stub_port},
     {"stub-baud", "NUMBER", "baud rate of the stub", apply_stub_baud},
     {"debug-device", "NUMBER", "number of the debug device in the JTAG chain, 0 for none", apply_debug_device},
+    {"devices", "LIST", "devices of the JTAG chain, NR,PART,IRLENGTH,IDCODE each and a colon between; or none",
+     apply_devices},
     {"cpu-jtag", "on", "reach the processor through its own JTAG pins", apply_cpu_jtag},
     {"address-map", "unset", "unset the bases of the debug address map", apply_address_map},
     {"icache", "ADDRESS", "base of the instruction cache and of the debug address map",
@@ -223,6 +212,7 @@ constexpr Key kKeys[] = {
      apply_address<&Engine::SetDcrBaseAddr, &Engine::GetDcrBaseAddr>},
     {"rom", "START,SIZE", "read-only memory in bytes, or unset", apply_rom},
     {"cable", "WORD", "cable type, see 'qvtcfg cables'; its other settings become its defaults", apply_cable},
+    {"module", "NAME[,ARG...]", "module of a zarvek_plugin cable, and its arguments", apply_module},
     {"frequency", "NUMBER", "clock of the cable in Hz, one that the cable supports", apply_frequency},
     {"port", "TEXT", "port of the cable, such as USB21", apply_port},
     {"esn", "TEXT", "serial number of the cable; empty for none", apply_esn},
@@ -252,7 +242,7 @@ Change parse_change(const std::string& argument) {
 
 std::vector<Change> parse_changes(const std::vector<std::string>& arguments) {
   std::vector<Change> changes;
-  for (const std::string& argument : arguments) changes.push_back(parse_change(argument));
+  std::ranges::transform(arguments, std::back_inserter(changes), parse_change);
   std::ranges::stable_sort(changes, {}, &Change::key);
   const auto twice = std::ranges::adjacent_find(changes, {}, &Change::key);
   if (twice != changes.end()) {
@@ -261,7 +251,13 @@ std::vector<Change> parse_changes(const std::vector<std::string>& arguments) {
   return changes;
 }
 
-void apply_change(Engine& engine, const Change& change) { kKeys[change.key].apply(engine, change); }
+void apply_changes(Engine& engine, const std::vector<Change>& changes) {
+  for (const Change& change : changes) kKeys[change.key].apply(engine, change);
+  std::string module;
+  if (engine.GetPluginCableOptions(module) == kNotSet) {
+    throw Failure(kRefused, "cable zarvek_plugin is nothing without its module; add module=NAME");
+  }
+}
 
 std::string keys_help() {
   std::string text = "Keys:\n";

@@ -20,9 +20,10 @@ struct Change {
 // these. Throws Failure for a key that is unknown or given twice.
 std::vector<Change> parse_changes(const std::vector<std::string>& arguments);
 
-// Applies a change through the engine's setters. Throws Failure, with the engine's text where it has one, for a
-// value that is wrong or refused, and for a setting that the selected connection does not have.
-void apply_change(SdkDebugDialog::Engine& engine, const Change& change);
+// Applies changes through the engine's setters. Throws Failure, with the engine's text where it has one, for a value
+// that is wrong or refused, for a setting that the selected connection does not have, and for a cable without the
+// module that it needs.
+void apply_changes(SdkDebugDialog::Engine& engine, const std::vector<Change>& changes);
 
 // A line for each key: what it takes and what it is.
 std::string keys_help();

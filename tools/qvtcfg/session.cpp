@@ -1,5 +1,6 @@
 #include "session.h"
 
+#include <filesystem>
 #include <stdexcept>
 
 #include "failure.h"
@@ -15,9 +16,14 @@ using SdkDebugDialog::ProcessorInfo;
 // What Engine's operations answer where this program tells it from success.
 enum Status { kNotListed = 2, kBadCommand = 3, kBadFile = 4 };
 
-DesignFile load_design(const Arguments& arguments) {
+constexpr const char* kDefaultDesign = "design.json";
+
+std::optional<DesignFile> load_design(const Arguments& arguments, Need need) {
+  const std::string path = arguments.design.value_or(kDefaultDesign);
+  const bool missing = !std::filesystem::exists(std::filesystem::symlink_status(path));
+  if (missing && need == Need::kDesignIfAny && !arguments.design) return std::nullopt;
   try {
-    return DesignFile::load(arguments.design);
+    return DesignFile::load(path);
   } catch (const DesignFileError& error) {
     throw Failure(kFile, arguments.seen_from_outside(error.what()) + "; --design FILE names another design");
   }
@@ -30,19 +36,16 @@ std::string error_text(Engine& engine) {
 }
 
 // The engine leaves its records to whoever holds them.
-void release_records(EngineImp& state) {
-  for (const auto* record : state.processorList) delete record;
+void release_chain(EngineImp& state) {
   for (const auto* device : state.jtagChain) delete device;
-  state.processorList.clear();
   state.jtagChain.clear();
-  state.currentProcessor = nullptr;
 }
 
-void require_text(const std::string& text, const std::string& source, const std::string& advice) {
-  const auto at = first_non_text(text);
-  if (!at) return;
-  throw Failure(kNotUnderstood, source + ": the byte " + visible(text.substr(*at, 1)) + " at column " +
-                                    std::to_string(*at + 1) + " is no text" + advice);
+void release_records(EngineImp& state) {
+  release_chain(state);
+  for (const auto* record : state.processorList) delete record;
+  state.processorList.clear();
+  state.currentProcessor = nullptr;
 }
 
 // Runs one of the engine's readers and explains what goes wrong.
@@ -52,7 +55,7 @@ void understand(Engine& engine, const std::string& source, const std::string& ad
   try {
     status = read();
   } catch (const std::out_of_range&) {
-    throw Failure(kNotUnderstood, source + ": a lone '-' stands where an option or a value belongs" + advice);
+    throw Failure(kNotUnderstood, source + ": " + kLoneDash + advice);
   }
   if (status == kNotListed) throw Failure(kRefused, error_text(engine) + "; 'qvtcfg processors' lists the processors");
   if (status != kBadCommand) return;
@@ -63,50 +66,63 @@ void understand(Engine& engine, const std::string& source, const std::string& ad
 
 }  // namespace
 
-Session::Session(const Arguments& arguments)
-    : m_arguments(arguments),
-      m_design(load_design(arguments)),
-      m_path(option_file_path(arguments.processor)),
-      m_shown_path(arguments.seen_from_outside(m_path)) {
-  m_engine.GetProcessorList(&m_design, m_processors);
+Session::Session(const Arguments& arguments, Need need)
+    : m_arguments(arguments), m_design(load_design(arguments, need)) {
+  name_processor(arguments.processor.value_or(""));
+  if (m_design) m_engine.GetProcessorList(&*m_design, m_processors);
 }
 
 Session::~Session() { release_records(*m_engine.imp); }
 
+void Session::name_processor(const std::string& name) {
+  m_processor = name;
+  m_path = option_file_path(name);
+  m_shown_path = m_arguments.seen_from_outside(m_path);
+}
+
 const OptionFile& Session::read_option_file(Purpose purpose) {
-  const std::string& name = m_arguments.processor;
-  const std::string advice = "; correct the file, or replace it with 'qvtcfg read " + name + " TEXT --write'";
+  const std::string advice = "; correct the file, or replace it with 'qvtcfg read " + m_processor + " TEXT --write'";
   // Only the names of listed processors are part of a file's name.
-  if (m_engine.imp->FindProcessor(name) != nullptr) inspect_option_file(purpose, advice);
+  if (m_engine.imp->FindProcessor(m_processor) != nullptr) inspect_option_file(purpose, advice);
   ProcessorInfo info;
-  understand(m_engine, m_shown_path, advice, [&] { return m_engine.SetProcessor(name, info); });
+  understand(m_engine, m_shown_path, advice, [&] { return m_engine.SetProcessor(m_processor, info); });
   return m_file;
 }
 
 void Session::inspect_option_file(Purpose purpose, const std::string& advice) {
   m_file = look_at_option_file(m_path, m_shown_path);
-  require_text(m_file.command, m_shown_path, advice);
+  require_text({m_file.command, m_shown_path}, advice);
   if (!m_file.is_longer) return;
   const std::string what = m_shown_path + ": the command goes on after " + std::to_string(kLongestCommand) +
                            " characters, and the rest is not read";
   if (purpose == Purpose::kChange) {
-    throw Failure(kNotUnderstood, what + "; to lose nothing, give the whole command to 'qvtcfg read " +
-                                      m_arguments.processor + " - --write'");
+    throw Failure(kNotUnderstood,
+                  what + "; to lose nothing, give the whole command to 'qvtcfg read " + m_processor + " - --write'");
   }
   complain("warning: " + what);
 }
 
-void Session::read_command(const std::string& command, const std::string& source) {
-  require_text(command, source, "");
+void Session::read_command(const GivenText& command) {
+  require_text(command);
+  release_chain(*m_engine.imp);
   ProcessorInfo info;
-  understand(m_engine, source, "; 'qvtcfg command " + m_arguments.processor + "' prints one that is understood",
-             [&] { return m_engine.ParseProcessorInfo(m_arguments.processor, info, command); });
+  understand(m_engine, command.source, "; 'qvtcfg command " + m_processor + "' prints one that is understood",
+             [&] { return m_engine.ParseProcessorInfo(m_processor, info, command.text); });
+}
+
+void Session::identify(const GivenText& command) {
+  require_text(command);
+  understand(m_engine, command.source, "; 'qvtcfg command PROC' prints one that is understood", [&] {
+    m_identified.reset(m_engine.imp->GetProcessorInfo(command.text));
+    return m_identified != nullptr ? 0 : kBadCommand;
+  });
+  name_processor(m_identified->name);
 }
 
 std::string Session::command() {
   std::string text;
   if (m_engine.GenerateCmdString(text) == 0) return text;
-  throw Failure(kRefused, m_arguments.processor + ": " + error_text(m_engine) +
+  throw Failure(kRefused, m_processor + ": " + error_text(m_engine) +
                               "; no connect command can be written for these settings: change the connection or the "
                               "cable");
 }
@@ -129,11 +145,11 @@ void Session::warn_unless_readable(const std::string& command) {
     return;
   }
   Engine reader;
-  reader.GetProcessorList(&m_design);
+  reader.GetProcessorList(&*m_design);
   try {
     ProcessorInfo info;
     understand(reader, m_shown_path, consequence,
-               [&] { return reader.ParseProcessorInfo(m_arguments.processor, info, command); });
+               [&] { return reader.ParseProcessorInfo(m_processor, info, command); });
   } catch (const Failure& failure) {
     complain(std::string("warning: ") + failure.what());
   }

@@ -43,7 +43,7 @@ void print_difference(const OptionFile& before, const std::string& after, Output
 
 Json difference_json(const Arguments& arguments, const Session& session, const OptionFile& before,
                      const std::string& after) {
-  return {{"processor", arguments.processor},
+  return {{"processor", session.processor()},
           {"file", session.option_file_name()},
           {"old", before.exists ? Json(before.command) : Json()},
           {"new", after},
@@ -56,7 +56,7 @@ void run_set(const Arguments& arguments, Output& out) {
   const std::vector<Change> changes = parse_changes(arguments.changes);
   Session session(arguments);
   const OptionFile& before = session.read_option_file(Purpose::kChange);
-  for (const Change& change : changes) apply_change(session.engine(), change);
+  apply_changes(session.engine(), changes);
 
   const std::string after = session.command();
   if (arguments.json) {

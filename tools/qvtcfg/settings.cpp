@@ -14,60 +14,68 @@ using SdkDebugDialog::EngineImp;
 using SdkDebugDialog::JtagOption;
 using P = SdkDebugDialog::ProcessorInfoImp;
 
-// What the settings are taken from; the defaults are another one of these.
-struct State {
-  const P& processor;
-  const CableOption& cable;
-  int cpuJtag;
-  const std::vector<JtagOption*>& chain;
+enum class Mark {
+  kNone,
+  kHex,          // a number that people read in hexadecimal
+  kInCableText,  // a text of cable and chain alone says it as well
 };
+using enum Mark;
 
 struct Setting {
   const char* group;  // settings of one group stand together
   const char* name;
-  Json (*value)(const State&);
-  bool hex = false;
+  Json (*value)(const Settings&);
+  Mark mark = kNone;
 };
 
 template <auto Member>
-Json processor(const State& s) {
+Json processor(const Settings& s) {
   return s.processor.*Member;
 }
 
+// A port has the sign with which it is written.
 template <auto Member>
-Json flag(const State& s) {
+Json port(const Settings& s) {
+  return static_cast<std::int32_t>(s.processor.*Member);
+}
+
+template <auto Member>
+Json flag(const Settings& s) {
   return s.processor.*Member != 0;
 }
 
 template <auto Member>
-Json address(const State& s) {
+Json address(const Settings& s) {
   const std::uint32_t a = s.processor.*Member;
   return a != SdkDebugDialog::kAddressNotSet ? Json(a) : Json();
 }
 
 template <auto Member, const auto& Words>
-Json word(const State& s) {
+Json word(const Settings& s) {
   return name_of(Words, s.processor.*Member);
 }
 
 template <auto Member>
-Json cable(const State& s) {
+Json cable(const Settings& s) {
   return s.cable.*Member;
 }
 
-Json cable_type(const State& s) { return name_of(kCables, s.cable.type); }
+Json cable_type(const Settings& s) { return name_of(kCables, s.cable.type); }
 
-Json cpu_number(const State& s) { return static_cast<std::int8_t>(s.processor.cpuNr); }
+// A command alone may name no processor.
+Json processor_name(const Settings& s) { return s.processor.name.empty() ? Json() : Json(s.processor.name); }
 
-Json allowed_connections(const State& s) { return names_in_set(kConnections, s.processor.allowedConnections); }
+Json cpu_number(const Settings& s) { return static_cast<std::int8_t>(s.processor.cpuNr); }
+
+Json allowed_connections(const Settings& s) { return names_in_set(kConnections, s.processor.allowedConnections); }
 
 // A value without a single word, as a stub's with its marks, is spelled bit by bit.
-Json connection(const State& s) {
+Json connection(const Settings& s) {
   const std::vector<std::string> words = names_in_set(kConnections, s.processor.connectionType);
   return words.empty() ? Json() : Json(join(words, "+"));
 }
 
-Json cpu_jtag(const State& s) { return s.cpuJtag != 0; }
+Json cpu_jtag(const Settings& s) { return s.cpuJtag != 0; }
 
 Json device(const JtagOption& d) {
   return {{"device", d.devicenr},   {"part", d.partname},
@@ -76,7 +84,7 @@ Json device(const JtagOption& d) {
           {"ppc-count", d.nppc}};
 }
 
-Json devices(const State& s) {
+Json devices(const Settings& s) {
   Json list = Json::array();
   for (const JtagOption* d : s.chain) list.push_back(device(*d));
   return list;
@@ -85,7 +93,7 @@ Json devices(const State& s) {
 constexpr const char* kIdentity = "identity";
 
 constexpr Setting kSettings[] = {
-    {kIdentity, "name", processor<&P::name>},
+    {kIdentity, "name", processor_name},
     {kIdentity, "family", word<&P::procFamily, kFamilies>},
     {kIdentity, "variant", word<&P::procVariant, kVariants>},
     {kIdentity, "cpu", cpu_number},
@@ -102,48 +110,48 @@ constexpr Setting kSettings[] = {
     {"simulator", "memory-size", processor<&P::memSize>},
     {"simulator", "config-file", processor<&P::simConfigFile>},
     {"simulator", "sim-host", processor<&P::simHost>},
-    {"simulator", "sim-port", processor<&P::simPort>},
+    {"simulator", "sim-port", port<&P::simPort>},
 
     {"virtual-platform", "configured", flag<&P::vpConfigured>},
     {"virtual-platform", "cycle-approximate", flag<&P::vpCycleApproximate>},
 
     {"hardware-simulator", "enabled", flag<&P::modelSimEnabled>},
     {"hardware-simulator", "host", processor<&P::modelSimHost>},
-    {"hardware-simulator", "port", processor<&P::modelSimPort>},
+    {"hardware-simulator", "port", port<&P::modelSimPort>},
 
-    {"debug-device", "debug-device", processor<&P::debugDevice>},
+    {"debug-device", "debug-device", processor<&P::debugDevice>, kInCableText},
     {"debug-device", "bscan", word<&P::bscanPort, kBscanPorts>},
     {"debug-device", "uart", flag<&P::uartEnabled>},
     {"debug-device", "cpu-version", processor<&P::cpuVersion>},
     {"debug-device", "odm-version", processor<&P::odmVersion>},
     {"debug-device", "cpu-count", processor<&P::nCpu>},
 
-    {"address-map", "address-map", address<&P::debugAddressMap>, true},
-    {"address-map", "icache", address<&P::icacheStartAddr>, true},
-    {"address-map", "itag", address<&P::itagStartAddr>, true},
-    {"address-map", "dcache", address<&P::dcacheStartAddr>, true},
-    {"address-map", "dtag", address<&P::dtagStartAddr>, true},
-    {"address-map", "tlb", address<&P::tlbStartAddr>, true},
-    {"address-map", "dcr", address<&P::dcrStartAddr>, true},
+    {"address-map", "address-map", address<&P::debugAddressMap>, kHex},
+    {"address-map", "icache", address<&P::icacheStartAddr>, kHex},
+    {"address-map", "itag", address<&P::itagStartAddr>, kHex},
+    {"address-map", "dcache", address<&P::dcacheStartAddr>, kHex},
+    {"address-map", "dtag", address<&P::dtagStartAddr>, kHex},
+    {"address-map", "tlb", address<&P::tlbStartAddr>, kHex},
+    {"address-map", "dcr", address<&P::dcrStartAddr>, kHex},
 
-    {"memories", "isocm", address<&P::isocmStartAddr>, true},
+    {"memories", "isocm", address<&P::isocmStartAddr>, kHex},
     {"memories", "isocm-size", processor<&P::isocmSize>},
-    {"memories", "isocm-dcr", address<&P::isocmDcrStartAddr>, true},
-    {"memories", "rom", address<&P::romemStartAddr>, true},
+    {"memories", "isocm-dcr", address<&P::isocmDcrStartAddr>, kHex},
+    {"memories", "rom", address<&P::romemStartAddr>, kHex},
     {"memories", "rom-size", processor<&P::romemSize>},
 
-    {"cable", "cable", cable_type},
-    {"cable", "frequency", cable<&CableOption::frequency>},
-    {"cable", "port", cable<&CableOption::port>},
-    {"cable", "esn", cable<&CableOption::esn>},
-    {"cable", "svf-file", cable<&CableOption::fname>},
+    {"cable", "cable", cable_type, kInCableText},
+    {"cable", "frequency", cable<&CableOption::frequency>, kInCableText},
+    {"cable", "port", cable<&CableOption::port>, kInCableText},
+    {"cable", "esn", cable<&CableOption::esn>, kInCableText},
+    {"cable", "svf-file", cable<&CableOption::fname>, kInCableText},
     {"cable", "svf-file-named", flag<&P::svfFileSet>},
-    {"cable", "module", cable<&CableOption::modulename>},
-    {"cable", "module-arguments", cable<&CableOption::modulearg>},
-    {"cable", "url", cable<&CableOption::url>},
+    {"cable", "module", cable<&CableOption::modulename>, kInCableText},
+    {"cable", "module-arguments", cable<&CableOption::modulearg>, kInCableText},
+    {"cable", "url", cable<&CableOption::url>, kInCableText},
 
-    {"jtag-chain", "cpu-jtag", cpu_jtag},
-    {"jtag-chain", "devices", devices},
+    {"jtag-chain", "cpu-jtag", cpu_jtag, kInCableText},
+    {"jtag-chain", "devices", devices, kInCableText},
 };
 
 std::string hex_text(std::uint32_t value) {
@@ -195,7 +203,7 @@ void print_setting(const Setting& setting, const Json& value, bool marked, Outpu
   const Style style = marked ? Style::kSet : Style::kDefault;
   const bool listed = !value.empty() && value.is_array() && value.front().is_object();
   if (!listed) {
-    const std::string text = start + text_of(value, setting.hex);
+    const std::string text = start + text_of(value, setting.mark == kHex);
     out.line(is_identity(setting) ? text : out.styled(style, text));
     return;
   }
@@ -203,43 +211,50 @@ void print_setting(const Setting& setting, const Json& value, bool marked, Outpu
   for (const Json& item : value) out.line("    " + text_of(item, false));
 }
 
-// Calls visit(setting, value, differs from the default) for every setting.
+// Calls visit(setting, value, differs from the default) for every setting chosen.
 template <typename Visit>
-void for_each_setting(const EngineImp& engine, Visit visit) {
+void for_each_setting(const Settings& settings, const Choice& choice, Visit visit) {
   const P default_processor;
   const CableOption default_cable;
   const std::vector<JtagOption*> default_chain;
-  const State state{*engine.currentProcessor, *engine.cable, engine.cpuJtag, engine.jtagChain};
-  const State defaults{default_processor, default_cable, 0, default_chain};
+  const Settings defaults{default_processor, default_cable, 0, default_chain};
   for (const Setting& setting : kSettings) {
-    const Json value = setting.value(state);
-    visit(setting, value, !is_identity(setting) && value != setting.value(defaults));
+    if (choice.cable_text_only && setting.mark != kInCableText) continue;
+    const Json value = setting.value(settings);
+    const bool differs = !is_identity(setting) && value != setting.value(defaults);
+    if (!choice.changed_only || is_identity(setting) || differs) visit(setting, value, differs);
   }
 }
 
 }  // namespace
 
-Json settings_json(const EngineImp& state) {
+Settings settings_of(const EngineImp& state) {
+  return {*state.currentProcessor, *state.cable, state.cpuJtag, state.jtagChain};
+}
+
+Json settings_json(const Settings& settings, const Choice& choice) {
   Json groups = Json::object();
-  for_each_setting(state, [&](const Setting& setting, const Json& value, bool differs) {
+  for_each_setting(settings, choice, [&](const Setting& setting, const Json& value, bool differs) {
     Json& member = groups[setting.group][setting.name];
     member = is_identity(setting) ? value : Json{{"value", value}, {"default", !differs}};
   });
   return groups;
 }
 
-void print_settings(const EngineImp& state, Output& out) {
+void print_settings(const Settings& settings, const Choice& choice, Output& out) {
   std::string_view group;
-  for_each_setting(state, [&](const Setting& setting, const Json& value, bool differs) {
+  bool any_differs = false;
+  for_each_setting(settings, choice, [&](const Setting& setting, const Json& value, bool differs) {
     if (group != setting.group) {
       out.line("");
       out.line(out.styled(Style::kHeading, setting.group));
     }
     group = setting.group;
+    any_differs |= differs;
     print_setting(setting, value, differs, out);
   });
   out.line("");
-  out.line("* differs from its default");
+  out.line(any_differs ? "* differs from its default" : "every setting has its default");
 }
 
 }  // namespace qvtcfg

@@ -1,11 +1,8 @@
 // qvtcfg show, command and read
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-
 #include "command_line.h"
 #include "failure.h"
+#include "given_text.h"
 #include "output.h"
 #include "session.h"
 #include "settings.h"
@@ -21,17 +18,21 @@ struct Source {
 };
 
 void show_settings(const Arguments& arguments, const Session& session, const Source& source, Output& out) {
+  const std::string& processor = session.processor();
   const std::string& command = session.state().currentProcessor->command;
+  const Settings settings = settings_of(session.state());
+  const Choice choice{.changed_only = arguments.changed_only};
   if (arguments.json) {
-    out.json({{"processor", arguments.processor},
+    out.json({{"processor", processor.empty() ? Json() : Json(processor)},
               {"file", source.file},
               {"command", command.empty() ? Json() : Json(command)},
-              {"settings", settings_json(session.state())}});
+              {"settings", settings_json(settings, choice)}});
     return;
   }
-  out.line(out.styled(Style::kHeading, arguments.processor) + visible(" as in " + source.name));
+  const std::string name = processor.empty() ? "no processor of a design," : processor;
+  out.line(out.styled(Style::kHeading, name) + visible(" as in " + source.name));
   if (!command.empty()) out.line(visible(command));
-  print_settings(session.state(), out);
+  print_settings(settings, choice, out);
 }
 
 void write_if_asked(const Arguments& arguments, Session& session, Output& out) {
@@ -39,16 +40,18 @@ void write_if_asked(const Arguments& arguments, Session& session, Output& out) {
   if (arguments.write) session.write_option_file();
 }
 
-std::string standard_input() {
-  constexpr std::size_t kLimit = std::size_t{64} << 20;
-  std::string text;
-  char block[65536];
-  while (const std::size_t count = std::fread(block, 1, sizeof block, stdin)) {
-    text.append(block, count);
-    if (text.size() > kLimit) throw Failure(kNotUnderstood, "standard input: too long for a connect command");
+// A command may be read for a processor that has no use for it; it is stored for one that has.
+void read_alone(const Arguments& arguments, Session& session, const GivenText& command) {
+  session.identify(command);
+  if (!arguments.write) return;
+  if (session.processor().empty()) {
+    throw Failure(kRefused, std::string("--write: ") +
+                                (session.has_design() ? "the command is for no processor of the design; name one: "
+                                                        "'qvtcfg processors' lists the processors"
+                                                      : "there is no design whose processor the command could be for; "
+                                                        "--design FILE names one"));
   }
-  if (std::ferror(stdin) != 0) throw Failure(kFile, std::string("standard input: ") + std::strerror(errno));
-  return text;
+  session.read_command(command);
 }
 
 }  // namespace
@@ -66,7 +69,7 @@ void run_command(const Arguments& arguments, Output& out) {
   session.read_option_file(arguments.write ? Purpose::kChange : Purpose::kShow);
   const std::string command = session.command();
   if (arguments.json) {
-    out.json({{"processor", arguments.processor}, {"command", command}});
+    out.json({{"processor", session.processor()}, {"command", command}});
   } else {
     out.line(visible(command));
   }
@@ -74,12 +77,16 @@ void run_command(const Arguments& arguments, Output& out) {
 }
 
 void run_read(const Arguments& arguments, Output& out) {
-  const bool piped = arguments.text == "-";
-  const std::string text = piped ? standard_input() : arguments.text;
-  const std::string source = piped ? "standard input" : "the command given";
-  Session session(arguments);
-  session.read_command(text, source);
-  show_settings(arguments, session, {source, arguments.write ? Json(session.option_file_name()) : Json()}, out);
+  const GivenText command = given_text(arguments.text, "the command given");
+  const bool named = arguments.processor.has_value();
+  Session session(arguments, named ? Need::kDesign : Need::kDesignIfAny);
+  if (named) {
+    session.read_command(command);
+  } else {
+    read_alone(arguments, session, command);
+  }
+  const Json file = arguments.write ? Json(session.option_file_name()) : Json();
+  show_settings(arguments, session, {command.source, file}, out);
   write_if_asked(arguments, session, out);
   if (arguments.write && !arguments.json) out.line(visible("written to " + session.option_file_name()));
 }

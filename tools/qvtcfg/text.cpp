@@ -7,8 +7,6 @@
 namespace qvtcfg {
 namespace {
 
-constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
-
 unsigned char byte_at(std::string_view text, std::size_t at) {
   return at < text.size() ? static_cast<unsigned char>(text[at]) : 0;
 }
@@ -18,9 +16,7 @@ bool is_continuation(unsigned char byte) { return (byte & 0xC0U) == 0x80; }
 // What may follow a lead byte of UTF-8: how many bytes, and the range of the first of them, which leaves out the
 // second control block, overlong forms and surrogates.
 struct Lead {
-  unsigned char first, last;
-  std::size_t length;
-  unsigned char low, high;
+  unsigned char first, last, length, low, high;
 };
 constexpr Lead kLeads[] = {
     {0xC2, 0xC2, 2, 0xA0, 0xBF}, {0xC3, 0xDF, 2, 0x80, 0xBF}, {0xE0, 0xE0, 3, 0xA0, 0xBF},
@@ -111,6 +107,16 @@ std::vector<std::string> split_words(std::string_view text) {
     at = text.find_first_not_of(" \t", end);
   }
   return words;
+}
+
+std::vector<std::string> split_at(std::string_view text, char separator) {
+  std::vector<std::string> items;
+  for (std::size_t end = text.find(separator); end != std::string_view::npos; end = text.find(separator)) {
+    items.emplace_back(text.substr(0, end));
+    text.remove_prefix(end + 1);
+  }
+  items.emplace_back(text);
+  return items;
 }
 
 std::string join(const std::vector<std::string>& items, std::string_view separator) {

@@ -10,6 +10,8 @@
 
 namespace qvtcfg {
 
+inline constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
+
 // The text with every byte that is no text (control bytes, broken UTF-8) spelled as \xNN.
 std::string visible(std::string_view text);
 
@@ -21,6 +23,9 @@ std::optional<std::size_t> first_non_text(std::string_view text);
 
 // The words between blanks and tabs.
 std::vector<std::string> split_words(std::string_view text);
+
+// What stands between the separators; at least one item, and empty ones too.
+std::vector<std::string> split_at(std::string_view text, char separator);
 
 std::string join(const std::vector<std::string>& items, std::string_view separator = ", ");
 

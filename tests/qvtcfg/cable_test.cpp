@@ -1,0 +1,244 @@
+// Cable and chain as text, without a design.
+
+#include "tool.h"
+
+namespace {
+
+using testing::HasSubstr;
+
+class WithoutDesign : public Tool {
+ protected:
+  WithoutDesign() { std::filesystem::remove(folder() / "design.json"); }
+};
+
+using CableParse = WithoutDesign;
+using CableFormat = WithoutDesign;
+
+TEST_F(CableParse, ShowsCableChainAndDebugDevice) {
+  const Result result =
+      qvtcfg({"cable", "parse",
+              "-cable type zarvek_parallel3 -configdevice devicenr 1 partname p irlength 6 idcode 0x1 "
+              "-configdevice devicenr 2 isfpga 1 hardppc ppc405 nppc 2"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_EQ(result.err, "");
+  EXPECT_EQ(result.out,
+            "cable and chain as in the text given\n"
+            "-cable type zarvek_parallel3 -configdevice devicenr 1 partname p irlength 6 idcode 0x1 "
+            "-configdevice devicenr 2 isfpga 1 hardppc ppc405 nppc 2\n"
+            "\n"
+            "debug-device\n"
+            "* debug-device        2\n"
+            "\n"
+            "cable\n"
+            "* cable               zarvek_parallel3\n"
+            "  frequency           0\n"
+            "* port                LPT1\n"
+            "  esn                 -\n"
+            "  svf-file            -\n"
+            "  module              -\n"
+            "  module-arguments    -\n"
+            "  url                 -\n"
+            "\n"
+            "jtag-chain\n"
+            "  cpu-jtag            no\n"
+            "* devices             2\n"
+            "    device 1, part p, irlength 6, idcode 0x00000001, fpga no, hard-ppc none, ppc-count 0\n"
+            "    device 2, part UNKNOWN, irlength 0, idcode 0x00000000, fpga yes, hard-ppc ppc405, ppc-count 2\n"
+            "\n"
+            "* differs from its default\n");
+}
+
+TEST_F(CableParse, ShowsOnlyWhatDiffersOnDemand) {
+  EXPECT_EQ(
+      qvtcfg({"cable", "parse", "-cable type zarvek_plugin modulename m modulearg a modulearg b", "--changed"}).out,
+      "cable and chain as in the text given\n"
+      "-cable type zarvek_plugin modulename m modulearg a modulearg b\n"
+      "\n"
+      "cable\n"
+      "* cable               zarvek_plugin\n"
+      "* module              m\n"
+      "* module-arguments    a;b\n"
+      "\n"
+      "* differs from its default\n");
+}
+
+TEST_F(CableParse, AnswersInJson) {
+  EXPECT_EQ(json({"cable", "parse", "--changed", "-configdevice jtagport cpu -debugdevice deviceNr 5"}),
+            nlohmann::json::parse(R"({
+              "text": "-configdevice jtagport cpu -debugdevice deviceNr 5",
+              "settings": {
+                "debug-device": {"debug-device": {"value": 5, "default": false}},
+                "jtag-chain": {
+                  "cpu-jtag": {"value": true, "default": false},
+                  "devices": {"value": [{"device": 0, "part": "UNKNOWN", "irlength": 0, "idcode": 0, "fpga": false,
+                                         "hard-ppc": "none", "ppc-count": 0}], "default": false}}}})"));
+  const auto settings = json({"cable", "parse", "-cable type zarvek_platformusb url u fname f"})["settings"];
+  EXPECT_EQ(settings.size(), 3U);
+  EXPECT_EQ(settings["debug-device"].size(), 1U);
+  EXPECT_EQ(settings["cable"]["url"]["value"], "u");
+  EXPECT_EQ(settings["cable"]["svf-file"]["value"], "f");
+  EXPECT_EQ(settings["cable"].count("svf-file-named"), 0U);
+}
+
+TEST_F(CableParse, TakesStandardInputForADash) {
+  const Result result = qvtcfg({"cable", "parse", "-"}, "-cable type zarvek_tcf\n");
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_THAT(result.out, HasSubstr("cable and chain as in standard input\n-cable type zarvek_tcf\n"));
+  EXPECT_THAT(result.out, HasSubstr("\n* cable               zarvek_tcf\n"));
+}
+
+TEST_F(CableParse, OfAnEmptyTextAreTheDefaults) {
+  EXPECT_EQ(qvtcfg({"cable", "parse", "", "--changed"}).out,
+            "cable and chain as in the text given\n\nevery setting has its default\n");
+}
+
+TEST_F(CableParse, WhatIsNotUnderstoodIsExplainedInOneLine) {
+  const std::string why =
+      "the text given is not understood: it is no run of the options -cable, -configdevice, -debugdevice and -bscan "
+      "with keywords and values that they know; 'qvtcfg cable format' prints such a text\n";
+  for (const char* text : {"cable type none", "-foo bar", "-cable speed 5", "-configdevice devicenr 1 -cable type x",
+                           "-configdevice devicenr 1 -debugdevice deviceNr", " -bscan USER9",
+                           "-cable type zarvek_svffile", "-cable type zarvek_platformusb frequency 1"}) {
+    const Result result = qvtcfg({"cable", "parse", text});
+    EXPECT_EQ(result.code, 3) << text;
+    EXPECT_EQ(result.out, "") << text;
+    EXPECT_EQ(result.err, "qvtcfg: " + why) << text;
+  }
+  EXPECT_EQ(qvtcfg({"cable", "parse", "-configdevice devicenr 1 -cable -"}).err,
+            "qvtcfg: the text given: a lone '-' stands where an option or a value belongs\n");
+}
+
+TEST_F(CableParse, CountsTheColumnsOfATextAsItWasGiven) {
+  EXPECT_THAT(qvtcfg({"cable", "parse", "-cable \001"}).err,
+              IsComplaint("the text given: the byte \\x01 at column 8 is no text"));
+  EXPECT_THAT(qvtcfg({"cable", "parse", " -cable \001"}).err, IsComplaint("at column 9 is no text"));
+  EXPECT_THAT(qvtcfg({"cable", "parse", "--", "-cable\001"}).err, IsComplaint("at column 7 is no text"));
+}
+
+TEST_F(CableFormat, PrintsEverythingInTheOrderOfTheSyntax) {
+  const Result result = qvtcfg({"cable", "format", "--debug-device", "2", "--device", "1,prom32,16,0xa5059093",
+                                "--device", "2,dv5,10,0x2b97093", "--type", "zarvek_platformusb"});
+  EXPECT_EQ(result.code, 0);
+  EXPECT_EQ(result.err, "");
+  EXPECT_EQ(result.out,
+            "-cable type zarvek_platformusb port USB21 frequency 6000000 "
+            "-configdevice devicenr 1 partname prom32 irlength 16 idcode 0xa5059093 "
+            "-configdevice devicenr 2 partname dv5 irlength 10 idcode 0x2b97093 -debugdevice deviceNr 2\n");
+}
+
+TEST_F(CableFormat, AnswersInJson) {
+  EXPECT_EQ(json({"cable", "format", "--debug-device", "0x7F"}),
+            nlohmann::json::parse(R"({"text": "-debugdevice deviceNr 127"})"));
+}
+
+TEST_F(CableFormat, EveryCableThatCanBeWritten) {
+  const struct {
+    std::vector<std::string> options;
+    const char* text;
+  } kCables[] = {
+      {{"none", "--debug-device", "1"}, "-debugdevice deviceNr 1"},
+      {{"zarvek_parallel4"}, "-cable type zarvek_parallel port LPT1 frequency 5000000"},
+      {{"zarvek_parallel3", "--port", "LPT2"}, "-cable type zarvek_parallel3 port LPT2 frequency 200000"},
+      {{"zarvek_platformusb", "--frequency", "12000000"},
+       "-cable type zarvek_platformusb port USB21 frequency 12000000"},
+      {{"zarvek_platformusb", "--esn", "0042"}, "-cable type zarvek_platformusb esn 0042"},
+      {{"zarvek_plugin", "--module", "m"}, "-cable type zarvek_plugin modulename m"},
+      {{"zarvek_plugin", "--module-arg", "a", "--module", "m", "--module-arg", "b"},
+       "-cable type zarvek_plugin modulename m modulearg a modulearg b"},
+      {{"digilent_plugin"}, "-cable type digilent_plugin"},
+  };
+  for (const auto& cable : kCables) {
+    std::vector<std::string> arguments = {"cable", "format", "--type"};
+    arguments.insert(arguments.end(), cable.options.begin(), cable.options.end());
+    const Result result = qvtcfg(arguments);
+    EXPECT_EQ(result.code, 0) << result.err;
+    EXPECT_EQ(result.out, std::string(cable.text) + "\n");
+  }
+}
+
+// The arguments of cable format that stand for what cable parse answered.
+std::vector<std::string> arguments_for(const nlohmann::json& settings) {
+  std::vector<std::string> arguments = {"cable", "format"};
+  const auto add = [&](const char* option, const nlohmann::json& value) {
+    const std::string text = value.is_string() ? value.get<std::string>() : value.dump();
+    if (!text.empty()) arguments.insert(arguments.end(), {option, text});
+  };
+  const auto& cable = settings["cable"];
+  add("--type", cable["cable"]["value"]);
+  add("--frequency", cable["frequency"]["value"]);
+  add("--port", cable["port"]["value"]);
+  add("--esn", cable["esn"]["value"]);
+  add("--module", cable["module"]["value"]);
+  add("--module-arg", cable["module-arguments"]["value"]);
+  for (const auto& device : settings["jtag-chain"]["devices"]["value"]) {
+    add("--device", device["device"].dump() + "," + device["part"].get<std::string>() + "," +
+                        device["irlength"].dump() + "," + device["idcode"].dump());
+  }
+  add("--debug-device", settings["debug-device"]["debug-device"]["value"]);
+  return arguments;
+}
+
+TEST_F(CableFormat, ReversesCableParse) {
+  for (const char* text : {
+           "-cable type zarvek_platformusb port USB21 frequency 12000000",
+           "-cable type zarvek_parallel port LPT2 frequency 200000 -debugdevice deviceNr 3",
+           "-cable type zarvek_parallel3 port LPT1 frequency 0 -debugdevice deviceNr 7",
+           "-configdevice devicenr 1 partname p irlength 6 idcode 0x1 -debugdevice deviceNr 1",
+           "-cable type zarvek_platformusb esn 0042 -debugdevice deviceNr 1",
+           "-cable type zarvek_plugin modulename m modulearg a modulearg b",
+       }) {
+    const Result result = qvtcfg(arguments_for(json({"cable", "parse", text})["settings"]));
+    EXPECT_EQ(result.code, 0) << result.err;
+    EXPECT_EQ(result.out, std::string(text) + "\n");
+  }
+}
+
+TEST_F(CableFormat, WhatCannotBeWrittenIsRefusedInOneLine) {
+  const std::string another =
+      "; choose another --type: none, zarvek_parallel3, zarvek_parallel4, zarvek_platformusb, zarvek_plugin or "
+      "digilent_plugin";
+  const struct {
+    std::vector<std::string> options;
+    int code;
+    std::string why;
+  } kFaults[] = {
+      {{}, 2, "nothing is to be written; give --type, --device or --debug-device"},
+      {{"--type", "none"}, 2, "nothing is to be written; give --type, --device or --debug-device"},
+      {{"--type", "zarvek_tcf"}, 1, "no text can be written for cable zarvek_tcf" + another},
+      {{"--type", "zarvek_svffile", "--port", "p"}, 1, "no text can be written for cable zarvek_svffile" + another},
+      {{"--type", "zarvek_plugin"}, 1, "cable zarvek_plugin is nothing without its module; add --module NAME"},
+      {{"--type", "digilent_plugin", "--esn", "1"},
+       1,
+       "--esn: cable digilent_plugin is written without it; leave it out, or choose another --type"},
+      {{"--type", "zarvek_plugin", "--module", "m", "--port", "p"},
+       1,
+       "--port: cable zarvek_plugin is written without"},
+      {{"--type", "zarvek_parallel3", "--module", "m"}, 1, "--module: cable zarvek_parallel3 is written without it"},
+      {{"--type", "zarvek_parallel3", "--module-arg", "m"}, 1, "--module-arg: cable zarvek_parallel3 is written"},
+      {{"--port", "LPT1", "--debug-device", "1"}, 1, "--port: cable none is written without it"},
+      {{"--frequency", "5"}, 1, "--frequency=5: cable none has no frequency to choose"},
+      {{"--type", "zarvek_parallel3", "--frequency", "5"}, 1, "--frequency=5: cable zarvek_parallel3 supports 200000"},
+      {{"--type", "zarvek_usb"}, 2, "--type=zarvek_usb: expected none, zarvek_svffile, "},
+      {{"--type", "zarvek_parallel3", "--frequency", "5x"},
+       2,
+       "--frequency=5x: expected a number from 0 to 4294967295"},
+      {{"--type", "zarvek_parallel3", "--port", "two words"}, 2, "--port=two words: expected one word"},
+      {{"--debug-device", "128"}, 2, "--debug-device=128: expected a number from 0 to 127"},
+      {{"--device", "1,p,6"},
+       2,
+       "--device=1,p,6: expected a chain device as NR,PART,IRLENGTH,IDCODE, such as 1,prom32,16,0xa5059093"},
+      {{"--device", "1,p,6,0x1,5"}, 2, "--device=1,p,6,0x1,5: expected a chain device as NR,PART,IRLENGTH,IDCODE"},
+      {{"--device", "128,p,6,0x1"}, 2, "--device=128,p,6,0x1: expected a number from 0 to 127"},
+      {{"--device", "1,,6,0x1"}, 2, "--device=1,,6,0x1: expected one word of text"},
+  };
+  for (const auto& fault : kFaults) {
+    std::vector<std::string> arguments = {"cable", "format"};
+    arguments.insert(arguments.end(), fault.options.begin(), fault.options.end());
+    const Result result = qvtcfg(arguments);
+    EXPECT_EQ(result.code, fault.code) << fault.why;
+    EXPECT_EQ(result.out, "") << fault.why;
+    EXPECT_THAT(result.err, IsComplaint(fault.why));
+  }
+}
+
+}  // namespace
