@@ -11,6 +11,7 @@ install(FILES platform/HHSMHwManager.h platform/ComMsgMgr.h
 if(TARGET DesignFile)
   install(FILES platform/DesignFile.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/SdkDebugDialog/platform)
   install(FILES docs/design-file.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/SdkDebugDialog)
+  install(FILES docs/design-file.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 endif()
 if(TARGET qvtcfg)
   install(FILES docs/qvtcfg.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
