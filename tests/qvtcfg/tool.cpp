@@ -5,9 +5,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
+#include <system_error>
 
 namespace {
 
@@ -79,6 +81,7 @@ Result Tool::qvtcfg_on_terminal(std::vector<std::string> arguments, std::vector<
   arguments.insert(arguments.begin(), QVTCFG);
   int terminal = -1;
   const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
+  if (child < 0) throw std::system_error(errno, std::generic_category(), "no pseudo-terminal; is /dev/pts mounted?");
   if (child == 0) {
     unsetenv("NO_COLOR");
     for (std::string& variable : environment) putenv(variable.data());
