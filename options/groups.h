@@ -17,7 +17,6 @@ int read_cable(TokenCursor& in, EngineImp& imp);
 int read_configdevice(TokenCursor& in, EngineImp& imp);
 int read_debugdevice(TokenCursor& in, EngineImp& imp);
 int read_pfsl(TokenCursor& in, EngineImp& imp);
-
 int read_modelsim(TokenCursor& in, EngineImp& imp);
 
 // The argument of an option, which is passed as it was typed: kValue or kError; read_stub_option: or the kind of

@@ -1,6 +1,5 @@
 // How a software stub is reached: "-comm", "-port", "-baud" and "-timeout".
 
-#include <algorithm>
 #include <string>
 
 #include "SdkDebugDialog/Engine.h"
