@@ -1,12 +1,9 @@
 #include "options/TokenCursor.h"
 
-#include <bit>
-#include <cstdint>
+#include <algorithm>
 #include <stdexcept>
 
 #include "options/QvtOption_Parser.h"
-#include "options/status.h"
-#include "options/word_index.h"
 
 namespace SdkDebugDialog {
 
@@ -14,38 +11,50 @@ std::string newoption_token;
 
 namespace {
 
-// The first blank or tab, looked for in eight characters at a time; end if there is none.
-const char* find_blank(const char* text, const char* end) {
-  constexpr std::uint64_t kEach = 0x0101010101010101U;
-  for (; end - text >= 8; text += 8) {
-    const std::uint64_t packed = letters(text, 8);
-    // A byte that becomes 0 here borrows from its highest bit; the lowest one that does so is exact.
-    const std::uint64_t blank = packed ^ (' ' * kEach);
-    const std::uint64_t tab = packed ^ ('\t' * kEach);
-    const std::uint64_t found = (((blank - kEach) & ~blank) | ((tab - kEach) & ~tab)) & (0x80 * kEach);
-    if (found != 0) return text + std::countr_zero(found) / 8;
-  }
-  while (text != end && *text != ' ' && *text != '\t') ++text;
-  return text;
+// A bit for each of eight characters that is not above the blank; letters beyond ASCII are above it.
+std::uint64_t up_to_blank(std::uint64_t packed) {
+  const std::uint64_t above = ((packed & eight_of(0x7F)) + eight_of(0x7F - ' ')) | packed;
+  // The multiplication brings the bits of the eight bytes side by side.
+  return (((~above & eight_of(0x80)) >> 7) * 0x0102040810204080U) >> 56;
 }
 
 }  // namespace
 
-bool TokenCursor::cut(std::string_view& token) {
-  const char* begin = m_rest.data();
-  const char* const textEnd = begin + m_rest.size();
-  while (begin != textEnd && is_space(*begin)) ++begin;
+bool TokenCursor::look_ahead() {
+  std::uint64_t white = 0;
+  while (white == 0 && m_ahead != m_end) {
+    m_block = m_ahead;
+    const char* ahead = m_ahead;
+    if (m_end - ahead >= 64) {
+      for (int i = 0; i < 64; i += 8) white |= up_to_blank(letters(ahead + i, 8)) << i;
+      m_ahead += 64;
+      continue;
+    }
+    for (; m_end - ahead >= 8; ahead += 8) white |= up_to_blank(letters(ahead, 8)) << (ahead - m_block);
+    // The last ones, filled up with what is no blank.
+    const auto count = static_cast<std::size_t>(m_end - ahead);
+    if (count != 0) {
+      white |= up_to_blank(letters(ahead, count) | ~std::uint64_t{0} << (8 * count)) << (ahead - m_block);
+    }
+    m_ahead = m_end;
+  }
+  m_white = white;
+  return white != 0;
+}
+
+bool TokenCursor::cut_any(std::string_view& token) {
+  const char* const begin = std::find_if_not(m_at, m_end, is_space);
   // Only blanks and tabs part tokens; a line end before one of them is dropped, one inside a token stays.
-  const char* end = find_blank(begin, textEnd);
+  const char* end = std::find_if(begin, m_end, [](char c) { return c == ' ' || c == '\t'; });
   while (end != begin && is_space(end[-1])) --end;
-  m_rest = {end, static_cast<std::size_t>(textEnd - end)};
+  m_at = m_begin = m_ahead = end;
+  m_white = 0;
   if (begin == end) return false;
   token = {begin, static_cast<std::size_t>(end - begin)};
   return true;
 }
 
-int TokenCursor::classify(std::string_view token) {
-  if (token.front() != '-') return kValue;
+int TokenCursor::classify_dash(std::string_view token) {
   if (token.size() == 1) {
     // The text that std::string::at gives for the character after the dash; callers know it.
     throw std::out_of_range("basic_string::at: __n (which is 1) >= this->size() (which is 1)");
@@ -54,13 +63,6 @@ int TokenCursor::classify(std::string_view token) {
   newoption_token.assign(token);
   m_option = token;
   return kOption;
-}
-
-int TokenCursor::next(std::string_view& token) { return cut(token) ? classify(token) : kEnd; }
-
-int TokenCursor::next_pair(std::string_view& key, std::string_view& value) {
-  if (const int kind = next(key); kind != kValue) return kind;
-  return next(value) == kValue ? kValue : kError;
 }
 
 int QvtOption_Parser::get_token(std::string& input, std::string& token) {

@@ -14,7 +14,7 @@ namespace {
 // All of them take the hardware connection alone.
 bool read_hw(TokenCursor& in) {
   std::string_view word;
-  return in.next(word) != kEnd && same_word(word, "hw");
+  return in.next(word) != kEnd && in.letter_case().same(word, "hw");
 }
 
 int read_core(TokenCursor& in, EngineImp& imp, std::uint32_t variant) {

@@ -14,8 +14,7 @@ constexpr const Word& kWritten = kRegisters[0];  // the only one that is written
 }  // namespace
 
 int read_bscan(TokenCursor& in, std::string_view /*option*/, EngineImp& imp) {
-  std::string_view word;
-  const Word* const bscan = in.next(word) == kEnd ? nullptr : find_row<kRegisters>(word);
+  const Word* const bscan = next_row<kRegisters>(in);
   if (bscan == nullptr) return kError;
   imp.currentProcessor->bscanPort = bscan->value;
   return kValue;

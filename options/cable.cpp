@@ -42,7 +42,7 @@ constexpr CableName kNames[] = {
 
 // A new type overwrites the port where the type has one, and nothing else.
 int read_type(const Pair& pair, CableOption& cable, EngineImp& imp) {
-  const CableName* const name = find_row<kNames>(pair.value);
+  const CableName* const name = find_row<kNames>(pair.value, pair.letterCase);
   if (name == nullptr) return kError;
   if (name->type == Engine::ZARVEK_SVFFILE) {
     imp.engine->SetErrorStr("Cable Type zarvek_svffile is not supported in this release\n");

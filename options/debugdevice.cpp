@@ -38,13 +38,13 @@ int read_cpunr(const Pair& pair, R& r, EngineImp& imp) {
 void write_cpunr(TextOut& out, const R& r) { out.put_decimal(static_cast<std::int8_t>(r.cpuNr)); }
 
 int read_proctype(const Pair& pair, R& r, EngineImp& /*imp*/) {
-  const Word* const type = find_row<kProcessorTypes>(pair.value);
+  const Word* const type = find_row<kProcessorTypes>(pair.value, pair.letterCase);
   r.procVariant = type != nullptr ? type->value : kVariantOtherPowerPC;
   return type != nullptr ? kValue : kError;
 }
 
 int read_fputype(const Pair& pair, R& r, EngineImp& imp) {
-  const Word* const type = find_row<kFpuTypes>(pair.value);
+  const Word* const type = find_row<kFpuTypes>(pair.value, pair.letterCase);
   if (type == nullptr) {
     set_error(imp, "UNKNOWN Parameter '%s' for  option '%s'", std::string(pair.value).c_str(),
               std::string(pair.key).c_str());

@@ -42,12 +42,10 @@ constexpr Target kTargets[] = {
     {"dcc", read_dcc_target, false}, {"qmtc", read_qmtc_target, false},
 };
 
-// The row that the next token names; null when it names none that the source takes.
+// The same where the source does not take every row.
 template <const auto& rows>
 auto next_row(TokenCursor& in, Source source) -> decltype(&rows[0]) {
-  std::string_view word;
-  if (in.next(word) == kEnd) return nullptr;
-  const auto* const row = find_row<rows>(word);
+  const auto* const row = next_row<rows>(in);
   return row != nullptr && (row->inFile || source == Source::command) ? row : nullptr;
 }
 

@@ -14,12 +14,12 @@ namespace SdkDebugDialog {
 namespace {
 
 int read_jtagport(const Pair& pair, JtagOption& /*device*/, EngineImp& imp) {
-  imp.cpuJtag = same_word(pair.value, "cpu") ? 1 : 0;
+  imp.cpuJtag = pair.letterCase.same(pair.value, "cpu") ? 1 : 0;
   return imp.cpuJtag == 1 ? kValue : kError;
 }
 
 int read_hardppc(const Pair& pair, JtagOption& device, EngineImp& /*imp*/) {
-  device.hardppc = same_word(pair.value, "ppc405") ? 1 : 2;
+  device.hardppc = pair.letterCase.same(pair.value, "ppc405") ? 1 : 2;
   return kValue;
 }
 

@@ -2,6 +2,8 @@
 
 // The description of an option group that its reader and its writer share: a table with one row per keyword.
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -14,6 +16,7 @@
 
 #include "SdkDebugDialog/EngineImp.h"
 #include "model/error_text.h"
+#include "options/LetterCase.h"
 #include "options/TokenCursor.h"
 #include "options/number.h"
 #include "options/status.h"
@@ -22,29 +25,35 @@
 
 namespace SdkDebugDialog {
 
-// Whether two words are the same without regard to case, as the program's global locale sees it.
-bool same_word(std::string_view a, std::string_view b);
-
-// Whether the global locale is the classic one, which folds the case of ASCII letters and of nothing else.
-bool folds_ascii_only();
-
-// The first row whose name is the word, in any case; null when there is none. No two names of a table differ in case
-// alone.
+// Where the first row stands whose name is the word, in any case; the table's size when there is none. No two names of
+// a table differ in case alone.
 template <const auto& rows>
-auto find_row(std::string_view word) -> decltype(&rows[0]) {
+std::size_t find_index(std::string_view word, LetterCase& letterCase) {
   using Row = std::remove_cvref_t<decltype(rows[0])>;
   static constexpr WordIndex index{std::span<const Row, std::size(rows)>(rows)};
-  const std::size_t found = index.find(FoldedWord(word));
+  const PackedWord packed(word);
+  const std::size_t row = index.candidate(packed);
   // Our own spelling is right whatever the locale is.
-  if (found != index.kNone && rows[found].name == word) return &rows[found];
-  if (folds_ascii_only()) {
-    const bool same = found != index.kNone && (word.size() <= 16 || same_word(rows[found].name, word));
-    return same ? &rows[found] : nullptr;
+  if (row != index.kNone && index.is_name(row, packed)) return row;
+  if (letterCase.is_ascii()) {
+    return row != index.kNone && index.is_name_in_any_ascii_case(row, packed) ? row : index.kNone;
   }
-  for (const Row& row : rows) {
-    if (same_word(row.name, word)) return &row;
-  }
-  return nullptr;
+  const auto found = std::ranges::find_if(rows, [&](const Row& r) { return letterCase.same(r.name, word); });
+  return static_cast<std::size_t>(found - std::begin(rows));
+}
+
+// That row; null when there is none.
+template <const auto& rows>
+auto find_row(std::string_view word, LetterCase& letterCase) -> decltype(&rows[0]) {
+  const std::size_t i = find_index<rows>(word, letterCase);
+  return i != std::size(rows) ? &rows[i] : nullptr;
+}
+
+// The row that the next token names; null when it names none.
+template <const auto& rows>
+auto next_row(TokenCursor& in) -> decltype(&rows[0]) {
+  std::string_view word;
+  return in.next(word) != kEnd ? find_row<rows>(word, in.letter_case()) : nullptr;
 }
 
 // Where a row stands in its table.
@@ -65,6 +74,7 @@ struct Word {
 struct Pair {
   std::string_view key;
   std::string_view value;
+  LetterCase& letterCase;  // for the value
 };
 
 // One keyword of a group that fills a Record. Rows stand in writing order.
@@ -88,28 +98,33 @@ struct Keyword {
   std::string_view gap = " ";  // what stands before the keyword
 };
 
-// Stores a value in the row's field, cut to the field's width.
-template <class Record>
-void store_value(const Keyword<Record>& row, std::string_view value, Record& record) {
-  std::visit(
-      [&](auto field) {
-        using Member = decltype(field);
-        if constexpr (std::is_same_v<Member, std::string Record::*>) {
-          record.*field = value;
-        } else if constexpr (!std::is_same_v<Member, std::monostate>) {
-          using Number = std::remove_reference_t<decltype(record.*field)>;
-          record.*field =
-              static_cast<Number>(row.isSigned ? static_cast<std::uint64_t>(to_signed(value)) : to_unsigned(value));
-        }
-      },
-      row.field);
+// Reads the value of one row's keyword: kValue or kError. A number is cut to the field's width. The row is known when
+// this is compiled, so that what it does not need costs nothing.
+template <const auto& rows, std::size_t i, class Record>
+int read_row(const Pair& pair, Record& record, EngineImp& imp) {
+  constexpr const Keyword<Record>& row = rows[i];
+  if (row.read != nullptr) return row.read(pair, record, imp);
+  constexpr auto field = std::get<row.field.index()>(row.field);
+  using Member = std::remove_const_t<decltype(field)>;
+  if constexpr (std::is_same_v<Member, std::string Record::*>) {
+    record.*field = pair.value;
+  } else if constexpr (!std::is_same_v<Member, std::monostate>) {
+    using Number = std::remove_reference_t<decltype(record.*field)>;
+    record.*field =
+        static_cast<Number>(row.isSigned ? static_cast<std::uint64_t>(to_signed(pair.value)) : to_unsigned(pair.value));
+  }
+  return kValue;
 }
 
-template <class Record>
-int read_value(const Keyword<Record>& row, const Pair& pair, Record& record, EngineImp& imp) {
-  if (row.read != nullptr) return row.read(pair, record, imp);
-  store_value(row, pair.value, record);
-  return kValue;
+// The same for a row that the text has named.
+template <const auto& rows, class Record>
+int read_value(std::size_t row, const Pair& pair, Record& record, EngineImp& imp) {
+  using Read = int (*)(const Pair& pair, Record& record, EngineImp& imp);
+  static constexpr auto readers = []<std::size_t... i>(std::index_sequence<i...>) {
+    return std::array<Read, sizeof...(i)>{read_row<rows, i, Record>...};
+  }
+  (std::make_index_sequence<std::size(rows)>());
+  return readers[row](pair, record, imp);
 }
 
 // How a run of pairs ended.
@@ -124,16 +139,16 @@ template <const auto& rows, class Record>
 PairsEnd read_pairs(TokenCursor& in, Record& record, EngineImp& imp, const char* unknown) {
   static_assert(std::size(rows) <= 32);
   PairsEnd end;
-  Pair pair;
+  Pair pair = {{}, {}, in.letter_case()};
   while ((end.kind = in.next_pair(pair.key, pair.value)) == kValue) {
-    const Keyword<Record>* const row = find_row<rows>(pair.key);
-    if (row == nullptr) set_error(imp, unknown, std::string(pair.key).c_str());
-    if (row == nullptr || read_value(*row, pair, record, imp) != kValue) {
+    const std::size_t row = find_index<rows>(pair.key, pair.letterCase);
+    if (row == std::size(rows)) set_error(imp, unknown, std::string(pair.key).c_str());
+    if (row == std::size(rows) || read_value<rows>(row, pair, record, imp) != kValue) {
       end.kind = kError;
       end.refused = true;
       break;
     }
-    end.seen |= 1U << (row - rows);
+    end.seen |= 1U << row;
   }
   return end;
 }

@@ -37,7 +37,7 @@ int read_options(TokenCursor& in, EngineImp& imp, const char* unknown, UnknownNa
   while (kind == kOption) {
     // Whoever read the option, the cursor knows it.
     const std::string_view option = in.option();
-    const Option* const row = find_row<options>(option);
+    const Option* const row = find_row<options>(option, in.letter_case());
     if (row == nullptr) {
       set_error(imp, unknown, std::string(name == UnknownName::option ? option : lastToken).c_str());
       return kError;

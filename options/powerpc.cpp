@@ -29,8 +29,7 @@ constexpr Connection kConnections[] = {
 }  // namespace
 
 int read_ppc_target(TokenCursor& in, EngineImp& imp) {
-  std::string_view word;
-  const Connection* const connection = in.next(word) == kEnd ? nullptr : find_row<kConnections>(word);
+  const Connection* const connection = next_row<kConnections>(in);
   if (connection == nullptr || !admits(imp, connection->type)) return kError;
   // The processor is known before its options are read, the connection only after.
   learn_processor(imp, kFamilyPowerPC, kVariantOtherPowerPC);

@@ -22,7 +22,7 @@ constexpr Word kConnections[] = {{"sim", Engine::SIMULATOR}, {"stub", Engine::ST
 int read_memsize(TokenCursor& in, EngineImp& imp) {
   std::string_view token;
   if (in.next(token) != kOption) return kValue;
-  if (!same_word(token, "-memsize") || in.next(token) == kEnd) return kError;
+  if (!in.letter_case().same(token, "-memsize") || in.next(token) == kEnd) return kError;
   imp.currentProcessor->memSize = static_cast<std::uint32_t>(to_unsigned(token));
   return kValue;
 }
@@ -30,8 +30,7 @@ int read_memsize(TokenCursor& in, EngineImp& imp) {
 }  // namespace
 
 int read_ov_target(TokenCursor& in, EngineImp& imp) {
-  std::string_view word;
-  const Word* const connection = in.next(word) == kEnd ? nullptr : find_row<kConnections>(word);
+  const Word* const connection = next_row<kConnections>(in);
   if (connection == nullptr || !admits(imp, connection->value)) return kError;
 
   // The simulator is selected before its option is read, the others after theirs.
@@ -78,7 +77,7 @@ struct Nothing {};
 constexpr Word kLinkTypes[] = {{"m", 0}, {"s", 0}, {"ms", 0}};
 
 int read_link_type(const Pair& pair, Nothing& /*nothing*/, EngineImp& imp) {
-  if (find_row<kLinkTypes>(pair.value) != nullptr) return kValue;
+  if (find_row<kLinkTypes>(pair.value, pair.letterCase) != nullptr) return kValue;
   set_error(imp, "UNKNOWN Parameter '%s' for  option 'type'", std::string(pair.value).c_str());
   return kError;
 }

@@ -19,7 +19,7 @@ constexpr Word kSerial = {"serial", Engine::STUB_OVER_SERIAL};
 constexpr Word kLinks[] = {kJtag, kSerial};
 
 int read_comm(const Pair& pair, R& r, EngineImp& /*imp*/) {
-  const Word* const link = find_row<kLinks>(pair.value);
+  const Word* const link = find_row<kLinks>(pair.value, pair.letterCase);
   if (link == nullptr) return kError;
   r.stubType = link->value;
   return kValue;
@@ -43,8 +43,10 @@ constexpr Keyword<R> kOptions[] = {
 int read_stub_option(TokenCursor& in, std::string_view option, EngineImp& imp) {
   std::string_view value;
   if (const int kind = in.next(value); kind != kValue) return kind;
-  const Keyword<R>* const row = find_row<kOptions>(option);
-  if (row != nullptr) return read_value(*row, {option, value}, *imp.currentProcessor, imp);
+  const std::size_t row = find_index<kOptions>(option, in.letter_case());
+  if (row != std::size(kOptions)) {
+    return read_value<kOptions>(row, {option, value, in.letter_case()}, *imp.currentProcessor, imp);
+  }
   // The option stands where the text says parameter, and the value where it says option.
   set_error(imp, "UNKNOWN Parameter '%s' for  option '%s'", std::string(option).c_str(), std::string(value).c_str());
   return kError;

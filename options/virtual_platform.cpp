@@ -22,7 +22,7 @@ constexpr std::string_view kCycleApproximate = "cycle_approximate";
 
 int read_config(TokenCursor& in, std::string_view /*option*/, EngineImp& imp) {
   std::string_view word;
-  if (in.next(word) != kValue || !same_word(word, kCycleApproximate)) return kError;
+  if (in.next(word) != kValue || !in.letter_case().same(word, kCycleApproximate)) return kError;
   imp.currentProcessor->vpConfigured = 1;
   imp.currentProcessor->vpCycleApproximate = 1;
   return kValue;
@@ -45,7 +45,7 @@ constexpr Option kOptions[] = {
 
 int read_virtual_platform(TokenCursor& in, EngineImp& imp) {
   std::string_view target;
-  if (in.next(target) == kEnd || !same_word(target, kTarget)) return kError;
+  if (in.next(target) == kEnd || !in.letter_case().same(target, kTarget)) return kError;
   if (!admits(imp, Engine::VIRTUAL_PLATFORM)) return kError;
   imp.currentProcessor->connectionType = Engine::VIRTUAL_PLATFORM;
   learn_connection(imp, Engine::VIRTUAL_PLATFORM);

@@ -13,6 +13,9 @@
 
 namespace SdkDebugDialog {
 
+// The same byte eight times.
+constexpr std::uint64_t eight_of(unsigned char byte) { return byte * std::uint64_t{0x0101010101010101U}; }
+
 // The letters of up to 8 characters in one number, the first one lowest.
 constexpr std::uint64_t letters(const char* text, std::size_t count) {
   std::uint64_t packed = 0;
@@ -28,38 +31,44 @@ constexpr std::uint64_t letters(const char* text, std::size_t count) {
 
 // Turns a to z among them into A to Z, all at once.
 constexpr std::uint64_t upper_ascii(std::uint64_t packed) {
-  constexpr std::uint64_t kEach = 0x0101010101010101U;
-  const std::uint64_t low = packed & (0x7F * kEach);
-  const std::uint64_t from_a = low + (0x80 - 'a') * kEach;
-  const std::uint64_t above_z = low + (0x7F - 'z') * kEach;
-  const std::uint64_t lower = (from_a ^ above_z) & ~packed & (0x80 * kEach);
+  const std::uint64_t low = packed & eight_of(0x7F);
+  const std::uint64_t from_a = low + eight_of(0x80 - 'a');
+  const std::uint64_t above_z = low + eight_of(0x7F - 'z');
+  const std::uint64_t lower = (from_a ^ above_z) & ~packed & eight_of(0x80);
   return packed ^ (lower >> 2);
 }
 
-// A word without regard to the case of ASCII letters. Words of up to 16 characters are the same when this is; of longer
-// ones it holds the first and the last 8 characters.
-struct FoldedWord {
+// A word as numbers: those of words of up to kLongest characters are the same when the words are.
+struct PackedWord {
+  static constexpr std::size_t kLongest = 24;
+
   std::uint64_t first = 0;
+  std::uint64_t middle = 0;
   std::uint64_t last = 0;
   std::size_t size = 0;
 
-  constexpr FoldedWord() = default;
-  constexpr explicit FoldedWord(std::string_view word) : size(word.size()) {
+  constexpr PackedWord() = default;
+  constexpr explicit PackedWord(std::string_view word) : size(word.size()) {
     const char* const text = word.data();
     if (size >= 8) {
       first = letters(text, 8);
       last = letters(text + size - 8, 8);
+      if (size > 16) middle = letters(text + 8, 8);
     } else if (size >= 4) {
       first = letters(text, 4);
       last = letters(text + size - 4, 4);
     } else if (size > 0) {
       first = letters(text, 1) | letters(text + size / 2, 1) << 8 | letters(text + size - 1, 1) << 16;
     }
-    first = upper_ascii(first);
-    last = upper_ascii(last);
   }
 
-  constexpr bool operator==(const FoldedWord&) const = default;
+  constexpr PackedWord upper() const {
+    PackedWord word = *this;
+    for (std::uint64_t* const part : {&word.first, &word.middle, &word.last}) *part = upper_ascii(*part);
+    return word;
+  }
+
+  constexpr bool operator==(const PackedWord&) const = default;
 };
 
 // Gives every name of a table a place of its own, found by trial when the program is compiled.
@@ -70,22 +79,31 @@ class WordIndex {
 
   template <class Row>
   consteval explicit WordIndex(std::span<const Row, N> rows) {
-    for (std::size_t i = 0; i < N; ++i) m_words[i] = FoldedWord(rows[i].name);
+    for (std::size_t i = 0; i < N; ++i) {
+      if (rows[i].name.size() > PackedWord::kLongest) throw "a name is too long";
+      m_words[i] = PackedWord(rows[i].name);
+      m_upper[i] = m_words[i].upper();
+    }
     while (!fits()) m_factor = m_factor * 6364136223846793005U + 1442695040888963407U;
   }
 
-  // The only row that may have this word as its name, or kNone.
-  constexpr std::size_t find(const FoldedWord& word) const {
-    const std::size_t row = m_rows[place(word)];
-    return row != kNone && m_words[row] == word ? row : kNone;
+  // The only row whose name the word may be but for the case of ASCII letters; kNone when there is none.
+  constexpr std::size_t candidate(const PackedWord& word) const { return m_rows[place(word)]; }
+
+  constexpr bool is_name(std::size_t row, const PackedWord& word) const { return m_words[row] == word; }
+
+  constexpr bool is_name_in_any_ascii_case(std::size_t row, const PackedWord& word) const {
+    return m_upper[row] == word.upper();
   }
 
  private:
   static constexpr unsigned kBits = N <= 4 ? 4 : N <= 8 ? 5 : 7;
   static_assert(N <= 32);
 
-  constexpr std::size_t place(const FoldedWord& word) const {
-    return static_cast<std::size_t>(((word.first ^ (word.last << 7) ^ word.size) * m_factor) >> (64 - kBits));
+  // Setting the bit that tells the cases of a letter apart makes them the same, and some other characters too.
+  constexpr std::size_t place(const PackedWord& word) const {
+    const std::uint64_t folded = (word.first ^ (word.last << 7)) | eight_of(0x20) | eight_of(0x20) << 7;
+    return static_cast<std::size_t>(((folded + word.size) * m_factor) >> (64 - kBits));
   }
 
   consteval bool fits() {
@@ -98,7 +116,8 @@ class WordIndex {
     return true;
   }
 
-  std::array<FoldedWord, N> m_words{};
+  std::array<PackedWord, N> m_words{};
+  std::array<PackedWord, N> m_upper{};
   std::array<std::uint8_t, std::size_t{1} << kBits> m_rows{};
   std::uint64_t m_factor = 0x9E3779B97F4A7C15U;
 };

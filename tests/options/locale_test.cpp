@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "options/LetterCase.h"
 #include "options/QvtOption_Parser.h"
-#include "options/keyword.h"
 #include "options/number.h"
 #include "tests/options/reading.h"
 
@@ -136,9 +136,9 @@ TEST(Locale, CaseIsFoldedAsTheGlobalLocaleSays) {
     EXPECT_EQ(status_of("CONNECT OV STUB -COMM JTAG"), 0);
     EXPECT_EQ(status_of("CONNECT OV SIM"), 3);
     EXPECT_EQ(status_of("CONNECT OV S\xDDM"), 0);
-    EXPECT_TRUE(same_word("\xFD", "I"));
-    EXPECT_FALSE(same_word("i", "I"));
-    EXPECT_FALSE(same_word("i", "\xFD"));
+    EXPECT_TRUE(LetterCase().same("\xFD", "I"));
+    EXPECT_FALSE(LetterCase().same("i", "I"));
+    EXPECT_FALSE(LetterCase().same("i", "\xFD"));
   }
   {
     const GlobalFacet facet(new Caseless);
@@ -150,7 +150,7 @@ TEST(Locale, CaseIsFoldedAsTheGlobalLocaleSays) {
     EXPECT_EQ(status_of("connect ov odm -bscan user1"), 3);
   }
   EXPECT_EQ(status_of("CONNECT OV SIM"), 0);
-  EXPECT_FALSE(same_word("\xFD", "I"));
+  EXPECT_FALSE(LetterCase().same("\xFD", "I"));
 }
 
 TEST(Locale, WhiteSpaceStaysThatOfTheClassicLocale) {

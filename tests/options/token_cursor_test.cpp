@@ -76,6 +76,43 @@ void expect_pair(const std::string& text, const PairCut& expected) {
 
 // --- Tokens ---
 
+// Whatever a token's length and place in the text.
+TEST(TokenCursor, PartsTokensAtBlanksAndTabsWhereverTheyStand) {
+  for (const char letter : {'a', '!', '~', '\x80', '\xA0', '\xFF'}) {
+    for (std::size_t length = 1; length < 150; ++length) {
+      const std::string token(length, letter);
+      expect_cut(token, {kValue, token, ""});
+      for (const std::string between : {" ", "\t", "  ", "\t ", " \n"}) {
+        expect_cut(token + between + "b c", {kValue, token, between + "b c"});
+        expect_cut(between + token + between, {kValue, token, between});
+      }
+      expect_cut(token + "\n b", {kValue, token, "\n b"});
+      expect_cut(token + "\n" + token + " b", {kValue, token + "\n" + token, " b"});
+    }
+  }
+}
+
+TEST(TokenCursor, GoesOnBehindATokenOfAnyKind) {
+  std::string text;
+  std::vector<std::string> expected;
+  for (std::size_t length = 1; length < 150; ++length) {
+    for (const std::string between : {" ", "\t", "  ", "\n ", " \r", "\v\t"}) {
+      expected.push_back(std::string(length, 'x'));
+      text += expected.back() + between;
+    }
+    expected.push_back(std::string(length, 'y') + "\n1");
+    text += expected.back() + " ";
+  }
+  TokenCursor in(text);
+  std::string_view token;
+  for (const std::string& next : expected) {
+    ASSERT_EQ(in.next(token), kValue);
+    ASSERT_EQ(token, next);
+  }
+  EXPECT_EQ(in.next(token), kEnd);
+  EXPECT_EQ(in.rest(), "");
+}
+
 TEST(GetToken, AnswersTheEndForWhiteSpaceAloneAndLeavesTheToken) {
   for (const std::string text : {"", " ", "\t", "\n", "\r\n", "\v\f", "   \t\t  ", " \t\n\v\f\r ", "\n\n\n"}) {
     expect_cut(text, {3, "before", ""});
