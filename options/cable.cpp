@@ -68,8 +68,8 @@ int read_modulearg(const Pair& pair, CableOption& cable, EngineImp& /*imp*/) {
 }
 
 // Every argument is written with a keyword of its own, empty ones too; the row writes the first keyword.
-void write_modulearg(TextOut& out, const CableOption& cable) {
-  out.put(boost::replace_all_copy(cable.modulearg, ";", " modulearg "));
+void write_modulearg(TextOut::Pen& pen, const CableOption& cable) {
+  pen.put(boost::replace_all_copy(cable.modulearg, ";", " modulearg "));
 }
 
 // A cable that its serial number selects is written without port and frequency.

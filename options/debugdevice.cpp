@@ -35,7 +35,7 @@ int read_cpunr(const Pair& pair, R& r, EngineImp& imp) {
   return kValue;
 }
 
-void write_cpunr(TextOut& out, const R& r) { out.put_decimal(static_cast<std::int8_t>(r.cpuNr)); }
+void write_cpunr(TextOut::Pen& pen, const R& r) { pen.put_decimal(static_cast<std::int8_t>(r.cpuNr)); }
 
 int read_proctype(const Pair& pair, R& r, EngineImp& /*imp*/) {
   const Word* const type = find_row<kProcessorTypes>(pair.value, pair.letterCase);
@@ -54,7 +54,7 @@ int read_fputype(const Pair& pair, R& r, EngineImp& imp) {
   return kValue;
 }
 
-void write_fputype(TextOut& out, const R& r) { out.put((r.fpuType == kFpuSingle ? kSingle : kDouble).name); }
+void write_fputype(TextOut::Pen& pen, const R& r) { pen.put((r.fpuType == kFpuSingle ? kSingle : kDouble).name); }
 
 // --- What is written ---
 

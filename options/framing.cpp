@@ -1,6 +1,7 @@
 // The frame of a connect command: its head, its target, and which reader and writer each selects.
 
 #include <string>
+#include <utility>
 
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
@@ -71,12 +72,12 @@ int write_command(TextOut& out, EngineImp& imp) {
   return processor.procFamily == kFamilySoft ? write_ov_target(out, imp) : write_ppc_target(out, imp);
 }
 
-// Leaves the text in the current record's command; on failure that stays as it was.
-int write_text(EngineImp& imp) {
-  std::string text;
-  if (on_end<write_command>(text, imp) == kError) return kCannotBeWritten;
-  imp.currentProcessor->command = std::move(text);
-  return kValue;
+// Nothing is changed on failure but the error text.
+int write_text(EngineImp& imp, std::string& text) {
+  // What a device takes up as a rule; a long chain's text is not moved time and again while it grows.
+  constexpr std::size_t kDevice = 80;
+  if (!imp.jtagChain.empty()) text.reserve((imp.jtagChain.size() + 4) * kDevice);
+  return on_end<write_command>(text, imp) == kError ? kCannotBeWritten : kValue;
 }
 
 }  // namespace
@@ -94,13 +95,17 @@ int QvtOption_Parser::ReadQvtCommand(std::string command, EngineImp& imp) {
 }
 
 int QvtOption_Parser::WriteQvtCmdString(EngineImp& imp, std::string& command) {
-  const int result = write_text(imp);
-  if (result == kValue) command = imp.currentProcessor->command;
-  return result;
+  std::string text;
+  if (const int result = write_text(imp, text); result != kValue) return result;
+  imp.currentProcessor->command = text;
+  command = std::move(text);
+  return kValue;
 }
 
 int QvtOption_Parser::WriteQvtOptFile(EngineImp& imp) {
-  if (const int result = write_text(imp); result != kValue) return result;
+  std::string text;
+  if (const int result = write_text(imp, text); result != kValue) return result;
+  imp.currentProcessor->command = std::move(text);
   if (write_option_file(imp.currentProcessor->name, imp.currentProcessor->command)) return kValue;
   imp.engine->SetErrorStr("Error Opening File");
   return kFileNotWritten;

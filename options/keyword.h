@@ -94,7 +94,7 @@ struct Keyword {
   // Whether a record's value is written; null: it is read and never written.
   bool (*written)(const Record& record) = nullptr;
   // Writes the value where the field alone does not tell it.
-  void (*write)(TextOut& out, const Record& record) = nullptr;
+  void (*write)(TextOut::Pen& pen, const Record& record) = nullptr;
   std::string_view gap = " ";  // what stands before the keyword
 };
 
@@ -153,27 +153,26 @@ PairsEnd read_pairs(TokenCursor& in, Record& record, EngineImp& imp, const char*
   return end;
 }
 
-// Appends the pair of one row of the table if it is to be written. The row is known when this is compiled, so that what
-// it does not need costs nothing.
+// Appends the pair of one row of the table if it is to be written, known when this is compiled as well.
 template <const auto& rows, std::size_t i, class Record>
-void write_pair(TextOut& out, const Record& record) {
+void write_pair(TextOut::Pen& pen, const Record& record) {
   constexpr const Keyword<Record>& row = rows[i];
   if (row.written == nullptr || !row.written(record)) return;
   static constexpr auto lead = joined<row.gap.size() + row.name.size() + 1>(row.gap, row.name, " ");
-  out.put(lead);
+  pen.put(lead);
   if (row.write != nullptr) {
-    row.write(out, record);
+    row.write(pen, record);
     return;
   }
   constexpr auto field = std::get<row.field.index()>(row.field);
   using Member = std::remove_const_t<decltype(field)>;
   if constexpr (std::is_same_v<Member, std::string Record::*>) {
-    out.put(record.*field);
+    pen.put(record.*field);
   } else if constexpr (!std::is_same_v<Member, std::monostate>) {
     if (row.hex) {
-      out.put_hex(static_cast<std::uint32_t>(record.*field));
+      pen.put_hex(static_cast<std::uint32_t>(record.*field));
     } else {
-      out.put_decimal(static_cast<std::int32_t>(record.*field));
+      pen.put_decimal(static_cast<std::int32_t>(record.*field));
     }
   }
 }
@@ -190,7 +189,8 @@ bool any_written(const Record& record) {
 // Appends every pair of the record that is to be written, from one row of the table to another.
 template <const auto& rows, std::size_t first = 0, std::size_t last = std::size(rows) - 1, class Record>
 void write_pairs(TextOut& out, const Record& record) {
-  [&]<std::size_t... i>(std::index_sequence<i...>) { (write_pair<rows, first + i>(out, record), ...); }
+  TextOut::Pen pen(out);
+  [&]<std::size_t... i>(std::index_sequence<i...>) { (write_pair<rows, first + i>(pen, record), ...); }
   (std::make_index_sequence<last - first + 1>());
 }
 

@@ -26,9 +26,9 @@ int read_comm(const Pair& pair, R& r, EngineImp& /*imp*/) {
 }
 
 // The rate has always stood behind two blanks.
-void write_baud(TextOut& out, const R& r) {
-  out.put(" ");
-  out.put_decimal(r.stubBaudRate);
+void write_baud(TextOut::Pen& pen, const R& r) {
+  pen.put(" ");
+  pen.put_decimal(r.stubBaudRate);
 }
 
 constexpr Keyword<R> kOptions[] = {

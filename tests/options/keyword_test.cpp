@@ -68,10 +68,10 @@ int read_seen(const Pair& pair, Record& record, EngineImp& /*imp*/) {
 }
 
 bool has_address(const Record& record) { return record.address != 0; }
-void write_seen(TextOut& out, const Record& record) {
-  out.put("<");
-  out.put(record.seen);
-  out.put(">");
+void write_seen(TextOut::Pen& pen, const Record& record) {
+  pen.put("<");
+  pen.put(record.seen);
+  pen.put(">");
 }
 
 constexpr Row kRows[] = {

@@ -39,7 +39,7 @@ TEST(TextOut, WritesNumbersLikePrintf) {
     std::snprintf(expected, sizeof expected, "0x%x", value);
     std::string text;
     TextOut out(text);
-    out.put_hex(value);
+    TextOut::Pen(out).put_hex(value);
     out.flush();
     EXPECT_EQ(text, expected);
   }
@@ -51,10 +51,13 @@ TEST(TextOut, LosesNothingWhereItsBufferEnds) {
     for (std::size_t second : {std::size_t{0}, std::size_t{1}, std::size_t{30}, std::size_t{1024}, std::size_t{5000}}) {
       std::string text;
       TextOut out(text);
-      out.put(std::string(length, 'a'));
-      out.put_decimal(-2147483647 - 1);
-      out.put(std::string(second, 'b'));
-      out.put_hex(0xFFFFFFFFU);
+      {
+        TextOut::Pen pen(out);
+        pen.put(std::string(length, 'a'));
+        pen.put_decimal(-2147483647 - 1);
+        pen.put(std::string(second, 'b'));
+        pen.put_hex(0xFFFFFFFFU);
+      }
       out.put(joined<3>("x", "y", "z"));
       out.flush();
       ASSERT_EQ(text, std::string(length, 'a') + "-2147483648" + std::string(second, 'b') + "0xffffffffxyz");
