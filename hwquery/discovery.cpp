@@ -1,15 +1,17 @@
 // Which processors of a design can be debugged, and how.
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <string>
-#include <string_view>
-#include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
 #include "SdkDebugDialog/ProcessorInfo.h"
+#include "model/NameIndex.h"
 #include "model/processor_kind.h"
 #include "model/result.h"
 #include "platform/HHSMHwManager.h"
@@ -47,11 +49,9 @@ class Discovery {
   void find_soft_without_debug_module() {
     std::vector<std::string> names;
     m_hw.getIpInstances(names, "ovrin", false);
-    if (names.empty()) return;
-    std::unordered_set<std::string_view> listed;
-    for (const ProcessorInfoImp* const processor : m_imp.processorList) listed.insert(processor->name);
+    NameIndex listed;
     for (const std::string& name : names) {
-      if (listed.insert(name).second) add_soft(name, Engine::SIMULATOR);
+      if (listed.find(m_imp.processorList, name) == nullptr) add_soft(name, Engine::SIMULATOR);
     }
   }
 
@@ -99,7 +99,11 @@ int Engine::GetProcessorList(HHSMHwManager* hw, std::vector<std::string>& names)
   // The manager may replace what it is given; the caller's names stay.
   std::vector<std::string> instances;
   hw->getProcessorInstances(instances, false);
-  names.insert(names.end(), instances.begin(), instances.end());
+  if (names.empty()) {
+    names = std::move(instances);
+  } else {
+    std::ranges::move(instances, std::back_inserter(names));
+  }
   Discovery(*imp, *hw).run();
   return kOk;
 }

@@ -1,7 +1,9 @@
 // How a processor can reach a software stub.
 
 #include <algorithm>
+#include <iterator>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "SdkDebugDialog/Engine.h"
@@ -9,14 +11,18 @@
 #include "platform/HHSMHwManager.h"
 
 namespace SdkDebugDialog {
+namespace {
+
+constexpr std::string_view kLightUarts[] = {"opb_serial_lite", "tfb_serial_lite"};
+
+}  // namespace
 
 unsigned int EngineImp::IsStubSerialConnect(std::string processor) {
   if (hwManager == nullptr) return 0;
   std::vector<std::string> peripherals;
   hwManager->getPeripherals(processor, peripherals);
   const bool hasUart = std::ranges::any_of(peripherals, [&](const std::string& instance) {
-    const std::string type = hwManager->getIpName(instance);
-    return type == "opb_serial_lite" || type == "tfb_serial_lite";
+    return std::ranges::find(kLightUarts, hwManager->getIpName(instance)) != std::end(kLightUarts);
   });
   return hasUart ? Engine::STUB | Engine::STUB_UART_PRESENT : 0;
 }

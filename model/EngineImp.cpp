@@ -2,11 +2,15 @@
 
 #include <algorithm>
 
+#include "model/NameIndex.h"
 #include "model/result.h"
 
 namespace SdkDebugDialog {
 
-EngineImp::EngineImp() : cable(new CableOption) { EngineImpInit(); }
+EngineImp::EngineImp() : m_names(std::make_unique<NameIndex>()) {
+  cable = new CableOption;
+  EngineImpInit();
+}
 
 EngineImp::~EngineImp() { delete cable; }
 
@@ -19,21 +23,11 @@ void EngineImp::EngineImpInit() {
 }
 
 ProcessorInfoImp* EngineImp::FindProcessor(const std::string& name) {
-  if (m_indexed > processorList.size()) {
-    m_firstByName.clear();
-    m_indexed = 0;
-  }
-  for (; m_indexed < processorList.size(); ++m_indexed) {
-    m_firstByName.try_emplace(processorList[m_indexed]->name, m_indexed);
-  }
-  const auto hit = m_firstByName.find(name);
-  if (hit != m_firstByName.end() && processorList[hit->second]->name == name) return processorList[hit->second];
-
+  if (ProcessorInfoImp* const processor = m_names->find(processorList, name)) return processor;
   // A miss, or records that took the place of others: the list itself decides.
   const auto found = std::ranges::find(processorList, name, &ProcessorInfoImp::name);
   if (found == processorList.end()) return nullptr;
-  m_firstByName.clear();
-  m_indexed = 0;
+  m_names->clear();
   return *found;
 }
 

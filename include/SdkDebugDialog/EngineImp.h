@@ -3,8 +3,8 @@
 // The state behind an Engine.
 
 #include <cstdint>
+#include <memory>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 #include "SdkDebugDialog/CableOption.h"
@@ -16,6 +16,8 @@
 class HHSMHwManager;
 
 namespace SdkDebugDialog {
+
+class NameIndex;
 
 // The whole debug configuration of one Engine. The fields are open: readers, writers and queries work on them.
 class SDKDEBUGDIALOG_API EngineImp {
@@ -101,9 +103,7 @@ class SDKDEBUGDIALOG_API EngineImp {
   ProcessorInfoImp* FindProcessor(const std::string& name);
 
  private:
-  // Index of processorList by name, built and caught up by FindProcessor.
-  std::unordered_map<std::string, std::size_t> m_firstByName;
-  std::size_t m_indexed = 0;
+  std::unique_ptr<NameIndex> m_names;  // of processorList, kept by FindProcessor
 };
 
 }  // namespace SdkDebugDialog

@@ -150,6 +150,20 @@ TEST(FindProcessor, SeesWhatWasAppended) {
   EXPECT_EQ(d.imp.FindProcessor("b"), b);
 }
 
+TEST(FindProcessor, FindsEveryoneWhileTheListGrows) {
+  DiscoveredEngine d;
+  std::vector<const ProcessorInfoImp*> records;
+  for (int i = 0; i < 600; ++i) {
+    records.push_back(&d.list("ovrin_" + std::to_string(i)));
+    d.list("ovrin_" + std::to_string(i / 2));
+    ASSERT_EQ(d.imp.FindProcessor("ovrin_" + std::to_string(i + 1)), nullptr) << i;
+    for (int k = 0; k <= i; k += 7) {
+      const std::string name = "ovrin_" + std::to_string(k);
+      ASSERT_EQ(d.imp.FindProcessor(name), records[static_cast<std::size_t>(k)]) << i << ' ' << k;
+    }
+  }
+}
+
 // The list is open to its holder, who may change it in any way between two lookups.
 class FindProcessorInAListChangedByHand : public testing::Test {
  protected:
