@@ -267,6 +267,18 @@ TEST_F(OptionFile, IsNotASocket) {
   ::close(server);
 }
 
+TEST_F(OptionFile, IsNotADevice) {
+  for (const char* const device : {"/dev/null", "/dev/zero", "/dev/full"}) {
+    if (!fs::is_character_file(device)) GTEST_SKIP() << "there is no " << device;
+    SCOPED_TRACE(device);
+    fs::create_symlink(device, file());
+    expect_no_file();
+    expect_refused();
+    EXPECT_EQ(fs::read_symlink(file()), device);
+    fs::remove(file());
+  }
+}
+
 // Whether a process waits for something.
 bool sleeps(pid_t process) {
   const std::string status = WorkFolder::read("/proc/" + std::to_string(process) + "/stat");
@@ -498,45 +510,63 @@ TEST_F(OptionFileOfOthers, IsAsGoodAsMissingWhereTheUserMayNotReadIt) {
   EXPECT_EQ(read_as_nobody(), 4);
 }
 
-// --- A full disk, a crash ---
+// --- A file-size limit ---
 
 // Lets files grow to ten bytes and no further.
-void fill_disk(bool survive) {
+void limit_files() {
   const rlimit none = {0, 0};
   ::setrlimit(RLIMIT_CORE, &none);
   const rlimit ten = {10, 10};
   ::setrlimit(RLIMIT_FSIZE, &ten);
-  static_cast<void>(std::signal(SIGXFSZ, survive ? SIG_IGN : SIG_DFL));
 }
 
-TEST_F(OptionFile, HoldsTheOldTextWholeWhenTheDiskIsFull) {
-  for (const bool existed : {true, false}) {
-    if (existed) WorkFolder::write(file(), kOld);
-    EXPECT_EQ(in_child([] {
-                fill_disk(true);
-                Writer e;
-                if (e.engine.Generate() != 4) return 1;
-                if (e.error() != "Error Opening File") return 2;
-                return e.processor.command == kNew ? 0 : 3;
-              }),
-              0);
-    EXPECT_EQ(content(), existed ? kOld : "");
-    expect_names(existed ? std::vector<std::string>{"qvt_p.opt"} : std::vector<std::string>{});
-    fs::remove(file());
+// As Generate under that limit, in a program that does not expect the signal or ignores it; 100 when an output is
+// wrong.
+int generate_limited(void (*handler)(int)) {
+  static_cast<void>(std::signal(SIGXFSZ, handler));
+  limit_files();
+  Writer e;
+  const int status = e.engine.Generate();
+  return e.error() == (status == 4 ? "Error Opening File" : "") && e.processor.command == kNew ? status : 100;
+}
+
+TEST_F(OptionFile, HoldsTheOldTextWholeUnderAFileSizeLimitWhichEndsNoProgram) {
+  for (const bool ignored : {true, false}) {
+    for (const bool existed : {true, false}) {
+      if (existed) WorkFolder::write(file(), kOld);
+      EXPECT_EQ(in_child([&] { return generate_limited(ignored ? SIG_IGN : SIG_DFL); }), 4);
+      EXPECT_EQ(content(), existed ? kOld : "");
+      expect_names(existed ? std::vector<std::string>{"qvt_p.opt"} : std::vector<std::string>{});
+      fs::remove(file());
+    }
   }
 }
 
-TEST_F(OptionFile, HoldsTheOldTextWholeAfterACrashAndTheNextWriterClearsUp) {
-  WorkFolder::write(file(), kOld);
+// A signal that was raised in this process.
+volatile std::sig_atomic_t signals = 0;
+void count_signal(int /*signal*/) { signals = signals + 1; }
+
+TEST_F(OptionFile, UnderAFileSizeLimitLeavesSignalsAsTheyWere) {
   EXPECT_EQ(in_child([] {
-              fill_disk(false);
-              Writer e;
-              return e.engine.Generate();
+              sigset_t limit;
+              sigset_t now;
+              sigemptyset(&limit);
+              sigaddset(&limit, SIGXFSZ);
+              if (generate_limited(count_signal) != 4) return 1;
+              if (signals != 0) return 2;
+              ::pthread_sigmask(SIG_SETMASK, nullptr, &now);
+              if (sigismember(&now, SIGXFSZ) != 0) return 3;
+              // The program's own signal waits until the program takes it.
+              ::pthread_sigmask(SIG_BLOCK, &limit, nullptr);
+              static_cast<void>(std::raise(SIGXFSZ));
+              if (generate_limited(count_signal) != 4) return 4;
+              if (sigpending(&now) != 0 || sigismember(&now, SIGXFSZ) != 1) return 5;
+              ::pthread_sigmask(SIG_SETMASK, nullptr, &now);
+              if (sigismember(&now, SIGXFSZ) != 1) return 6;
+              ::pthread_sigmask(SIG_UNBLOCK, &limit, nullptr);
+              return signals == 1 ? 0 : 7;
             }),
-            1000 + SIGXFSZ);
-  EXPECT_EQ(content(), kOld);
-  expect_written();
-  expect_names({"qvt_p.opt"});
+            0);
 }
 
 // --- Several at a time ---
@@ -578,13 +608,75 @@ TEST_F(OptionFile, HoldsOneWholeTextWhileTwoProcessesWriteIt) {
   expect_names({"qvt_p.opt"});
 }
 
-TEST_F(OptionFile, IsWrittenAtOnceThoughAnotherWriterHoldsTheFolder) {
-  const int held = ::open(etc().c_str(), O_RDONLY | O_DIRECTORY);
+// --- Files that a writer left when it died ---
+
+// A new file of a writer that is gone.
+constexpr char kLeft[] = ".qvt_new.4711.123456789";
+
+TEST_F(OptionFile, IsWrittenAtOnceThoughAnotherWriterIsAtWorkWhoseFileStays) {
+  WorkFolder::write(etc() / kLeft, "half a te");
+  const int held = ::open((etc() / kLeft).c_str(), O_WRONLY | O_CLOEXEC);
   ASSERT_GE(held, 0);
   ASSERT_EQ(::flock(held, LOCK_EX), 0);
   expect_written();
-  expect_names({"qvt_p.opt"});
+  expect_names({kLeft, "qvt_p.opt"});
   ::close(held);
+  expect_written();
+  expect_names({"qvt_p.opt"});
+}
+
+TEST_F(OptionFile, IsWrittenAtOnceThoughTheFolderIsLocked) {
+  const int held = ::open(etc().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  ASSERT_GE(held, 0);
+  ASSERT_EQ(::flock(held, LOCK_EX), 0);
+  expect_written();
+  ::close(held);
+}
+
+TEST_F(OptionFile, IsWrittenInAFolderThatIsClearedOfOurOwnFilesAlone) {
+  const std::vector<std::string> others = {".qvt_new",    ".qvt_new.1.2.tmp", ".qvt_newer.1.2",
+                                           "qvt_new.1.2", "qvt_q.opt",        "x.qvt_new.1.2"};
+  for (const std::string& name : others) WorkFolder::write(etc() / name, "connect ov sim");
+  fs::create_directory(etc() / ".qvt_new.1.1");
+  fs::create_symlink("qvt_q.opt", etc() / ".qvt_new.1.2");
+  ASSERT_EQ(::mkfifo((etc() / ".qvt_new.1.3").c_str(), 0600), 0);
+  std::vector<std::string> expected = WorkFolder::list(etc());
+  expected.push_back("qvt_p.opt");
+  std::ranges::sort(expected);
+  for (const std::string name : {".qvt_new.1.4", ".qvt_new.99999.123456789123456789"}) {
+    WorkFolder::write(etc() / name, "connect ov sim");
+  }
+  expect_written();
+  expect_names(expected);
+  EXPECT_EQ(WorkFolder::read(etc() / "qvt_q.opt"), "connect ov sim");
+}
+
+TEST_F(OptionFile, ThatALinkCallsLikeAFileLeftBehindIsKept) {
+  WorkFolder::write(etc() / kLeft, kOld);
+  fs::create_symlink(kLeft, file());
+  WorkFolder::write(file(), kOld);
+  EXPECT_EQ(in_child([] { return generate_limited(SIG_DFL); }), 4);
+  EXPECT_EQ(content(), kOld);
+  expect_written();
+  expect_names({kLeft, "qvt_p.opt"});
+}
+
+// Sets when a file was last written.
+void set_age(const fs::path& path, std::chrono::seconds age) {
+  const std::time_t then = std::time(nullptr) - age.count();
+  const std::array<timespec, 2> times = {{{then, 0}, {then, 0}}};
+  ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
+}
+
+TEST_F(OptionFileOfOthers, IsWrittenAndFilesThatMayNotBeOpenedAreClearedAfterAnHour) {
+  WorkFolder::write(etc() / kLeft, "half a te");
+  ASSERT_EQ(::chmod((etc() / kLeft).c_str(), 0600), 0);
+  set_age(etc() / kLeft, 59min);
+  EXPECT_EQ(generate_as_nobody(), 0);
+  expect_names({kLeft, "qvt_p.opt"});
+  set_age(etc() / kLeft, 61min);
+  EXPECT_EQ(generate_as_nobody(), 0);
+  expect_names({"qvt_p.opt"});
 }
 
 }  // namespace
