@@ -19,6 +19,24 @@
 namespace SdkDebugDialog {
 namespace {
 
+// What was listed meanwhile is taken back unless it is to stay: whoever asked for the list knows nothing of a part of
+// it.
+class Listed {
+ public:
+  explicit Listed(std::vector<ProcessorInfoImp*>& list) : m_list(list), m_before(list.size()) {}
+  ~Listed() {
+    for (; m_list.size() > m_before; m_list.pop_back()) delete m_list.back();
+  }
+  Listed(const Listed&) = delete;
+  Listed& operator=(const Listed&) = delete;
+
+  void keep() { m_before = m_list.size(); }
+
+ private:
+  std::vector<ProcessorInfoImp*>& m_list;
+  std::size_t m_before;
+};
+
 // One walk over a design. Every kind of processor is numbered from 1 on; numbers wrap at 256.
 class Discovery {
  public:
@@ -99,12 +117,15 @@ int Engine::GetProcessorList(HHSMHwManager* hw, std::vector<std::string>& names)
   // The manager may replace what it is given; the caller's names stay.
   std::vector<std::string> instances;
   hw->getProcessorInstances(instances, false);
+  if (!names.empty()) names.reserve(names.size() + instances.size());
+  Listed listed(imp->processorList);
+  Discovery(*imp, *hw).run();
+  listed.keep();
   if (names.empty()) {
-    names = std::move(instances);
+    names.swap(instances);
   } else {
     std::ranges::move(instances, std::back_inserter(names));
   }
-  Discovery(*imp, *hw).run();
   return kOk;
 }
 

@@ -93,7 +93,8 @@ class SDKDEBUGDIALOG_API Engine {
   // "odm") and PowerPC bridges ("jtag_ppc_bridge"), in the order of the debug IP, then soft processors ("ovrin")
   // without a debug module, then Cortex-A9 cores ("hc9_cortexa9"). hw is kept for later questions and must outlive
   // them; null detaches the hardware. Neither names nor the list is emptied first, so that a second discovery
-  // appends: one discovery per engine is what is meant. Always 0.
+  // appends: one discovery per engine is what is meant. Always 0. An exception, of hw or for want of memory, leaves
+  // names and list as they were.
   int GetProcessorList(HHSMHwManager* hw, std::vector<std::string>& names);
 
   // The same without the names. Returns imp; null would mean that discovery failed, which it does not.

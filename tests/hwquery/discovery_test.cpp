@@ -398,14 +398,21 @@ class FailingHardware : public FakeHardware {
   }
 };
 
-TEST(Discovery, PassesAFailureOfTheHardwareOnAndKeepsWhatWasFound) {
-  FailingHardware hw;
-  static_cast<FakeHardware&>(hw) = mixed_design();
+TEST(Discovery, PassesAFailureOfTheHardwareOnAndListsNothingOfIt) {
+  FailingHardware failing;
+  static_cast<FakeHardware&>(failing) = mixed_design();
   DiscoveredEngine d;
-  Names names;
-  EXPECT_THROW(d.engine.GetProcessorList(&hw, names), std::runtime_error);
-  EXPECT_THAT(listed(d.imp), ElementsAre(Found{"ovrin_0", 0, 0, 135, 1}));
-  EXPECT_EQ(names.size(), 5U);
+  d.list("before");
+  Names names = {"before"};
+  EXPECT_THROW(d.engine.GetProcessorList(&failing, names), std::runtime_error);
+  EXPECT_THAT(listed(d.imp), ElementsAre(Found{"before", 0, 0, 1, 1}));
+  EXPECT_THAT(names, ElementsAre("before"));
+
+  // The next one lists everything, once.
+  FakeHardware hw = mixed_design();
+  EXPECT_EQ(d.engine.GetProcessorList(&hw, names), 0);
+  EXPECT_EQ(d.imp.processorList.size(), 5U);
+  EXPECT_EQ(names.size(), 6U);
 }
 
 TEST(Discovery, IsQuickForADesignWith100000SoftProcessors) {
