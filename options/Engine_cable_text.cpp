@@ -70,7 +70,7 @@ int Engine::Get3rdPartyCableOptions(std::string& out, CableOption c) {
 int Engine::Set3rdPartyCableOptions(CableOption& c, std::string text) {
   ReadScratch scratch;
   if (!was_read(QvtOption_Parser::ReadJtagCableOptions(text, scratch.imp))) return kRefused;
-  c = *scratch.imp.cable;
+  c = std::move(*scratch.imp.cable);
   return kOk;
 }
 
@@ -86,7 +86,7 @@ int Engine::ParseJtagCableInfo(std::string text, CableOption& c, std::vector<Jta
     const auto fpga = std::ranges::find_if(devices, [](const JtagOption* d) { return d->isfpga != 0; });
     if (fpga != devices.end()) device = (*fpga)->devicenr;
   }
-  c = *scratch.imp.cable;
+  c = std::move(*scratch.imp.cable);
   chain = std::move(scratch.imp.jtagChain);
   scratch.imp.jtagChain.clear();
   cpuJtag = scratch.imp.cpuJtag;
