@@ -19,7 +19,6 @@
 #include <ctime>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -27,6 +26,8 @@
 #include "options/QvtOption_Parser.h"
 #include "tests/options/reading.h"
 #include "tests/options/work_folder.h"
+#include "tests/support/OptionFileWriter.h"
+#include "tests/support/in_child.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -34,26 +35,6 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 using namespace std::string_literals;
-
-constexpr char kOld[] = "an older and rather long content of the option file\n";
-constexpr char kNew[] = "connect ov odm -debugdevice deviceNr 2 cpunr 1";
-
-// An engine whose processor "p" is written as kNew.
-struct Writer : SelectedEngine {
-  Writer() {
-    processor.name = "p";
-    processor.debugDevice = 2;
-  }
-};
-
-// Runs in a process of its own; what it returns is its exit code, a signal that ends it counts 1000 more.
-int in_child(const std::function<int()>& run) {
-  const pid_t child = ::fork();
-  if (child == 0) ::_exit(run());
-  int status = 0;
-  if (child < 0 || ::waitpid(child, &status, 0) != child) return -1;
-  return WIFSIGNALED(status) ? 1000 + WTERMSIG(status) : WEXITSTATUS(status);
-}
 
 bool become_nobody() { return ::setgroups(0, nullptr) == 0 && ::setgid(65534) == 0 && ::setuid(65534) == 0; }
 
@@ -90,13 +71,13 @@ class OptionFile : public testing::Test {
     Writer e;
     EXPECT_EQ(e.engine.Generate(), 4);
     EXPECT_EQ(e.error(), "Error Opening File");
-    EXPECT_EQ(e.processor.command, kNew);
+    EXPECT_EQ(e.processor.command, kNewText);
   }
   void expect_written() {
     Writer e;
     EXPECT_EQ(e.engine.Generate(), 0);
     EXPECT_EQ(e.error(), "");
-    EXPECT_EQ(content(), kNew);
+    EXPECT_EQ(content(), kNewText);
   }
   void expect_names(const std::vector<std::string>& names) { EXPECT_EQ(WorkFolder::list(etc()), names); }
 
@@ -125,7 +106,7 @@ TEST_F(OptionFile, FollowsTheWorkingDirectory) {
   fs::current_path(etc() / "other");
   Writer e;
   EXPECT_EQ(e.engine.Generate(), 0);
-  EXPECT_EQ(WorkFolder::read(etc() / "other" / "etc" / "qvt_p.opt"), kNew);
+  EXPECT_EQ(WorkFolder::read(etc() / "other" / "etc" / "qvt_p.opt"), kNewText);
   EXPECT_FALSE(fs::exists(file()));
 }
 
@@ -227,7 +208,7 @@ TEST_F(OptionFile, OfAGigabyteWithoutALineEndIsReadAtOnce) {
 }
 
 TEST_F(OptionFile, OfAGigabyteIsReplacedAtOnce) {
-  WorkFolder::write(file(), kOld);
+  WorkFolder::write(file(), kOldText);
   ASSERT_EQ(::truncate(file().c_str(), off_t{1} << 30), 0);
   expect_written();
 }
@@ -320,7 +301,7 @@ TEST_F(OptionFile, IsNotFoundInAWorkingDirectoryThatIsGone) {
               if (!e.error().empty()) return 2;
               if (e.engine.Generate() != 4) return 3;
               if (e.error() != "Error Opening File") return 4;
-              return e.processor.command == kNew ? 0 : 5;
+              return e.processor.command == kNewText ? 0 : 5;
             }),
             0);
   expect_names({});
@@ -338,7 +319,7 @@ TEST_F(OptionFile, ThatIsALinkStaysOneAndItsTargetIsReplaced) {
     expect_read_as_it_is(0, "connect ov sim");
     expect_written();
     EXPECT_EQ(fs::read_symlink(file()), link);
-    EXPECT_EQ(WorkFolder::read(target), kNew);
+    EXPECT_EQ(WorkFolder::read(target), kNewText);
     expect_names({"qvt_p.opt"});
     EXPECT_EQ(WorkFolder::list(folder().path() / "elsewhere"), std::vector<std::string>{"real.opt"});
     fs::remove(file());
@@ -362,7 +343,7 @@ TEST_F(OptionFile, IsCreatedWhereADanglingLinkPoints) {
   expect_no_file();
   expect_written();
   EXPECT_EQ(fs::read_symlink(file()), "target");
-  EXPECT_EQ(WorkFolder::read(etc() / "target"), kNew);
+  EXPECT_EQ(WorkFolder::read(etc() / "target"), kNewText);
 }
 
 TEST_F(OptionFile, IsNotCreatedInAMissingFolderThatALinkNames) {
@@ -402,7 +383,7 @@ TEST_F(OptionFile, IsReplacedWholeAndLeavesNothingBesides) {
 TEST_F(OptionFile, KeepsItsMode) {
   for (const mode_t mode : {0600U, 0640U, 0644U, 0666U, 0604U, 0755U}) {
     SCOPED_TRACE(mode);
-    WorkFolder::write(file(), kOld);
+    WorkFolder::write(file(), kOldText);
     ASSERT_EQ(::chmod(file().c_str(), mode), 0);
     const mode_t mask = ::umask(077);
     expect_written();
@@ -422,7 +403,7 @@ TEST_F(OptionFile, GetsTheModeThatTheProcessGivesNewFiles) {
 }
 
 TEST_F(OptionFile, KeepsItsOwner) {
-  WorkFolder::write(file(), kOld);
+  WorkFolder::write(file(), kOldText);
   if (::chown(file().c_str(), 65534, 65534) != 0) GTEST_SKIP() << "may not give files away";
   ASSERT_EQ(::chmod(file().c_str(), 0640), 0);
   expect_written();
@@ -447,7 +428,7 @@ class OptionFileOfOthers : public OptionFile {
       if (!become_nobody()) return 100;
       Writer e;
       const int status = e.engine.Generate();
-      return e.error() == (status == 4 ? "Error Opening File" : "") && e.processor.command == kNew ? status : 101;
+      return e.error() == (status == 4 ? "Error Opening File" : "") && e.processor.command == kNewText ? status : 101;
     });
   }
   static int read_as_nobody() {
@@ -460,20 +441,20 @@ class OptionFileOfOthers : public OptionFile {
 };
 
 TEST_F(OptionFileOfOthers, IsRefusedWhereTheUserMayNotWriteItAndIsNotReplaced) {
-  WorkFolder::write(file(), kOld);
+  WorkFolder::write(file(), kOldText);
   struct stat before = {};
   ASSERT_EQ(::stat(file().c_str(), &before), 0);
   for (const mode_t mode : {0644U, 0444U, 0600U, 0U}) {
     ASSERT_EQ(::chmod(file().c_str(), mode), 0);
     EXPECT_EQ(generate_as_nobody(), 4);
-    EXPECT_EQ(content(), kOld);
+    EXPECT_EQ(content(), kOldText);
     expect_names({"qvt_p.opt"});
   }
   // The user's own file, made read-only.
   ASSERT_EQ(::chown(file().c_str(), 65534, 65534), 0);
   ASSERT_EQ(::chmod(file().c_str(), 0444), 0);
   EXPECT_EQ(generate_as_nobody(), 4);
-  EXPECT_EQ(content(), kOld);
+  EXPECT_EQ(content(), kOldText);
   struct stat after = {};
   ASSERT_EQ(::stat(file().c_str(), &after), 0);
   EXPECT_EQ(after.st_ino, before.st_ino);
@@ -482,16 +463,16 @@ TEST_F(OptionFileOfOthers, IsRefusedWhereTheUserMayNotWriteItAndIsNotReplaced) {
 
 TEST_F(OptionFileOfOthers, IsWrittenWhereTheUserMayWriteIt) {
   EXPECT_EQ(generate_as_nobody(), 0);
-  EXPECT_EQ(content(), kNew);
-  WorkFolder::write(file(), kOld);
+  EXPECT_EQ(content(), kNewText);
+  WorkFolder::write(file(), kOldText);
   EXPECT_EQ(generate_as_nobody(), 0);
-  EXPECT_EQ(content(), kNew);
+  EXPECT_EQ(content(), kNewText);
   // Root's own file, open to all: its mode survives even where its owner cannot.
   fs::remove(file());
-  WorkFolder::write(file(), kOld);
+  WorkFolder::write(file(), kOldText);
   ASSERT_EQ(::chmod(file().c_str(), 0666), 0);
   EXPECT_EQ(generate_as_nobody(), 0);
-  EXPECT_EQ(content(), kNew);
+  EXPECT_EQ(content(), kNewText);
   EXPECT_EQ(mode_of(file()), 0666U);
   expect_names({"qvt_p.opt"});
 }
@@ -527,15 +508,15 @@ int generate_limited(void (*handler)(int)) {
   limit_files();
   Writer e;
   const int status = e.engine.Generate();
-  return e.error() == (status == 4 ? "Error Opening File" : "") && e.processor.command == kNew ? status : 100;
+  return e.error() == (status == 4 ? "Error Opening File" : "") && e.processor.command == kNewText ? status : 100;
 }
 
 TEST_F(OptionFile, HoldsTheOldTextWholeUnderAFileSizeLimitWhichEndsNoProgram) {
   for (const bool ignored : {true, false}) {
     for (const bool existed : {true, false}) {
-      if (existed) WorkFolder::write(file(), kOld);
+      if (existed) WorkFolder::write(file(), kOldText);
       EXPECT_EQ(in_child([&] { return generate_limited(ignored ? SIG_IGN : SIG_DFL); }), 4);
-      EXPECT_EQ(content(), existed ? kOld : "");
+      EXPECT_EQ(content(), existed ? kOldText : "");
       expect_names(existed ? std::vector<std::string>{"qvt_p.opt"} : std::vector<std::string>{});
       fs::remove(file());
     }
@@ -574,18 +555,14 @@ TEST_F(OptionFile, UnderAFileSizeLimitLeavesSignalsAsTheyWere) {
 TEST_F(OptionFile, HoldsOneWholeTextWhileTwoProcessesWriteIt) {
   constexpr int kTimes = 100;
   const std::string longName(3000, 'x');
-  const std::string shortText = "connect ov stub -comm serial -port a  -baud  0 -timeout 20000";
-  const std::string longText = "connect ov stub -comm serial -port " + longName + "  -baud  0 -timeout 20000";
+  const std::string shortText = StubWriter::text("a");
+  const std::string longText = StubWriter::text(longName);
   WorkFolder::write(file(), shortText);
 
   const auto start_writer = [](const std::string& port) {
     const pid_t child = ::fork();
     if (child != 0) return child;
-    SelectedEngine e;
-    e.processor.name = "p";
-    e.processor.connectionType = 4;
-    e.processor.stubType = 1;
-    e.processor.stubSerialPort = port;
+    StubWriter e(port);
     int failed = 0;
     for (int i = 0; i < kTimes; ++i) failed += e.engine.Generate() == 0 ? 0 : 1;
     ::_exit(failed == 0 ? 0 : 1);
@@ -652,11 +629,11 @@ TEST_F(OptionFile, IsWrittenInAFolderThatIsClearedOfOurOwnFilesAlone) {
 }
 
 TEST_F(OptionFile, ThatALinkCallsLikeAFileLeftBehindIsKept) {
-  WorkFolder::write(etc() / kLeft, kOld);
+  WorkFolder::write(etc() / kLeft, kOldText);
   fs::create_symlink(kLeft, file());
-  WorkFolder::write(file(), kOld);
+  WorkFolder::write(file(), kOldText);
   EXPECT_EQ(in_child([] { return generate_limited(SIG_DFL); }), 4);
-  EXPECT_EQ(content(), kOld);
+  EXPECT_EQ(content(), kOldText);
   expect_written();
   expect_names({kLeft, "qvt_p.opt"});
 }
