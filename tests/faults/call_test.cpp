@@ -42,8 +42,7 @@ class Calls : public FileFolder {
 
   // The same with a call tampered with: how says what happens to it.
   Trace run_with(const std::string& mode, const Call& call, const std::string& how, const std::string& until = "") {
-    const Trace trace =
-        run_traced(path(), mode, {call.name + ":" + how + ":when=" + std::to_string(call.count) + until});
+    Trace trace = run_traced(path(), mode, {call.name + ":" + how + ":when=" + std::to_string(call.count) + until});
     if (how.starts_with("signal")) {
       EXPECT_EQ(trace.end, "+++ killed by SIGKILL +++");
     } else {

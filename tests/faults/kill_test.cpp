@@ -92,7 +92,7 @@ TEST_F(Writers, ThreeAtATimeKilledLeaveNothingThatTheNextDoesNotClear) {
   int left = 0;
   for (int i = 0; i < 100 && !HasFailure(); ++i) {
     SCOPED_TRACE(i);
-    std::vector<pid_t> writers = {start(0), start(0), start(0)};
+    const std::vector<pid_t> writers = {start(0), start(0), start(0)};
     sleep_a_while();
     for (const pid_t writer : writers) {
       kill_now(writer);
@@ -107,8 +107,7 @@ TEST_F(Writers, ThreeAtATimeKilledLeaveNothingThatTheNextDoesNotClear) {
 }
 
 TEST_F(Writers, FourAtATimeAllSucceedAndLeaveOneOfTheTexts) {
-  std::vector<pid_t> writers;
-  for (int i = 0; i < 4; ++i) writers.push_back(start(100));
+  const std::vector<pid_t> writers = {start(100), start(100), start(100), start(100)};
   for (const pid_t writer : writers) {
     int status = 0;
     while (::waitpid(writer, &status, WNOHANG) == 0) expect_whole();
