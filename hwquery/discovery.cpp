@@ -5,7 +5,6 @@
 #include <iterator>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "SdkDebugDialog/Engine.h"
