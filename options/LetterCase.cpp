@@ -16,8 +16,8 @@ bool LetterCase::same(std::string_view a, std::string_view b) {
   return a.size() == b.size() && (a == b || same_upper(a, b));
 }
 
-bool LetterCase::is_ascii() {
-  if (!m_isAscii) m_isAscii = std::locale() == std::locale::classic();
+bool LetterCase::ask() {
+  m_isAscii = std::locale() == std::locale::classic();
   return *m_isAscii;
 }
 

@@ -16,9 +16,10 @@ class LetterCase {
   bool same(std::string_view a, std::string_view b);
 
   // Whether the global locale is the classic one, which folds the case of ASCII letters and of nothing else.
-  bool is_ascii();
+  bool is_ascii() { return m_isAscii ? *m_isAscii : ask(); }
 
  private:
+  bool ask();
   bool same_upper(std::string_view a, std::string_view b);
 
   std::optional<bool> m_isAscii;

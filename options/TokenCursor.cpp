@@ -1,6 +1,11 @@
 #include "options/TokenCursor.h"
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 #include <algorithm>
+#include <cstring>
 #include <stdexcept>
 
 #include "options/QvtOption_Parser.h"
@@ -18,6 +23,23 @@ std::uint64_t up_to_blank(std::uint64_t packed) {
   return (((~above & eight_of(0x80)) >> 7) * 0x0102040810204080U) >> 56;
 }
 
+// A bit for each of 64 characters, the same way.
+std::uint64_t up_to_blank_64(const char* text) {
+  std::uint64_t bits = 0;
+#if defined(__SSE2__)
+  const __m128i blanks = _mm_set1_epi8(' ');
+  for (int i = 0; i < 64; i += 16) {
+    __m128i some;
+    std::memcpy(&some, text + i, sizeof some);
+    const int found = _mm_movemask_epi8(_mm_cmpeq_epi8(_mm_min_epu8(some, blanks), some));
+    bits |= static_cast<std::uint64_t>(found) << i;
+  }
+#else
+  for (int i = 0; i < 64; i += 8) bits |= up_to_blank(letters(text + i, 8)) << i;
+#endif
+  return bits;
+}
+
 }  // namespace
 
 bool TokenCursor::look_ahead() {
@@ -26,7 +48,7 @@ bool TokenCursor::look_ahead() {
     m_block = m_ahead;
     const char* ahead = m_ahead;
     if (m_end - ahead >= 64) {
-      for (int i = 0; i < 64; i += 8) white |= up_to_blank(letters(ahead + i, 8)) << i;
+      white = up_to_blank_64(ahead);
       m_ahead += 64;
       continue;
     }

@@ -64,7 +64,9 @@ struct PackedWord {
 
   constexpr PackedWord upper() const {
     PackedWord word = *this;
-    for (std::uint64_t* const part : {&word.first, &word.middle, &word.last}) *part = upper_ascii(*part);
+    word.first = upper_ascii(first);
+    word.last = upper_ascii(last);
+    if (size > 16) word.middle = upper_ascii(middle);
     return word;
   }
 
