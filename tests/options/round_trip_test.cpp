@@ -4,19 +4,15 @@
 
 #include <stdexcept>
 #include <string>
-#include <vector>
 
-#include "SdkDebugDialog/CableOption.h"
 #include "options/QvtOption_Parser.h"
-#include "tests/support/FakeHardware.h"
+#include "tests/support/DesignedEngine.h"
 #include "tests/support/SelectedEngine.h"
 
 namespace {
 
 using SdkDebugDialog::Engine;
-using SdkDebugDialog::JtagOption;
 using SdkDebugDialog::ProcessorInfo;
-using SdkDebugDialog::ProcessorInfoImp;
 using SdkDebugDialog::QvtOption_Parser;
 
 // --- Without hardware ---
@@ -188,37 +184,6 @@ TEST(RoundTrip, RefusesAConnectionThatTheTargetCannotName) {
 }
 
 // --- With a design ---
-
-// An engine that discovered a design with one processor of each kind. Releases what the engine never does.
-struct DesignedEngine {
-  FakeHardware hw;
-  Engine engine;
-
-  DesignedEngine() {
-    hw.processors = {"ovrin_0", "ovrin_1", "ppc405_0", "ppc440_0", "a9_0"};
-    hw.debugIps = {"odm_0", "bridge_0"};
-    hw.ipTypes = {{"odm_0", "odm"},         {"bridge_0", "jtag_ppc_bridge"}, {"ovrin_0", "ovrin"},
-                  {"ovrin_1", "ovrin"},     {"ppc405_0", "ppc405_varnel"},   {"ppc440_0", "ppc440_varnel"},
-                  {"a9_0", "hc9_cortexa9"}, {"uart_0", "tfb_serial_lite"},   {"fpu_0", "apu_flt_varnel5"}};
-    hw.reached = {{"odm_0", {"ovrin_0"}}, {"bridge_0", {"ppc405_0", "ppc440_0"}}};
-    hw.peripherals = {{"ovrin_0", {"uart_0"}}, {"ppc440_0", {"fpu_0"}}};
-    hw.parameters = {{{"fpu_0", "C_DOUBLE_PRECISION"}, "1"}};
-    std::vector<std::string> names;
-    engine.GetProcessorList(&hw, names);
-  }
-  ~DesignedEngine() {
-    for (const JtagOption* const device : engine.imp->jtagChain) delete device;
-    for (const ProcessorInfoImp* const processor : engine.imp->processorList) delete processor;
-  }
-  DesignedEngine(const DesignedEngine&) = delete;
-  DesignedEngine& operator=(const DesignedEngine&) = delete;
-
-  std::string error() {
-    std::string text;
-    engine.GetErrorStr(text);
-    return text;
-  }
-};
 
 TEST(DesignRoundTrip, WritesWhatItReadForEachProcessor) {
   struct {
