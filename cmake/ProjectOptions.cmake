@@ -8,3 +8,8 @@ if(SDKDEBUGDIALOG_SANITIZE)
     -fsanitize=${SDKDEBUGDIALOG_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(project_options INTERFACE -fsanitize=${SDKDEBUGDIALOG_SANITIZE})
 endif()
+# The fuzzers follow which branches an input takes, and the standard library checks how it is used.
+if(SDKDEBUGDIALOG_FUZZ)
+  target_compile_options(project_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_compile_definitions(project_options INTERFACE _GLIBCXX_ASSERTIONS)
+endif()

@@ -1,0 +1,21 @@
+#pragma once
+
+// What the targets demand.
+
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+// A demand that is not met ends the program, which is how a fuzzer learns that an input failed.
+inline void expect(bool condition, const char* what, std::string_view detail = {}) {
+  if (condition) return;
+  std::fprintf(stderr, "expected: %s\n%.*s\n", what, static_cast<int>(detail.size()), detail.data());
+  std::abort();
+}
+
+inline void expect_same(std::string_view found, std::string_view expected, const char* what) {
+  if (found == expected) return;
+  std::fprintf(stderr, "expected: %s\nfound    [%.*s]\nexpected [%.*s]\n", what, static_cast<int>(found.size()),
+               found.data(), static_cast<int>(expected.size()), expected.data());
+  std::abort();
+}

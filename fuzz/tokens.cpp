@@ -1,0 +1,79 @@
+// The tokenizer beside a plain statement of its rule.
+
+#include <algorithm>
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "fuzz/check.h"
+#include "fuzz/lone_dash.h"
+#include "options/QvtOption_Parser.h"
+#include "options/TokenCursor.h"
+#include "tests/support/plain_token.h"
+
+using namespace SdkDebugDialog;
+
+namespace {
+
+void check_cut(std::string& text, TokenCursor& cursor) {
+  const std::string whole = text;
+  const PlainToken expected = plain_token(whole);
+  const std::string rest = whole.substr(expected.end);
+  const std::string before = newoption_token;
+  std::string token = "older";
+  std::string_view view = "older";
+  const int kind = result_of(whole, [&] { return QvtOption_Parser::get_token(text, token); });
+  const int cursorKind = result_of(whole, [&] { return cursor.next(view); });
+
+  expect(kind == (expected.thrown ? kThrown : expected.kind), "the kind of token", whole);
+  expect(cursorKind == kind, "the cursor to see the same kind", whole);
+  expect_same(text, rest, "what is left");
+  expect_same(cursor.rest(), rest, "what the cursor leaves");
+  const std::string_view word = expected.kind == 3 ? std::string_view("older") : expected.token;
+  expect_same(token, std::string(word), "the token");
+  expect_same(view, std::string(word), "the cursor's token");
+  expect_same(newoption_token, kind == 1 ? token : before, "the option that waits");
+  if (kind == 1) expect_same(cursor.option(), token, "the cursor's option");
+}
+
+// A pair is a token and another one.
+void check_pairs(std::string text) {
+  TokenCursor cursor(text);
+  std::string left = text;
+  for (int kind = 0; kind != 3 && kind != kThrown;) {
+    std::string key = "older";
+    std::string value = "older";
+    std::string plainKey = key;
+    std::string plainValue = value;
+    std::string plainLeft = left;
+    const int expected = result_of(left, [&] {
+      const int first = QvtOption_Parser::get_token(plainLeft, plainKey);
+      if (first != 0) return first;
+      return QvtOption_Parser::get_token(plainLeft, plainValue) == 0 ? 0 : 2;
+    });
+    kind = result_of(left, [&] { return QvtOption_Parser::get_tokenpair(left, key, value); });
+    expect(kind == expected, "the kind of pair", text);
+    expect_same(left, plainLeft, "what is left");
+    expect_same(key, plainKey, "the key");
+    expect_same(value, plainValue, "the value");
+
+    std::string_view keyView = "older";
+    std::string_view valueView = "older";
+    const int cursorKind = result_of(text, [&] { return cursor.next_pair(keyView, valueView); });
+    expect(cursorKind == kind, "the cursor to see the same kind", text);
+    expect_same(cursor.rest(), left, "what the cursor leaves");
+    expect_same(keyView, key, "the cursor's key");
+    expect_same(valueView, value, "the cursor's value");
+  }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string text(data, data + size);
+  TokenCursor cursor(text);
+  for (std::string left = text; !left.empty();) check_cut(left, cursor);
+  check_pairs(text);
+  return 0;
+}
