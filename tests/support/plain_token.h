@@ -8,7 +8,7 @@
 struct PlainToken {
   int kind = 3;         // 0 value, 1 option, 3 end of the text
   bool thrown = false;  // a lone dash
-  std::string_view token;
+  std::string_view token = {};
   std::size_t end = 0;  // of what was taken off the text
 };
 
