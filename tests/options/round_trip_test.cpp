@@ -142,6 +142,38 @@ TEST(RoundTrip, WritesEmptyModuleArgumentsInAFormThatLosesThem) {
             "cpunr 1");
 }
 
+TEST(RoundTrip, ChecksTheFrequencyOfACableThatEndsAStubsCommandOnlyWhenItReadsItBack) {
+  const std::string written = read_and_write("connect ov stub -comm jtag -cable type zarvek_platformusb -quiet");
+  EXPECT_EQ(written, "connect ov stub -comm jtag -cable type zarvek_platformusb port USB21 frequency 0");
+  SelectedEngine e;
+  EXPECT_EQ(QvtOption_Parser::ReadQvtCommand(written, e.imp), 3);
+  EXPECT_EQ(e.error(),
+            "UnSupported Zarvek PlatformUSB Cable Frequency - 0\n"
+            "Supported Frequencies: 750000, 1500000, 3000000, 6000000, 12000000, 24000000");
+}
+
+TEST(RoundTrip, WritesATextThatBeginsWithADashInAFormThatItDoesNotReadBack) {
+  SelectedEngine e;
+  e.engine.SetCableType(Engine::ZARVEK_PLATFORMUSB);
+  std::string written;
+  e.engine.SetCablePort("-x");
+  EXPECT_EQ(e.engine.GenerateCmdString(written), 0);
+  EXPECT_EQ(QvtOption_Parser::ReadQvtCommand(written, e.imp), 3);
+  e.engine.SetCablePort("-");
+  EXPECT_EQ(e.engine.GenerateCmdString(written), 0);
+  EXPECT_THROW(QvtOption_Parser::ReadQvtCommand(written, e.imp), std::out_of_range);
+}
+
+TEST(RoundTrip, WritesBasesOffTheBoundaryInAFormThatItDoesNotReadBack) {
+  SelectedEngine e;
+  e.processor.procFamily = 1;
+  EXPECT_EQ(e.imp.AssignAddressMap(0x10001), 0);
+  std::string written;
+  EXPECT_EQ(e.engine.GenerateCmdString(written), 0);
+  EXPECT_EQ(QvtOption_Parser::ReadQvtCommand(written, e.imp), 3);
+  EXPECT_EQ(e.error(), "Icache Start Address should be aligned at 64k boundry");
+}
+
 TEST(RoundTrip, WritesALongNameWhole) {
   const std::string name(5000, 'n');
   EXPECT_EQ(read_and_write("connect ov odm -configdevice devicenr 1 partname " + name),
@@ -255,6 +287,35 @@ TEST(DesignRoundTrip, GoesBackToTheDefaultsWhenTheTextDoesNotFitTheProcessor) {
     EXPECT_EQ(d.engine.GenerateCmdString(written), 0);
     EXPECT_EQ(written, row.written);
   }
+}
+
+TEST(DesignRoundTrip, FindsTheFpuAfterAReadingThatSucceededAlone) {
+  DesignedEngine d;
+  ProcessorInfo info;
+  EXPECT_EQ(d.engine.ParseProcessorInfo("ppc440_0", info, "connect ov"), 3);
+  std::string written;
+  EXPECT_EQ(d.engine.GenerateCmdString(written), 0);
+  EXPECT_EQ(written, "connect ppc hw -debugdevice cpunr 2");
+  EXPECT_EQ(d.engine.ParseProcessorInfo("ppc440_0", info, written), 0);
+  EXPECT_EQ(d.engine.GenerateCmdString(written), 0);
+  EXPECT_EQ(written, "connect ppc hw -debugdevice cpunr 2 fpuType dp");
+}
+
+TEST(DesignRoundTrip, TakesNoOnChipMemoryFromATextThatLacksTheProcessorsType) {
+  DesignedEngine d;
+  ProcessorInfo info;
+  EXPECT_EQ(d.engine.ParseProcessorInfo("ppc440_0", info,
+                                        "connect ppc hw -debugdevice cpunr 2 proctype ppc405 isocmStartAdr 0x40"),
+            0);
+  std::string written;
+  EXPECT_EQ(d.engine.GenerateCmdString(written), 0);
+  EXPECT_EQ(written,
+            "connect ppc hw -debugdevice cpunr 2 isocmStartAdr 0x40 isocmSize 0  isocmDcrStartAdr 0xffffffff fpuType "
+            "dp");
+  DesignedEngine fresh;
+  EXPECT_EQ(fresh.engine.ParseProcessorInfo("ppc440_0", info, written), 0);
+  EXPECT_EQ(fresh.engine.GenerateCmdString(written), 0);
+  EXPECT_EQ(written, "connect ppc hw -debugdevice cpunr 2 fpuType dp");
 }
 
 TEST(DesignRoundTrip, ChangesNothingForAProcessorThatIsNotListed) {
