@@ -131,8 +131,6 @@ bool has_another_fpu(const Written& w) {
 
 bool is_cut(const Written& w) { return w.way == Way::file && w.text.size() > 1023; }
 
-bool has_line_end(const Written& w) { return w.way == Way::file && w.text.find('\n') != w.text.npos; }
-
 // --- The table ---
 
 enum class Fate {
@@ -149,7 +147,6 @@ constexpr struct {
 } kExceptions[] = {
     {has_odd_text, Fate::whatever, "no quoting: empty texts, those with blanks or a dash in front are no values"},
     {is_cut, Fate::whatever, "1,023 characters of an option file's line are read"},
-    {has_line_end, Fate::whatever, "an option file's first line is read"},
     {is_another_kind, Fate::whatever, "dap and dcc make an ARM core of any processor, and no text written says so"},
     {is_undescribed_arm, Fate::whatever, "an ARM core is written as PowerPC, and may be taken for one of the design"},
     {is_not_admitted, Fate::refused, "the design's processor does not admit the connection that is selected"},

@@ -197,6 +197,19 @@ TEST_F(OptionFile, KeepsBytesThatAreNoText) {
   expect_read("connect ov stub -port \x80\xFF\n", 0, "connect ov stub -port \x80\xFF");
 }
 
+TEST_F(OptionFile, IsCutAtALineFeedThatAWrittenTextHolds) {
+  SelectedEngine e;
+  e.processor.name = "ovrin_0";
+  e.processor.connectionType = Engine::STUB;
+  e.processor.stubType = Engine::STUB_OVER_SERIAL;
+  e.processor.stubSerialPort = "a\nb";
+  EXPECT_EQ(e.engine.Generate(), 0);
+  EXPECT_EQ(e.processor.command, "connect ov stub -comm serial -port a\nb  -baud  0 -timeout 20000");
+  SelectedEngine fresh;
+  EXPECT_EQ(QvtOption_Parser::ReadQvtOptFile("ovrin_0", fresh.imp), 0);
+  EXPECT_EQ(fresh.processor.command, "connect ov stub -comm serial -port a");
+}
+
 // --- How much of it ---
 
 TEST_F(OptionFile, OfAGigabyteWithoutALineEndIsReadAtOnce) {
