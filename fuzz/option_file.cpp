@@ -1,14 +1,19 @@
 // Option files: etc/qvt_NAME.opt in a folder of our own, in memory where the system has such folders.
 
-#include <stdlib.h>
+#include <signal.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <boost/algorithm/string/predicate.hpp>
+#include <cerrno>
 #include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <string_view>
+#include <system_error>
 
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/ProcessorInfo.h"
@@ -25,26 +30,41 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A folder that goes with the program.
+constexpr std::string_view kScratchName = "fuzz_option_file_";
+
+// A folder that goes with the program, or with the next one when the program was ended by what it found: the name tells
+// whose it is.
 class Scratch {
  public:
   Scratch() {
     for (const fs::path& base : {fs::path("/dev/shm"), fs::temp_directory_path()}) {
-      m_path = base / "fuzz_option_file_XXXXXX";
-      if (::mkdtemp(m_path.data()) != nullptr) break;
-      m_path.clear();
+      remove_left(base);
+      const fs::path path = base / (std::string(kScratchName) + std::to_string(::getpid()));
+      std::error_code error;
+      if (!fs::create_directories(path / "etc", error)) continue;
+      m_path = path;
+      return;
     }
-    expect(!m_path.empty(), "a folder to work in");
-    fs::create_directory(m_path + "/etc");
+    expect(false, "a folder to work in");
   }
   ~Scratch() { fs::remove_all(m_path); }
   Scratch(const Scratch&) = delete;
   Scratch& operator=(const Scratch&) = delete;
 
-  const std::string& path() const { return m_path; }
+  const fs::path& path() const { return m_path; }
 
  private:
-  std::string m_path;
+  static void remove_left(const fs::path& base) {
+    std::error_code error;
+    for (const fs::directory_entry& entry : fs::directory_iterator(base, error)) {
+      const std::string name = entry.path().filename();
+      if (!name.starts_with(kScratchName)) continue;
+      const int owner = std::atoi(name.c_str() + kScratchName.size());
+      if (owner > 0 && ::kill(owner, 0) != 0 && errno == ESRCH) fs::remove_all(entry.path(), error);
+    }
+  }
+
+  fs::path m_path;
 };
 
 // Works in a folder; the fuzzer finds its own files from where it was before.
