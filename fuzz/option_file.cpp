@@ -84,13 +84,6 @@ std::string content_of(const std::string& file) {
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
-// The first line that is not empty, as far as it is read.
-std::string first_line(const std::string& content) {
-  const std::size_t begin = content.find_first_not_of('\n');
-  if (begin == content.npos) return {};
-  return content.substr(begin, std::min<std::size_t>(content.find('\n', begin) - begin, 1023));
-}
-
 std::string word_of(std::string_view text, std::size_t n) {
   constexpr std::string_view kSpace = " \t\n\v\f\r";
   for (;; --n) {
