@@ -5,6 +5,7 @@
 #include <string>
 
 #include "SdkDebugDialog/EngineImp.h"
+#include "tests/support/GlobalLocale.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -53,6 +54,7 @@ TEST(ClassifyMemory, KnowsEveryListedController) {
 }
 
 TEST(ClassifyMemory, IgnoresCase) {
+  const GlobalLocale classic;
   EngineImp imp;
   for (const Row& row : kTypes) EXPECT_EQ(imp.ClassifyMemory(in_capitals(row.type)), row.memoryClass) << row.type;
   for (const char* const type : {"LMB_OCRAM_PORT", "Lmb_OcRam_Port", "lmb_ocram_porT"}) {

@@ -9,6 +9,7 @@
 #include "options/QvtOption_Parser.h"
 #include "tests/options/reading.h"
 #include "tests/support/FakeHardware.h"
+#include "tests/support/GlobalLocale.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -100,6 +101,7 @@ TEST(BareTargets, NameAnUnknownOptionWhereverItStands) {
 }
 
 TEST(QmtcTarget, ReadsTheChain) {
+  const GlobalLocale classic;
   expect_readings(kQmtc.read, {{"-configdevice devicenr 1 -CONFIGDEVICE devicenr 2", 0,
                                 "allowedConnections=32 device=1/UNKNOWN/0/0 device=2/UNKNOWN/0/0"},
                                {"-configdevice devicenr 1 -debugdevice deviceNr 2", 0,

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "options/QvtOption_Parser.h"
+#include "tests/support/GlobalLocale.h"
 #include "tests/support/SelectedEngine.h"
 
 namespace {
@@ -32,6 +33,7 @@ TEST(CableReading, TakesPortAndFrequencyOfTheTypeAtTheEndOfTheText) {
 }
 
 TEST(CableReading, KnowsEveryTypeInAnyCaseAndOverwritesThePortWhereTheTypeHasOne) {
+  const GlobalLocale classic;
   struct {
     const char* text;
     const char* port;

@@ -6,6 +6,7 @@
 
 #include "options/QvtOption_Parser.h"
 #include "tests/support/FakeHardware.h"
+#include "tests/support/GlobalLocale.h"
 #include "tests/support/SelectedEngine.h"
 
 namespace {
@@ -32,6 +33,7 @@ std::string written(SelectedEngine& e) {
 // --- Reading ---
 
 TEST(DebugDeviceReading, TakesTheDeviceNumberInAnyCaseAndWritesItsKeywordInOurs) {
+  const GlobalLocale classic;
   for (const char* const text : {"DeviceNR 3", "devicenr 3", "DEVICENR 3"}) {
     SCOPED_TRACE(text);
     SelectedEngine e;
@@ -69,6 +71,7 @@ TEST(DebugDeviceReading, StoresAMisalignedInstructionCacheBaseAndRefusesIt) {
 }
 
 TEST(DebugDeviceReading, ChecksTheAlignmentOfEachBaseOfTheDebugAddressMap) {
+  const GlobalLocale classic;
   struct {
     const char* keyword;
     std::uint32_t ProcessorInfoImp::*field;
@@ -120,6 +123,7 @@ TEST(DebugDeviceReading, AcceptsAMisalignedOnChipMemory) {
 }
 
 TEST(DebugDeviceReading, KnowsEveryMemoryKeywordInAnyCaseAndCutsItsValueTo32Bits) {
+  const GlobalLocale classic;
   struct {
     const char* keyword;
     std::uint32_t ProcessorInfoImp::*field;

@@ -12,6 +12,7 @@
 #include "options/QvtOption_Parser.h"
 #include "tests/options/reading.h"
 #include "tests/options/work_folder.h"
+#include "tests/support/GlobalLocale.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -121,6 +122,7 @@ TEST(Framing, RefusesATextOfWhiteSpace) {
 }
 
 TEST(Framing, ReadsCapitalsLikeSmallLetters) {
+  const GlobalLocale classic;
   expect_framed({{"CONNECT OV STUB", 0, 0, "allowedConnections=5 connectionType=4"},
                  {"connect ov stub", 0, 0, "allowedConnections=5 connectionType=4"},
                  {"CONNECT OV STUB -COMM SERIAL", 0, 0, "allowedConnections=5 connectionType=4 stubType=1"}});

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "options/QvtOption_Parser.h"
+#include "tests/support/GlobalLocale.h"
 #include "tests/support/SelectedEngine.h"
 
 namespace {
@@ -106,6 +107,7 @@ TEST(DeviceReading, AddsADeviceOfDefaultsForAnOptionWithoutPairs) {
 }
 
 TEST(DeviceReading, KnowsEveryKeywordInAnyCase) {
+  const GlobalLocale classic;
   SelectedEngine e;
   EXPECT_EQ(read(e, "JTAGport Cpu DEVICEnr 1 IdCode 0xFF IRLength 6 PartName Zd4Qa IsFPGA 1 HardPPC Ppc405 nPPC 2"), 3);
   ASSERT_EQ(e.imp.jtagChain.size(), 1U);

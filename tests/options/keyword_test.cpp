@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/GlobalLocale.h"
 #include "tests/support/SelectedEngine.h"
 
 namespace SdkDebugDialog {
@@ -30,6 +31,7 @@ constexpr Word kLongWords[] = {{"zarvek_parallel3", 1}, {"zarvek_platformusb", 2
 
 // Every word that differs from a name in one character, but for the case of an ASCII letter.
 TEST(FindRow, TellsWordsApartThatDifferInOneCharacter) {
+  const GlobalLocale classic;
   LetterCase letterCase;
   for (const Word& row : kLongWords) {
     for (std::size_t i = 0; i < row.name.size(); ++i) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "options/LetterCase.h"
+#include "tests/support/GlobalLocale.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -12,6 +13,7 @@ namespace {
 using namespace std::string_literals;
 
 TEST(LetterCase, ComparesWholeWordsInAnyCase) {
+  const GlobalLocale classic;
   LetterCase letterCase;
   EXPECT_TRUE(letterCase.same("", ""));
   EXPECT_TRUE(letterCase.same("connect", "connect"));
@@ -29,20 +31,22 @@ TEST(LetterCase, ComparesWholeWordsInAnyCase) {
 }
 
 TEST(LetterCase, IsThatOfAsciiInTheClassicLocaleAlone) {
-  EXPECT_TRUE(LetterCase().is_ascii());
-  const std::locale before = std::locale::global(std::locale(std::locale::classic(), new std::ctype<char>));
+  {
+    const GlobalLocale classic;
+    EXPECT_TRUE(LetterCase().is_ascii());
+  }
+  const GlobalLocale global(std::locale(std::locale::classic(), new std::ctype<char>));
   EXPECT_FALSE(LetterCase().is_ascii());
-  std::locale::global(before);
 }
 
-// Any two characters, in the classic locale and in another.
+// Any two characters, in the locale of the run and in others.
 TEST(LetterCase, AgreesWithTheLocaleOnEveryPairOfCharacters) {
   class Shouting : public std::ctype<char> {
     char do_toupper(char c) const override { return c == 'a' || c == '\xE4' ? '!' : c; }
   };
-  const std::locale before;
-  for (const std::locale& locale : {before, std::locale(before, new Shouting)}) {
-    std::locale::global(locale);
+  const std::locale ofTheRun;
+  for (const std::locale& locale : {ofTheRun, std::locale::classic(), std::locale(ofTheRun, new Shouting)}) {
+    const GlobalLocale global(locale);
     LetterCase letterCase;
     for (int a = 0; a < 256; ++a) {
       for (int b = 0; b < 256; ++b) {
@@ -52,7 +56,6 @@ TEST(LetterCase, AgreesWithTheLocaleOnEveryPairOfCharacters) {
       }
     }
   }
-  std::locale::global(before);
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <clocale>
+#include <cstdlib>
 #include <locale>
 #include <string>
 #include <vector>
@@ -11,22 +13,15 @@
 #include "options/QvtOption_Parser.h"
 #include "options/number.h"
 #include "tests/options/reading.h"
+#include "tests/support/GlobalLocale.h"
 
 namespace SdkDebugDialog {
 namespace {
 
-// Makes a facet part of the global locale while it lives.
-class GlobalFacet {
- public:
-  template <class Facet>
-  explicit GlobalFacet(Facet* facet) : m_before(std::locale::global(std::locale(std::locale::classic(), facet))) {}
-  ~GlobalFacet() { std::locale::global(m_before); }
-  GlobalFacet(const GlobalFacet&) = delete;
-  GlobalFacet& operator=(const GlobalFacet&) = delete;
-
- private:
-  std::locale m_before;
-};
+template <class Facet>
+std::locale classic_with(Facet* facet) {
+  return {std::locale::classic(), facet};
+}
 
 // Folds case letter by letter.
 class Letters : public std::ctype<char> {
@@ -117,6 +112,12 @@ int status_of(const std::string& command) {
   return QvtOption_Parser::ReadQvtCommand(command, e.imp);
 }
 
+TEST(Locale, IsTheOneThatTheTestsAreRunUnder) {
+  const char* const wanted = std::getenv("TEST_LOCALE");
+  EXPECT_EQ(std::locale().name(), wanted != nullptr ? wanted : "C");
+  EXPECT_STREQ(std::setlocale(LC_ALL, nullptr), wanted != nullptr ? wanted : "C");
+}
+
 TEST(Locale, KeywordsInOurOwnSpellingMatchWhateverTheLocale) {
   std::vector<std::string> expected;
   for (const std::string& command : kCommands) {
@@ -124,15 +125,16 @@ TEST(Locale, KeywordsInOurOwnSpellingMatchWhateverTheLocale) {
     EXPECT_EQ(expected.back().front(), '0') << command;
   }
   for (const bool turkish : {false, true}) {
-    const GlobalFacet facet(turkish ? static_cast<Letters*>(new Turkish) : new Caseless);
+    const GlobalLocale global(classic_with(turkish ? static_cast<Letters*>(new Turkish) : new Caseless));
     for (std::size_t i = 0; i < kCommands.size(); ++i) EXPECT_EQ(read(kCommands[i]), expected[i]) << kCommands[i];
   }
 }
 
 TEST(Locale, CaseIsFoldedAsTheGlobalLocaleSays) {
+  const GlobalLocale classic;
   EXPECT_EQ(status_of("CONNECT OV SIM"), 0);
   {
-    const GlobalFacet facet(new Turkish);
+    const GlobalLocale global(classic_with(new Turkish));
     EXPECT_EQ(status_of("CONNECT OV STUB -COMM JTAG"), 0);
     EXPECT_EQ(status_of("CONNECT OV SIM"), 3);
     EXPECT_EQ(status_of("CONNECT OV S\xDDM"), 0);
@@ -141,7 +143,7 @@ TEST(Locale, CaseIsFoldedAsTheGlobalLocaleSays) {
     EXPECT_FALSE(LetterCase().same("i", "\xFD"));
   }
   {
-    const GlobalFacet facet(new Caseless);
+    const GlobalLocale global(classic_with(new Caseless));
     EXPECT_EQ(status_of("connect ov sim"), 0);
     EXPECT_EQ(status_of("Connect ov sim"), 3);
     EXPECT_EQ(status_of("connect OV sim"), 3);
@@ -154,7 +156,7 @@ TEST(Locale, CaseIsFoldedAsTheGlobalLocaleSays) {
 }
 
 TEST(Locale, WhiteSpaceStaysThatOfTheClassicLocale) {
-  const GlobalFacet facet(new OddSpaces);
+  const GlobalLocale global(classic_with(new OddSpaces));
   std::string text = "xax \t\nxb\x0bx";
   std::string token;
   EXPECT_EQ(QvtOption_Parser::get_token(text, token), 0);
@@ -167,7 +169,7 @@ TEST(Locale, WhiteSpaceStaysThatOfTheClassicLocale) {
 }
 
 TEST(Locale, NumbersAreReadAndWrittenWithoutGrouping) {
-  const GlobalFacet facet(new Grouping);
+  const GlobalLocale global(classic_with(new Grouping));
   SelectedEngine e;
   EXPECT_EQ(QvtOption_Parser::ReadQvtCommand(
                 "connect ov odm -cable type zarvek_platformusb frequency 12000000 -debugdevice romemStartAdr "

@@ -5,6 +5,7 @@
 
 #include "options/QvtOption_Parser.h"
 #include "tests/options/reading.h"
+#include "tests/support/GlobalLocale.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -25,6 +26,7 @@ TEST(ModelSim, IsEnabledBeforeAnythingIsRead) {
 }
 
 TEST(ModelSim, AnswersTheEndOfTheTextAfterEveryOptionInAnyCase) {
+  const GlobalLocale classic;
   expect_readings(kRead, {{"-ipcport host1:7000", 3, "modelSimEnabled=1 modelSimHost=host1 modelSimPort=7000"},
                           {"-IPCPORT Host1:7000\r\n", 3, "modelSimEnabled=1 modelSimHost=Host1 modelSimPort=7000"},
                           {"-configdevice devicenr 2", 3, "modelSimEnabled=1 device=2/UNKNOWN/0/0"},

@@ -10,6 +10,7 @@
 
 #include "options/QvtOption_Parser.h"
 #include "tests/options/reading.h"
+#include "tests/support/GlobalLocale.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -44,6 +45,7 @@ int read_run(std::string& text, EngineImp& imp) {
 }
 
 TEST(ReadOptions, RunsToTheEndOfTheText) {
+  const GlobalLocale classic;
   expect_readings(read_run<UnknownName::option>,
                   {{"", 3},
                    {" \r\n", 3},

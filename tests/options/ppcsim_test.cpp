@@ -7,6 +7,7 @@
 
 #include "options/QvtOption_Parser.h"
 #include "tests/options/reading.h"
+#include "tests/support/GlobalLocale.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -16,6 +17,7 @@ constexpr Reader kRead = QvtOption_Parser::parse_ppcsim_options;
 TEST(PpcSimulator, NeedsNoOption) { expect_readings(kRead, {{"", 0}, {" \t\r\n", 0}}); }
 
 TEST(PpcSimulator, ReadsEveryOptionInAnyCase) {
+  const GlobalLocale classic;
   expect_readings(kRead, {{"-icf a.cfg", 0, "simConfigFile=a.cfg"},
                           {"-ICF A.cfg", 0, "simConfigFile=A.cfg"},
                           {"-ipcport host1:7000", 0, "simHost=host1 simPort=7000"},

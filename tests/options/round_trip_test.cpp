@@ -7,6 +7,7 @@
 
 #include "options/QvtOption_Parser.h"
 #include "tests/support/DesignedEngine.h"
+#include "tests/support/GlobalLocale.h"
 #include "tests/support/SelectedEngine.h"
 
 namespace {
@@ -108,6 +109,7 @@ TEST(RoundTrip, LeavesAWrittenTextAsItIs) {
 }
 
 TEST(RoundTrip, WritesWhatItReadInTheFormThatItReadsBack) {
+  const GlobalLocale classic;
   for (const auto& row : kChanged) {
     SCOPED_TRACE(row.read);
     EXPECT_EQ(read_and_write(row.read), row.written);

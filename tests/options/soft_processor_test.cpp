@@ -7,6 +7,7 @@
 #include "options/QvtOption_Parser.h"
 #include "tests/options/reading.h"
 #include "tests/support/FakeHardware.h"
+#include "tests/support/GlobalLocale.h"
 #include "tests/support/SelectedEngine.h"
 
 namespace {
@@ -22,6 +23,7 @@ constexpr Reader kReadPfsl = &QvtOption_Parser::parse_ovfsloptions;
 // --- Reading: which connection ---
 
 TEST(SoftProcessorReading, TakesEachConnectionInAnyCaseWhereNoHardwareIsKnown) {
+  const GlobalLocale classic;
   expect_readings(kReadOv, {
                                {.text = "sim", .changes = "connectionType=1"},
                                {.text = "SIM", .changes = "connectionType=1"},

@@ -7,6 +7,7 @@
 #include "options/QvtOption_Parser.h"
 #include "tests/options/reading.h"
 #include "tests/support/FakeHardware.h"
+#include "tests/support/GlobalLocale.h"
 #include "tests/support/SelectedEngine.h"
 
 namespace {
@@ -46,6 +47,7 @@ std::string written(SelectedEngine& e) {
 // --- Reading ---
 
 TEST(StubReading, TakesTheLinkInAnyCase) {
+  const GlobalLocale classic;
   expect_stub_readings({
       {.option = "-comm", .text = "SERIAL", .changes = "stubType=1"},
       {.option = "-COMM", .text = "serial", .changes = "stubType=1"},

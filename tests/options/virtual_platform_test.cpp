@@ -8,6 +8,7 @@
 #include "options/QvtOption_Parser.h"
 #include "tests/options/reading.h"
 #include "tests/support/FakeHardware.h"
+#include "tests/support/GlobalLocale.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -62,6 +63,7 @@ TEST(VirtualPlatform, WithHardwareIsTakenOnlyWhereItIsAdmitted) {
 }
 
 TEST(VirtualPlatform, ReadsEveryOptionInAnyCase) {
+  const GlobalLocale classic;
   expect_readings(kRead, {{"ov -config cycle_approximate", 0, kSelected + " vpConfigured=1 vpCycleApproximate=1"},
                           {"OV -CONFIG Cycle_Approximate", 0, kSelected + " vpConfigured=1 vpCycleApproximate=1"},
                           {"ov -ipcport host1:7000", 0, kSelected + " simHost=host1 simPort=7000"},

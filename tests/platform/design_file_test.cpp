@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "platform/DesignFile.h"
+#include "tests/support/GlobalLocale.h"
 
 namespace {
 
@@ -507,6 +508,7 @@ TEST(DesignFile, RefusesAnEmptyFile) {
 }
 
 TEST(DesignFile, RefusesAMissingFile) {
+  const GlobalLocale classic;
   const TemporaryFolder folder;
   const std::string path = folder.path("missing.json");
   EXPECT_EQ(load_error(path), path + ": cannot be read: No such file or directory");
@@ -516,6 +518,7 @@ TEST(DesignFile, RefusesAMissingFile) {
 }
 
 TEST(DesignFile, RefusesAFileThatItMayNotRead) {
+  const GlobalLocale classic;
   const TemporaryFolder folder;
   const std::string path = folder.write("secret.json", R"({"instances": []})");
   ASSERT_EQ(::chmod(path.c_str(), 0), 0);

@@ -2,6 +2,7 @@
 
 // The settings of an engine that are not those of a fresh one, as one text.
 
+#include <locale>
 #include <sstream>
 #include <string>
 #include <type_traits>
@@ -12,6 +13,7 @@
 inline std::string changes(const SdkDebugDialog::EngineImp& imp) {
   const SelectedEngine fresh;
   std::ostringstream out;
+  out.imbue(std::locale::classic());
   const auto compare = [&out](const char* field, const auto& value, const auto& before) {
     if (value == before) return;
     out << (out.tellp() > 0 ? " " : "") << field << '=';
