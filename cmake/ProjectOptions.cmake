@@ -3,6 +3,11 @@ add_library(project_options INTERFACE)
 target_compile_options(project_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
   $<$<BOOL:${SDKDEBUGDIALOG_WERROR}>:-Werror>)
+# Where long has 32 bits, files of more than 2 GB, with a large inode number, or of a date after 2038 cannot be opened
+# unless one asks for it.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  target_compile_definitions(project_options INTERFACE _FILE_OFFSET_BITS=64 _TIME_BITS=64)
+endif()
 if(SDKDEBUGDIALOG_SANITIZE)
   target_compile_options(project_options INTERFACE
     -fsanitize=${SDKDEBUGDIALOG_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -212,17 +212,28 @@ TEST_F(OptionFile, IsCutAtALineFeedThatAWrittenTextHolds) {
 
 // --- How much of it ---
 
-TEST_F(OptionFile, OfAGigabyteWithoutALineEndIsReadAtOnce) {
+constexpr off_t kFiveGigabytes = off_t{5} << 30;
+
+TEST_F(OptionFile, OfFiveGigabytesWithoutALineEndIsReadAtOnce) {
   WorkFolder::write(file(), "connect ov stub -port x");
-  ASSERT_EQ(::truncate(file().c_str(), off_t{1} << 30), 0);
+  ASSERT_EQ(::truncate(file().c_str(), kFiveGigabytes), 0);
   const std::clock_t start = std::clock();
   expect_read_as_it_is(0, "connect ov stub -port x" + std::string(1023 - 23, '\0'));
   EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC / 5);
 }
 
-TEST_F(OptionFile, OfAGigabyteIsReplacedAtOnce) {
+TEST_F(OptionFile, OfFiveGigabytesIsReplacedAtOnce) {
   WorkFolder::write(file(), kOldText);
-  ASSERT_EQ(::truncate(file().c_str(), off_t{1} << 30), 0);
+  ASSERT_EQ(::truncate(file().c_str(), kFiveGigabytes), 0);
+  expect_written();
+}
+
+TEST_F(OptionFile, OfAnyDateIsReadAndReplaced) {
+  constexpr time_t kYear2100 = 4102444800;
+  WorkFolder::write(file(), "connect ov sim");
+  const std::array<timespec, 2> times = {{{kYear2100, 0}, {kYear2100, 0}}};
+  ASSERT_EQ(::utimensat(AT_FDCWD, file().c_str(), times.data(), 0), 0);
+  expect_read_as_it_is(0, "connect ov sim");
   expect_written();
 }
 
