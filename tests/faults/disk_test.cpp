@@ -31,7 +31,7 @@ bool own_name_space() {
     std::ofstream("/proc/self/gid_map") << gid;
   }
   // Nobody else is to see what is mounted from now on.
-  return ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+  return ::mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
 class Disk : public FileFolder {
@@ -108,7 +108,7 @@ TEST_F(Disk, ThatHoldsNoFurtherFileKeepsTheOldOne) {
 TEST_F(Disk, ThatIsReadOnlyKeepsTheOldFileWhichIsRead) {
   on_disk("size=64k", [this] {
     WorkFolder::write(file(), "connect ov sim");
-    if (::mount("none", etc().c_str(), nullptr, MS_REMOUNT | MS_RDONLY, "size=64k") != 0) return kNotAllowed;
+    if (::mount("none", etc().c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, "size=64k") != 0) return kNotAllowed;
     Writer e;
     if (e.engine.Generate() != 4 || e.error() != "Error Opening File") return 1;
     if (e.processor.command != kNewText) return 2;
