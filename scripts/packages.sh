@@ -36,3 +36,32 @@ need() {
   fi
   rm -f "$log"
 }
+
+# unpack ARCHITECTURE FOLDER PACKAGE...: afterwards the folder holds the contents of these packages of another
+# architecture, without what they depend on, or the script has ended. The system itself does not learn of them.
+unpack() {
+  [ "$(cat "$2/unpacked" 2>/dev/null)" != "$*" ] || return 0
+  echo "Unpacking packages of $1 into $2"
+  rm -rf "$2"
+  mkdir -p "$2/apt/lists/partial" "$2/apt/cache/archives/partial"
+  if ! (
+    wanted=$* architecture=$1
+    cd "$2" || exit
+    shift 2
+    : >apt/status
+    apt() {
+      apt-get -o APT::Architecture="$architecture" -o APT::Architectures="$architecture" -o APT::Sandbox::User= \
+        -o Dir::State="$PWD/apt" -o Dir::State::status="$PWD/apt/status" -o Dir::Cache="$PWD/apt/cache" "$@"
+    }
+    # An index that cannot be had does no harm unless a package is in that one.
+    apt update || true
+    apt download "$@" || exit
+    for file in ./*.deb; do dpkg-deb -x "$file" . || exit; done
+    rm -r apt ./*.deb
+    echo "$wanted" >unpacked
+  ) >"$2.log" 2>&1 </dev/null; then
+    tail -n 20 "$2.log" >&2
+    echo "$0: could not get packages of $1 (the lines above are apt-get's)" >&2
+    exit 1
+  fi
+}
