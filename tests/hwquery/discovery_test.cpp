@@ -217,6 +217,22 @@ TEST(DiscoveryOfSoftProcessors, ListsOneBehindADebugModuleOnceAndWithoutASecondN
   EXPECT_THAT(listed(d.imp), ElementsAre(Found{"b", 0, 0, 3, 1}, Found{"a", 0, 0, 1, 2}, Found{"c", 0, 0, 1, 3}));
 }
 
+TEST(DiscoveryOfSoftProcessors, ListsOneBehindADebugModuleOnceHoweverManyWithoutOneComeBeforeIt) {
+  for (int count = 0; count < 100; ++count) {
+    SCOPED_TRACE(count);
+    FakeHardware hw;
+    hw.debugIps = {"odm_0"};
+    hw.ipTypes = {{"odm_0", "odm"}};
+    for (int i = 0; i < count; ++i) hw.ipTypes.emplace_back("cpu_" + std::to_string(i), "ovrin");
+    hw.ipTypes.emplace_back("b", "ovrin");
+    hw.reached = {{"odm_0", {"b"}}};
+    DiscoveredEngine d;
+    discover(d, hw);
+    EXPECT_EQ(d.imp.processorList.size(), static_cast<std::size_t>(count) + 1);
+    EXPECT_EQ(d.imp.processorList.front()->name, "b");
+  }
+}
+
 TEST(DiscoveryOfSoftProcessors, AdmitsTheStubWhereThereIsALightUart) {
   FakeHardware hw;
   hw.debugIps = {"odm_0"};

@@ -61,11 +61,11 @@ TEST(CableFrequency, OfEachTypePassesWhenItIsAccepted) {
 }
 
 TEST(CableFrequency, OfEachTypeIsRefusedOtherwiseAndStays) {
-  // Every accepted frequency of any type, its neighbours, and some that are far off.
+  // Every accepted frequency of any type, its neighbours, its half and its double, and some that are far off.
   std::vector<unsigned int> tried = {0, 1, 20000000, 2147483647, 2147483648, 4294967295};
   for (const Cable& cable : kChecked) {
     for (const unsigned int frequency : cable.accepted) {
-      tried.insert(tried.end(), {frequency - 1, frequency, frequency + 1});
+      tried.insert(tried.end(), {frequency - 1, frequency, frequency + 1, frequency / 2, 2 * frequency});
     }
   }
   for (const Cable& cable : kChecked) {

@@ -100,6 +100,15 @@ TEST(BareTargets, NameAnUnknownOptionWhereverItStands) {
   }
 }
 
+TEST(BareTargets, DoNotKnowTheOptionsOfAConnection) {
+  for (const Target& target : kTargets) {
+    for (const std::string option : {"-pfsl", "-quiet", "-noattach", "-writeonly", "-comm", "-port", "-baud",
+                                     "-timeout", "-sim", "-bscan", "-icf", "-ipcport", "-config", "-memsize"}) {
+      expect_reading(target.read, {option + " 1", 2, target.changes, "UNKNOWN Option '" + option + "'", " 1"});
+    }
+  }
+}
+
 TEST(QmtcTarget, ReadsTheChain) {
   const GlobalLocale classic;
   expect_readings(kQmtc.read, {{"-configdevice devicenr 1 -CONFIGDEVICE devicenr 2", 0,

@@ -495,6 +495,14 @@ TEST(Framing, WritesNothingWithoutASelectedProcessor) {
   EXPECT_TRUE(WorkFolder::list(folder.path() / "etc").empty());
 }
 
+TEST(Framing, HandsTheCommandOutInPlaceOfWhatTheCallersTextHeld) {
+  SelectedEngine e;
+  std::string command = "before";
+  EXPECT_EQ(e.engine.GenerateCmdString(command), 0);
+  EXPECT_EQ(command, "connect ov odm -debugdevice cpunr 1");
+  EXPECT_EQ(e.processor.command, "connect ov odm -debugdevice cpunr 1");
+}
+
 // --- Read and written again ---
 
 TEST(Framing, WritesWhatAnotherEngineReadAsExpected) {

@@ -81,6 +81,13 @@ TEST(ModelSim, NamesAnUnknownOption) {
                           {"-icf a", 2, "modelSimEnabled=1", "UNKNOWN  ModelSim Option '-icf'", " a"}});
 }
 
+TEST(ModelSim, DoesNotKnowTheOptionsAroundIt) {
+  for (const std::string option : {"-debugdevice", "-pfsl", "-quiet", "-noattach", "-writeonly", "-cable", "-comm",
+                                   "-port", "-baud", "-timeout", "-sim", "-bscan", "-uart", "-config", "-memsize"}) {
+    expect_reading(kRead, {option + " 1", 2, "modelSimEnabled=1", "UNKNOWN  ModelSim Option '" + option + "'", " 1"});
+  }
+}
+
 TEST(ModelSim, IsReadByTheGeneralOptionsAndNeverWritten) {
   SelectedEngine e;
   EXPECT_EQ(QvtOption_Parser::ReadQvtCommand("connect ov odm -sim -ipcport h:1", e.imp), 0);

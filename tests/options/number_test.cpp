@@ -89,6 +89,25 @@ TEST(Number, ReadsTextsAsExpected) {
   }
 }
 
+TEST(Number, EndsBeforeEveryCharacterThatIsNoDigit) {
+  const std::string decimal = "0123456789";
+  const std::string hexadecimal = decimal + "abcdefABCDEF";
+  for (int i = 0; i < 256; ++i) {
+    SCOPED_TRACE(i);
+    const char c = static_cast<char>(i);
+    if (decimal.find(c) == std::string::npos) {
+      const std::string text = "12"s + c + "3";
+      EXPECT_EQ(to_unsigned(text), 12U);
+      EXPECT_EQ(to_signed(text), 12);
+      EXPECT_EQ(to_decimal(text), 12);
+    }
+    if (hexadecimal.find(c) == std::string::npos) {
+      EXPECT_EQ(to_unsigned("0x1f"s + c + "3"), 31U);
+      EXPECT_EQ(to_signed("0x1f"s + c + "3"), 31);
+    }
+  }
+}
+
 TEST(Number, ReadsSignsPrefixesAndEndsLikeTheCLibrary) {
   const std::vector<std::string> starts = {"", " ", "\t", "\n\v\f\r ", "x", "\xA0"};
   const std::vector<std::string> signs = {"", "+", "-", "+-", "-+", "--", "- "};

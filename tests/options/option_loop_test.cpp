@@ -170,6 +170,12 @@ TEST(GeneralOptions, FailAtAValueWhereAnOptionIsExpected) {
                              {"-bscan USER1 stray", 2, "bscanPort=2"}});
 }
 
+TEST(GeneralOptions, DoNotKnowTheOptionsThatOnlyOtherTargetsHave) {
+  for (const char* const option : {"-uart", "-memsize", "-icf", "-ipcport", "-config"}) {
+    expect_reading(kGeneral, {option + std::string(" 1"), 2, "", "UNKNOWN Option ''", " 1"});
+  }
+}
+
 TEST(GeneralOptions, FailWhereAGroupFails) {
   expect_readings(
       kGeneral,

@@ -96,6 +96,13 @@ TEST(PpcSimulator, NamesAnUnknownOption) {
                           {"-cable", 2, "", "UNKNOWN  PowerPC Sim Option '-cable'"}});
 }
 
+TEST(PpcSimulator, DoesNotKnowTheOptionsOfAnotherConnection) {
+  for (const std::string option : {"-pfsl", "-quiet", "-noattach", "-writeonly", "-cable", "-comm", "-port", "-baud",
+                                   "-timeout", "-configdevice", "-sim", "-bscan", "-uart", "-config", "-memsize"}) {
+    expect_reading(kRead, {option + " 1", 2, "", "UNKNOWN  PowerPC Sim Option '" + option + "'", " 1"});
+  }
+}
+
 TEST(PpcSimulator, LetsALoneDashThrow) {
   SelectedEngine e;
   std::string text = "-icf - -ipcport :1";

@@ -117,6 +117,15 @@ TEST(VirtualPlatform, NamesAnUnknownOption) {
                           {"ov -quiet", 2, kSelected, "UNKNOWN virtual platform Option '-quiet'"}});
 }
 
+TEST(VirtualPlatform, DoesNotKnowTheOptionsOfAnyOtherConnection) {
+  for (const std::string option :
+       {"-debugdevice", "-pfsl", "-quiet", "-noattach", "-writeonly", "-cable", "-comm", "-port", "-baud", "-timeout",
+        "-configdevice", "-sim", "-bscan", "-uart", "-icf", "-memsize"}) {
+    expect_reading(kRead,
+                   {"ov " + option + " 1", 2, kSelected, "UNKNOWN virtual platform Option '" + option + "'", " 1"});
+  }
+}
+
 // --- Writing ---
 
 TEST(VirtualPlatform, ReplacesTheTextByItsOwn) {
