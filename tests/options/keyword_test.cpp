@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "options/word_index.h"
 #include "tests/support/GlobalLocale.h"
 #include "tests/support/SelectedEngine.h"
 
@@ -43,6 +44,14 @@ TEST(FindRow, TellsWordsApartThatDifferInOneCharacter) {
       }
     }
   }
+}
+
+// Both words of a pair begin and end with the same eight characters.
+TEST(PackedWord, TellsWordsOfDifferentLengthsApart) {
+  EXPECT_NE(PackedWord("irlength"), PackedWord("irlengthirlength"));
+  EXPECT_NE(PackedWord("-debugdevice"), PackedWord("-debugdeugdevice"));
+  EXPECT_NE(PackedWord("-configdevice"), PackedWord("-configdigdevice"));
+  EXPECT_EQ(PackedWord("-configdevice"), PackedWord("-configdevice"));
 }
 
 TEST(FindRow, AnswersNullForAnyOtherWord) {
