@@ -5,6 +5,8 @@ set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES TARGET_TRIPLE TARGET_ROOT TARGET_RUN)
 set(CMAKE_SYSTEM_NAME Linux)
 string(REGEX MATCH "^[^-]+" CMAKE_SYSTEM_PROCESSOR ${TARGET_TRIPLE})
 set(CMAKE_CXX_COMPILER ${TARGET_TRIPLE}-g++)
+# On Arm the compiler would remark on every call that g++ 6 made otherwise.
+set(CMAKE_CXX_FLAGS_INIT -Wno-psabi)
 set(CMAKE_CROSSCOMPILING_EMULATOR ${TARGET_RUN})
 
 # Libraries for 32-bit x86 are in a folder of the oldest processor's name.
