@@ -166,6 +166,14 @@ TEST_F(Calls, EachOfAWriteThatFailsLeavesTheOldFileOrTheNewOneAndNoOther) {
   }
 }
 
+TEST_F(Calls, BeforeTheNewFileHasTheModeOfTheOldOneLetNobodyElseReadIt) {
+  write_old();
+  std::filesystem::permissions(file(), std::filesystem::perms(0600));
+  run_with("write", find(calls("write"), {"fchown", 1, {}}), "signal=SIGKILL");
+  ASSERT_EQ(new_files().size(), 1U);
+  EXPECT_EQ(std::filesystem::status(etc() / new_files().front()).permissions(), std::filesystem::perms(0600));
+}
+
 TEST_F(Calls, AtEachOfWhichAWriterDiesLeaveTheOldFileOrTheNewOneAndTheNextClearsUp) {
   write_old();
   int left = 0;

@@ -9,6 +9,7 @@
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -21,6 +22,7 @@
 #include <fstream>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "options/QvtOption_Parser.h"
@@ -273,13 +275,16 @@ TEST_F(OptionFile, IsNotASocket) {
 }
 
 TEST_F(OptionFile, IsNotADevice) {
-  for (const char* const device : {"/dev/null", "/dev/zero", "/dev/full"}) {
-    if (!fs::is_character_file(device)) GTEST_SKIP() << "there is no " << device;
-    SCOPED_TRACE(device);
+  // Devices of its own: were one replaced, by root, it should not be the machine's.
+  for (const auto& [name, number] : {std::pair{"null", 3U}, {"zero", 5U}, {"full", 7U}}) {
+    const fs::path device = folder().path() / name;
+    if (::mknod(device.c_str(), S_IFCHR | 0666, makedev(1, number)) != 0) GTEST_SKIP() << "may not make devices";
+    SCOPED_TRACE(name);
     fs::create_symlink(device, file());
     expect_no_file();
     expect_refused();
     EXPECT_EQ(fs::read_symlink(file()), device);
+    EXPECT_TRUE(fs::is_character_file(device));
     fs::remove(file());
   }
 }
@@ -501,6 +506,33 @@ TEST_F(OptionFileOfOthers, IsWrittenWhereTheUserMayWriteIt) {
   expect_names({"qvt_p.opt"});
 }
 
+TEST_F(OptionFileOfOthers, KeepsItsGroupWhereTheUserIsInIt) {
+  WorkFolder::write(file(), kOldText);
+  ASSERT_EQ(::chown(file().c_str(), 0, 100), 0);
+  ASSERT_EQ(::chmod(file().c_str(), 0660), 0);
+  EXPECT_EQ(in_child([] {
+              constexpr gid_t kGroup = 100;
+              if (::setgroups(1, &kGroup) != 0 || ::setgid(65534) != 0 || ::setuid(65534) != 0) return 100;
+              Writer e;
+              return e.engine.Generate();
+            }),
+            0);
+  EXPECT_EQ(content(), kNewText);
+  struct stat status = {};
+  ASSERT_EQ(::stat(file().c_str(), &status), 0);
+  EXPECT_EQ(status.st_uid, 65534U);
+  EXPECT_EQ(status.st_gid, 100U);
+  EXPECT_EQ(status.st_mode & 07777, 0660U);
+}
+
+TEST_F(OptionFileOfOthers, LosesTheMarksThatLetActAsItsOwnerOrGroupWhereNeitherCanBeKept) {
+  WorkFolder::write(file(), kOldText);
+  ASSERT_EQ(::chmod(file().c_str(), 06666), 0);
+  EXPECT_EQ(generate_as_nobody(), 0);
+  EXPECT_EQ(content(), kNewText);
+  EXPECT_EQ(mode_of(file()), 0666U);
+}
+
 TEST_F(OptionFileOfOthers, IsNotCreatedInAFolderThatTheUserMayNotWrite) {
   fs::permissions(etc(),
                   fs::perms::owner_all | fs::perms::group_exec | fs::perms::others_exec | fs::perms::others_read);
@@ -650,6 +682,15 @@ TEST_F(OptionFile, IsWrittenInAFolderThatIsClearedOfOurOwnFilesAlone) {
   expect_written();
   expect_names(expected);
   EXPECT_EQ(WorkFolder::read(etc() / "qvt_q.opt"), "connect ov sim");
+}
+
+TEST_F(OptionFile, IsWrittenBesideFilesThatBearALetterMoreThanOurOwn) {
+  std::vector<std::string> others;
+  for (char c = 'a'; c <= 'z'; ++c) others.push_back(std::string(".qvt_new.1") + c + ".2");
+  for (const std::string& name : others) WorkFolder::write(etc() / name, "connect ov sim");
+  expect_written();
+  others.emplace_back("qvt_p.opt");
+  expect_names(others);
 }
 
 TEST_F(OptionFile, ThatALinkCallsLikeAFileLeftBehindIsKept) {
