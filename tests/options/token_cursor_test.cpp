@@ -83,11 +83,13 @@ TEST(TokenCursor, PartsTokensAtBlanksAndTabsWhereverTheyStand) {
       const std::string token(length, letter);
       expect_cut(token, {kValue, token, ""});
       for (const std::string between : {" ", "\t", "  ", "\t ", " \n"}) {
-        expect_cut(token + between + "b c", {kValue, token, between + "b c"});
-        expect_cut(between + token + between, {kValue, token, between});
+        const std::string rest = between + "b c";
+        expect_cut(token + rest, {kValue, token, rest});
+        expect_cut(between + token, {kValue, token, ""});
       }
       expect_cut(token + "\n b", {kValue, token, "\n b"});
-      expect_cut(token + "\n" + token + " b", {kValue, token + "\n" + token, " b"});
+      const std::string twoLines = token + "\nz";
+      expect_cut(twoLines + " b", {kValue, twoLines, " b"});
     }
   }
 }
