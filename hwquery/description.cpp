@@ -117,7 +117,7 @@ int Engine::ParseProcessorInfo(std::string name, ProcessorInfo& info, std::strin
 }
 
 ProcessorInfoImp* EngineImp::GetProcessorInfo(std::string command) {
-  auto processor = std::make_unique<ProcessorInfoImp>();
+  auto processor = std::make_unique_for_overwrite<ProcessorInfoImp>();
   // Whatever goes wrong, an exception included, nothing of the read stays and the record, which is gone then, is not
   // left selected.
   struct Selection {

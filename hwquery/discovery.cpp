@@ -91,7 +91,7 @@ class Discovery {
 
   void add(const std::string& name, std::uint32_t family, std::uint32_t variant, std::uint32_t connections,
            std::uint8_t number) {
-    auto processor = std::make_unique<ProcessorInfoImp>();
+    auto processor = std::make_unique_for_overwrite<ProcessorInfoImp>();
     processor->name = name;
     processor->procFamily = family;
     processor->procVariant = variant;

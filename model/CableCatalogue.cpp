@@ -54,7 +54,7 @@ const CableKind& cable_kind(Engine::CableType type) {
 
 unsigned int setcable_default_frequency(Engine::CableType type) { return cable_kind(type).defaultFrequency; }
 
-std::string setcable_default_port(Engine::CableType type) { return cable_kind(type).defaultPort; }
+std::string setcable_default_port(Engine::CableType type) { return std::string(cable_kind(type).defaultPort); }
 
 std::string getcable_supported_frequency(Engine::CableType type) { return cable_kind(type).supported; }
 

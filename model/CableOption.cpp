@@ -1,14 +1,15 @@
 #include "SdkDebugDialog/CableOption.h"
 
-#include "SdkDebugDialog/CableCatalogue.h"
+#include "model/cable_kind.h"
 
 namespace SdkDebugDialog {
 
 void CableOption::CableOptionInit(Engine::CableType t) {
-  *this = CableOption();
+  const CableKind& kind = cable_kind(t);
   type = t;
-  frequency = setcable_default_frequency(t);
-  port = setcable_default_port(t);
+  frequency = kind.defaultFrequency;
+  port = kind.defaultPort;
+  for (std::string* const text : {&esn, &fname, &modulename, &modulearg, &url}) text->clear();
 }
 
 }  // namespace SdkDebugDialog

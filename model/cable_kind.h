@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 #include "SdkDebugDialog/Engine.h"
 
@@ -11,7 +12,7 @@ namespace SdkDebugDialog {
 struct CableKind {
   Engine::CableType type = Engine::CABLE_NONE;
   std::uint32_t defaultFrequency = 0;
-  const char* defaultPort = "";
+  std::string_view defaultPort = {};
   const char* supported = "0";                   // frequencies offered to the user
   std::span<const std::uint32_t> accepted = {};  // frequencies that pass the check; none: the check never passes
   const char* refusal = nullptr;                 // error text for any other frequency, which is its %d

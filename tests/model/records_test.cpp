@@ -132,6 +132,17 @@ TEST(ProcessorRecord, ResetKeepsTheIdentityAndRestoresEverySetting) {
   expect_default_settings(record);
 }
 
+TEST(ProcessorRecord, ResetReleasesTextsOfAnyLength) {
+  ProcessorInfoImp record;
+  for (std::string* const text : {&record.name, &record.simConfigFile, &record.simHost, &record.stubSerialPort,
+                                  &record.cpuVersion, &record.odmVersion, &record.modelSimHost, &record.command}) {
+    text->assign(1000, 'x');
+  }
+  record.ProcessorInfoImpInit();
+  EXPECT_EQ(record.name, std::string(1000, 'x'));
+  expect_default_settings(record);
+}
+
 TEST(ProcessorRecord, CanBeResetAgainAndAgain) {
   ProcessorInfoImp record = changed_record();
   record.ProcessorInfoImpInit();
