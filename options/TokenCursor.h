@@ -5,11 +5,9 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "options/LetterCase.h"
 #include "options/status.h"
-#include "options/word_index.h"
 
 namespace SdkDebugDialog {
 
@@ -24,60 +22,108 @@ constexpr bool is_space(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 // A token is a run of characters between blanks or tabs. There is no quoting, no escape and no comment.
 class TokenCursor {
  public:
-  explicit TokenCursor(std::string_view text)
-      : m_at(text.data()), m_end(text.data() + text.size()), m_begin(m_at), m_ahead(m_at) {}
+  // How many characters are looked at at once.
+  static constexpr std::size_t kBlock = 64;
+
+  explicit TokenCursor(std::string_view text) : m_text(text) {}
 
   // Cuts the next token off. kValue, kOption or kEnd; with kEnd the token stays as it was. An option starts with "-"
-  // and goes on with anything but a decimal digit; its text is stored in newoption_token too. A lone "-" throws
-  // std::out_of_range.
+  // and goes on with anything but a decimal digit. A lone "-" throws std::out_of_range.
   int next(std::string_view& token) { return cut(token) ? classify(token) : kEnd; }
 
-  // Reads a key and its value. kOption or kEnd when there is no key; kError when there is no value, even where an
-  // option, which is consumed then, stands in its place.
-  int next_pair(std::string_view& key, std::string_view& value) {
-    if (const int kind = next(key); kind != kValue) return kind;
-    return next(value) == kValue ? kValue : kError;
+  // Reads pairs of a key and a value until something else comes, and calls take(key, value) with each. kOption or kEnd
+  // when there is no further key; kError when there is no value, even where an option, which is consumed then, stands
+  // in its place, and when take answers false.
+  template <class Take>
+  int next_pairs(Take take) {
+    Position at = m_at;
+    std::string_view key;
+    std::string_view value;
+    for (;;) {
+      if (!cut(at, key)) return kEnd;
+      if (const int kind = classify(key); kind != kValue) return kind;
+      if (!cut(at, value) || classify(value) != kValue || !take(key, value)) return kError;
+    }
   }
 
-  // The last option that was read, as newoption_token has it too.
+  // The last option that was read; empty when there was none.
   std::string_view option() const { return m_option; }
 
   // What was not consumed yet.
-  std::string_view rest() const { return {m_at, static_cast<std::size_t>(m_end - m_at)}; }
+  std::string_view rest() const;
 
   LetterCase& letter_case() { return m_letterCase; }
 
   // The two halves of next: cuts a token off (false at the end of the text), and tells its kind.
   bool cut(std::string_view& token) {
-    // Nearly every token holds no white space of its own and ends at a blank.
-    while (m_white != 0 || look_ahead()) {
-      const char* const blank = m_block + std::countr_zero(m_white);
-      if (*blank != ' ' && *blank != '\t') break;
-      m_white &= m_white - 1;
-      const char* const begin = std::exchange(m_begin, blank + 1);
-      if (begin == blank) continue;
-      token = {begin, static_cast<std::size_t>(blank - begin)};
-      m_at = blank;
-      return true;
-    }
-    return cut_any(token);
+    Position at = m_at;
+    return cut(at, token);
   }
-  int classify(std::string_view token) { return token.front() == '-' ? classify_dash(token) : kValue; }
+  int classify(std::string_view token) {
+    if (token.front() != '-') [[likely]] {
+      return kValue;
+    }
+    if (token.size() == 1) throw_lone_dash();
+    if (token[1] >= '0' && token[1] <= '9') return kValue;
+    m_option = token;
+    return kOption;
+  }
 
  private:
-  bool look_ahead();
-  bool cut_any(std::string_view& token);
-  int classify_dash(std::string_view token);
+  // Positions are those in the text. One behind its end stands where a blank behind the text would have been consumed.
+  struct Position {
+    std::size_t next = 0;         // behind the blank that ended the last token, or behind the token itself
+    std::size_t block = -kBlock;  // the characters that were looked at last begin here
+    std::uint64_t blanks = 0;     // a bit for each blank among them that was not consumed
+  };
 
-  const char* m_at;  // what was not consumed yet
-  const char* m_end;
-  const char* m_begin;            // where the next token begins, unless there is white space
-  const char* m_ahead;            // what was not looked at yet
-  const char* m_block = nullptr;  // the eight characters that were looked at last
-  std::uint64_t m_white = 0;      // those of them that are not above the blank and were not consumed
+  // Works on a copy of our position, which a compiler keeps in registers, and keeps ours up to date.
+  bool cut(Position& at, std::string_view& token) {
+    if (at.blanks == 0) [[unlikely]] {
+      next_block();
+      at = m_at;
+    }
+    // Nearly every token stands between two blanks.
+    const std::size_t begin = at.next;
+    const std::size_t blank = at.block + static_cast<unsigned>(std::countr_zero(at.blanks));
+    if (at.blanks == 0 || begin == blank) [[unlikely]] {
+      const std::string_view any = cut_any();
+      at = m_at;
+      if (any.empty()) return false;
+      token = any;
+      return true;
+    }
+    m_at.next = at.next = blank + 1;
+    m_at.blanks = at.blanks &= at.blanks - 1;
+    token = {m_text.data() + begin, blank - begin};
+    return true;
+  }
+  std::string_view cut_any();
+  void next_block();
+  [[noreturn]] static void throw_lone_dash();
+
+  std::string_view m_text;
+  Position m_at;
   std::string_view m_option;
   LetterCase m_letterCase;
 };
+
+// Stores the last option that was read, if any, in newoption_token.
+void keep_option(const TokenCursor& in);
+
+// Runs a reader; newoption_token holds the last option that it read then, however it ended.
+template <class Reader>
+int read_and_keep_option(TokenCursor& in, Reader reader) {
+  int end = kError;
+  try {
+    end = reader(in);
+  } catch (...) {
+    keep_option(in);
+    throw;
+  }
+  keep_option(in);
+  return end;
+}
 
 // Runs a reader on the front of a caller's text and leaves in the text what the reader did not consume.
 template <class Reader>
@@ -91,7 +137,7 @@ int read_front(std::string& text, Reader reader) {
     TokenCursor cursor;
   };
   Front front(text);
-  return reader(front.cursor);
+  return read_and_keep_option(front.cursor, reader);
 }
 
 // The same for a reader that works on an engine.

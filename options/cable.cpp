@@ -49,7 +49,7 @@ int read_type(const Pair& pair, CableOption& cable, EngineImp& imp) {
     return kError;
   }
   cable.type = name->type;
-  if (std::string port = setcable_default_port(cable.type); !port.empty()) cable.port = std::move(port);
+  if (const std::string_view port = cable_kind(cable.type).defaultPort; !port.empty()) cable.port = port;
   return kValue;
 }
 
@@ -122,8 +122,9 @@ int check_cable(EngineImp& imp, bool useDefault) {
 // --- Reading ---
 
 int read_cable(TokenCursor& in, EngineImp& imp) {
-  const PairsEnd end = read_pairs<kKeywords>(in, *imp.cable, imp, "UNKNOWN Parameter '%s' for  option '-cable'");
-  return end.kind == kEnd ? check_cable(imp, (end.seen & kFrequencySeen) == 0) : end.kind;
+  Reading<CableOption> reading = {*imp.cable, imp, in.letter_case()};
+  const int end = read_pairs<kKeywords>(in, reading, "UNKNOWN Parameter '%s' for  option '-cable'");
+  return end == kEnd ? check_cable(imp, (reading.seen & kFrequencySeen) == 0) : end;
 }
 
 int QvtOption_Parser::parse_cable(std::string& text, EngineImp& imp) { return on_text<read_cable>(text, imp); }

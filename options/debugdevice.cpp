@@ -109,8 +109,8 @@ constexpr Row kKeywords[] = {
 }  // namespace
 
 int read_debugdevice(TokenCursor& in, EngineImp& imp) {
-  return read_pairs<kKeywords>(in, *imp.currentProcessor, imp, "UNKNOWN Parameter '%s' for  option '-debugDevice'")
-      .kind;
+  Reading<R> reading = {*imp.currentProcessor, imp, in.letter_case()};
+  return read_pairs<kKeywords>(in, reading, "UNKNOWN Parameter '%s' for  option '-debugDevice'");
 }
 
 int QvtOption_Parser::parse_debugdevice(std::string& text, EngineImp& imp) {

@@ -50,9 +50,7 @@ auto next_row(TokenCursor& in, Source source) -> decltype(&rows[0]) {
   return row != nullptr && (row->inFile || source == Source::command) ? row : nullptr;
 }
 
-// Reads the text that the current record's command holds; nothing changes it meanwhile.
-int read_text(EngineImp& imp, Source source) {
-  TokenCursor in(imp.currentProcessor->command);
+int read_command(TokenCursor& in, EngineImp& imp, Source source) {
   const Head* const head = next_row<kHeads>(in, source);
   if (head == nullptr) return kNotUnderstood;
   auto read = read_virtual_platform;
@@ -62,6 +60,12 @@ int read_text(EngineImp& imp, Source source) {
     read = target->read;
   }
   return read(in, imp) == kError ? kNotUnderstood : kValue;
+}
+
+// Reads the text that the current record's command holds; nothing changes it meanwhile.
+int read_text(EngineImp& imp, Source source) {
+  TokenCursor cursor(imp.currentProcessor->command);
+  return read_and_keep_option(cursor, [&](TokenCursor& in) { return read_command(in, imp, source); });
 }
 
 // An ARM processor is written like a PowerPC.

@@ -48,13 +48,14 @@ constexpr Option kCableAndChain[] = {
 // --- One device ---
 
 int read_configdevice(TokenCursor& in, EngineImp& imp) {
-  auto device = std::make_unique<JtagOption>();
-  const PairsEnd end = read_pairs<kKeywords>(in, *device, imp, "UNKNOWN Parameter '%s' for option '-configDevice'");
-  if (end.refused) return kError;
+  auto device = std::make_unique_for_overwrite<JtagOption>();
+  Reading<JtagOption> reading = {*device, imp, in.letter_case()};
+  const int end = read_pairs<kKeywords>(in, reading, "UNKNOWN Parameter '%s' for option '-configDevice'");
+  if (reading.refused) return kError;
   // A device whose last key lacks its value joins the chain all the same.
   imp.jtagChain.push_back(device.get());
   device.release();  // NOLINT(bugprone-unused-return-value): the chain's holder releases it
-  return end.kind;
+  return end;
 }
 
 int QvtOption_Parser::parse_configdevice(std::string& text, EngineImp& imp) {

@@ -19,27 +19,31 @@
 #include "options/LetterCase.h"
 #include "options/TokenCursor.h"
 #include "options/number.h"
+#include "options/row_name.h"
 #include "options/status.h"
 #include "options/text_out.h"
-#include "options/word_index.h"
 
 namespace SdkDebugDialog {
+
+// What is_name misses: where the first row stands whose name is the word because more letters than those of ASCII have
+// cases; the table's size when there is none.
+template <class Row, std::size_t N>
+std::size_t find_in_locale(const Row (&rows)[N], std::string_view word, LetterCase& letterCase) {
+  if (letterCase.is_ascii()) return N;
+  const auto found = std::ranges::find_if(rows, [&](const Row& row) { return letterCase.same(row.name, word); });
+  return static_cast<std::size_t>(found - std::begin(rows));
+}
 
 // Where the first row stands whose name is the word, in any case; the table's size when there is none. No two names of
 // a table differ in case alone.
 template <const auto& rows>
 std::size_t find_index(std::string_view word, LetterCase& letterCase) {
-  using Row = std::remove_cvref_t<decltype(rows[0])>;
-  static constexpr WordIndex index{std::span<const Row, std::size(rows)>(rows)};
-  const PackedWord packed(word);
-  const std::size_t row = index.candidate(packed);
-  // Our own spelling is right whatever the locale is.
-  if (row != index.kNone && index.is_name(row, packed)) return row;
-  if (letterCase.is_ascii()) {
-    return row != index.kNone && index.is_name_in_any_ascii_case(row, packed) ? row : index.kNone;
-  }
-  const auto found = std::ranges::find_if(rows, [&](const Row& r) { return letterCase.same(r.name, word); });
-  return static_cast<std::size_t>(found - std::begin(rows));
+  std::size_t found = 0;
+  const bool any = any_row<rows>([&]<std::size_t i> {
+    found = i;
+    return is_name<rows, i>(word, letterCase);
+  });
+  return any ? found : find_in_locale(rows, word, letterCase);
 }
 
 // That row; null when there is none.
@@ -98,59 +102,82 @@ struct Keyword {
   std::string_view gap = " ";  // what stands before the keyword
 };
 
+// What the pairs of a group are read into.
+template <class Record>
+struct Reading {
+  Record& record;
+  EngineImp& imp;
+  LetterCase& letterCase;
+  std::uint32_t seen = 0;  // a bit for each row of the table that was read without an error
+  bool refused = false;    // a pair that was complete ended the reading with an error
+};
+
 // Reads the value of one row's keyword: kValue or kError. A number is cut to the field's width. The row is known when
 // this is compiled, so that what it does not need costs nothing.
 template <const auto& rows, std::size_t i, class Record>
-int read_row(const Pair& pair, Record& record, EngineImp& imp) {
+int read_row(std::string_view key, std::string_view value, Reading<Record>& reading) {
   constexpr const Keyword<Record>& row = rows[i];
-  if (row.read != nullptr) return row.read(pair, record, imp);
-  constexpr auto field = std::get<row.field.index()>(row.field);
-  using Member = std::remove_const_t<decltype(field)>;
-  if constexpr (std::is_same_v<Member, std::string Record::*>) {
-    record.*field = pair.value;
-  } else if constexpr (!std::is_same_v<Member, std::monostate>) {
-    using Number = std::remove_reference_t<decltype(record.*field)>;
-    record.*field =
-        static_cast<Number>(row.isSigned ? static_cast<std::uint64_t>(to_signed(pair.value)) : to_unsigned(pair.value));
+  Record& record = reading.record;
+  if constexpr (row.read != nullptr) {
+    if (row.read({key, value, reading.letterCase}, record, reading.imp) != kValue) return kError;
+  } else {
+    constexpr auto field = std::get<row.field.index()>(row.field);
+    using Member = std::remove_const_t<decltype(field)>;
+    if constexpr (std::is_same_v<Member, std::string Record::*>) {
+      record.*field = value;
+    } else if constexpr (!std::is_same_v<Member, std::monostate>) {
+      using Number = std::remove_reference_t<decltype(record.*field)>;
+      record.*field =
+          static_cast<Number>(row.isSigned ? static_cast<std::uint64_t>(to_signed(value)) : to_unsigned(value));
+    }
   }
+  reading.seen |= 1U << i;
   return kValue;
 }
 
-// The same for a row that the text has named.
-template <const auto& rows, class Record>
-int read_value(std::size_t row, const Pair& pair, Record& record, EngineImp& imp) {
-  using Read = int (*)(const Pair& pair, Record& record, EngineImp& imp);
-  static constexpr auto readers = []<std::size_t... i>(std::index_sequence<i...>) {
-    return std::array<Read, sizeof...(i)>{read_row<rows, i, Record>...};
-  }
-  (std::make_index_sequence<std::size(rows)>());
-  return readers[row](pair, record, imp);
+// What read_pair returns for a key that names no row.
+inline constexpr int kOtherKey = -1;
+
+// Reads a pair by the first row for which isKey<row>() holds.
+template <const auto& rows, class Record, class IsKey>
+int read_by_row(std::string_view key, std::string_view value, Reading<Record>& reading, IsKey isKey) {
+  int result = kOtherKey;
+  any_row<rows>([&]<std::size_t i> {
+    if (!isKey.template operator()<i>()) return false;
+    result = read_row<rows, i>(key, value, reading);
+    return true;
+  });
+  return result;
 }
 
-// How a run of pairs ended.
-struct PairsEnd {
-  int kind = kError;       // the token that ended it, or kError
-  bool refused = false;    // kError because of a pair that was complete
-  std::uint32_t seen = 0;  // a bit for each row of the table that was met
-};
-
-// Reads pairs until something else comes. An unknown key becomes the %s of the text unknown.
+// What is_name misses. Apart from read_pair, which would be slower with it.
 template <const auto& rows, class Record>
-PairsEnd read_pairs(TokenCursor& in, Record& record, EngineImp& imp, const char* unknown) {
+[[gnu::noinline]] int read_pair_in_locale(std::string_view key, std::string_view value, Reading<Record>& reading) {
+  return read_by_row<rows>(key, value, reading,
+                           [&]<std::size_t i> { return reading.letterCase.same(rows[i].name, key); });
+}
+
+// Reads a pair by the row that its key names.
+template <const auto& rows, class Record>
+int read_pair(std::string_view key, std::string_view value, Reading<Record>& reading) {
   static_assert(std::size(rows) <= 32);
-  PairsEnd end;
-  Pair pair = {{}, {}, in.letter_case()};
-  while ((end.kind = in.next_pair(pair.key, pair.value)) == kValue) {
-    const std::size_t row = find_index<rows>(pair.key, pair.letterCase);
-    if (row == std::size(rows)) set_error(imp, unknown, std::string(pair.key).c_str());
-    if (row == std::size(rows) || read_value<rows>(row, pair, record, imp) != kValue) {
-      end.kind = kError;
-      end.refused = true;
-      break;
-    }
-    end.seen |= 1U << row;
-  }
-  return end;
+  const int result =
+      read_by_row<rows>(key, value, reading, [&]<std::size_t i> { return is_name<rows, i>(key, reading.letterCase); });
+  if (result != kOtherKey || reading.letterCase.is_ascii()) return result;
+  return read_pair_in_locale<rows>(key, value, reading);
+}
+
+// Reads pairs until something else comes, and answers what that is. An unknown key becomes the %s of the text unknown.
+template <const auto& rows, class Record>
+int read_pairs(TokenCursor& in, Reading<Record>& reading, const char* unknown) {
+  return in.next_pairs([&](std::string_view key, std::string_view value) {
+    const int result = read_pair<rows>(key, value, reading);
+    if (result == kValue) [[likely]]
+      return true;
+    if (result == kOtherKey) set_error(reading.imp, unknown, std::string(key).c_str());
+    reading.refused = true;
+    return false;
+  });
 }
 
 // Appends the pair of one row of the table if it is to be written, known when this is compiled as well.

@@ -76,17 +76,7 @@ std::int64_t clamp(const Magnitude& number) {
 
 }  // namespace
 
-std::uint64_t to_unsigned(std::string_view text) {
-  // Nearly every number is a few decimal digits and nothing else.
-  if (text.size() < 16 && !text.empty() && text.front() != '0') {
-    std::uint64_t value = 0;
-    for (std::size_t i = 0;; ++i) {
-      if (i == text.size()) return value;
-      const unsigned next = static_cast<unsigned char>(text[i]) - static_cast<unsigned>('0');
-      if (next > 9) break;
-      value = value * 10 + next;
-    }
-  }
+std::uint64_t to_unsigned_any(std::string_view text) {
   const Magnitude number = scan(text, Base::byPrefix);
   if (number.overflow) return std::numeric_limits<std::uint64_t>::max();
   return number.negative ? 0 - number.value : number.value;

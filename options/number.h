@@ -12,12 +12,29 @@ namespace SdkDebugDialog {
 // before the number, "0x" hexadecimal, a leading "0" octal, else decimal; reading stops at the first character that
 // does not fit; nothing that fits is 0, what does not fit into 64 bits is the largest value. Callers cut the result
 // to their field.
-std::uint64_t to_unsigned(std::string_view text);
+inline std::uint64_t to_unsigned(std::string_view text);
 
 // The rule of strtol with base 0 on 64 bits.
 std::int64_t to_signed(std::string_view text);
 
 // The rule of strtol with base 10 on 64 bits.
 std::int64_t to_decimal(std::string_view text);
+
+// The same for any text; to_unsigned is quicker for most.
+std::uint64_t to_unsigned_any(std::string_view text);
+
+inline std::uint64_t to_unsigned(std::string_view text) {
+  // Nearly every number is a few decimal digits and nothing else.
+  if (text.size() < 16 && !text.empty() && text.front() != '0') {
+    std::uint64_t value = 0;
+    for (std::size_t i = 0;; ++i) {
+      if (i == text.size()) return value;
+      const unsigned next = static_cast<unsigned char>(text[i]) - static_cast<unsigned>('0');
+      if (next > 9) break;
+      value = value * 10 + next;
+    }
+  }
+  return to_unsigned_any(text);
+}
 
 }  // namespace SdkDebugDialog

@@ -91,7 +91,8 @@ constexpr Keyword<Nothing> kPfslKeywords[] = {
 
 int read_pfsl(TokenCursor& in, EngineImp& imp) {
   Nothing nothing;
-  return read_pairs<kPfslKeywords>(in, nothing, imp, "UNKNOWN Parameter '%s' for  option '-pfsl'").kind;
+  Reading<Nothing> reading = {nothing, imp, in.letter_case()};
+  return read_pairs<kPfslKeywords>(in, reading, "UNKNOWN Parameter '%s' for  option '-pfsl'");
 }
 
 int QvtOption_Parser::parse_ovfsloptions(std::string& text, EngineImp& imp) { return on_text<read_pfsl>(text, imp); }

@@ -43,10 +43,8 @@ constexpr Keyword<R> kOptions[] = {
 int read_stub_option(TokenCursor& in, std::string_view option, EngineImp& imp) {
   std::string_view value;
   if (const int kind = in.next(value); kind != kValue) return kind;
-  const std::size_t row = find_index<kOptions>(option, in.letter_case());
-  if (row != std::size(kOptions)) {
-    return read_value<kOptions>(row, {option, value, in.letter_case()}, *imp.currentProcessor, imp);
-  }
+  Reading<R> reading = {*imp.currentProcessor, imp, in.letter_case()};
+  if (const int result = read_pair<kOptions>(option, value, reading); result != kOtherKey) return result;
   // The option stands where the text says parameter, and the value where it says option.
   set_error(imp, "UNKNOWN Parameter '%s' for  option '%s'", std::string(option).c_str(), std::string(value).c_str());
   return kError;

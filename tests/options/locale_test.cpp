@@ -138,6 +138,14 @@ TEST(Locale, CaseIsFoldedAsTheGlobalLocaleSays) {
     EXPECT_EQ(status_of("CONNECT OV STUB -COMM JTAG"), 0);
     EXPECT_EQ(status_of("CONNECT OV SIM"), 3);
     EXPECT_EQ(status_of("CONNECT OV S\xDDM"), 0);
+    EXPECT_EQ(status_of("connect ov odm -configdevice IDCODE 5"), 3);
+    SelectedEngine e;
+    EXPECT_EQ(QvtOption_Parser::ReadQvtCommand("connect ov odm -configdevice \xDD"
+                                               "DCODE 5",
+                                               e.imp),
+              0);
+    ASSERT_EQ(e.imp.jtagChain.size(), 1U);
+    EXPECT_EQ(e.imp.jtagChain[0]->idcode, 5U);
     EXPECT_TRUE(LetterCase().same("\xFD", "I"));
     EXPECT_FALSE(LetterCase().same("i", "I"));
     EXPECT_FALSE(LetterCase().same("i", "\xFD"));

@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "options/QvtOption_Parser.h"
@@ -59,6 +60,18 @@ std::ostream& operator<<(std::ostream& out, const PairCut& cut) {
              << " rest " << testing::PrintToString(cut.rest);
 }
 
+// Reads one pair and stops.
+int next_pair(TokenCursor& in, std::string& key, std::string& value) {
+  bool taken = false;
+  const int kind = in.next_pairs([&](std::string_view foundKey, std::string_view foundValue) {
+    key = foundKey;
+    value = foundValue;
+    taken = true;
+    return false;
+  });
+  return taken ? kValue : kind;
+}
+
 void expect_pair(const std::string& text, const PairCut& expected) {
   SCOPED_TRACE(testing::PrintToString(text));
   std::string rest = text;
@@ -67,11 +80,12 @@ void expect_pair(const std::string& text, const PairCut& expected) {
   const int kind = QvtOption_Parser::get_tokenpair(rest, key, value);
   EXPECT_EQ((PairCut{kind, key, value, rest}), expected);
 
+  // The cursor hands over complete pairs alone.
   TokenCursor in(text);
-  std::string_view keyView = "key before";
-  std::string_view valueView = "value before";
-  const int cursorKind = in.next_pair(keyView, valueView);
-  EXPECT_EQ((PairCut{cursorKind, std::string(keyView), std::string(valueView), std::string(in.rest())}), expected);
+  PairCut found = {kValue, expected.key, expected.value, {}};
+  found.kind = next_pair(in, found.key, found.value);
+  found.rest = in.rest();
+  EXPECT_EQ(found, expected);
 }
 
 // --- Tokens ---
@@ -320,7 +334,7 @@ TEST(TokenCursor, AnswersViewsIntoTheText) {
 }
 
 TEST(TokenCursor, LooksAtNothingBehindTheText) {
-  for (std::size_t length = 1; length <= 20; ++length) {
+  for (std::size_t length = 1; length <= 200; ++length) {
     // No terminating character, so that the sanitizer sees a look too far.
     const std::vector<char> text(length, 'a');
     TokenCursor in({text.data(), text.size()});
@@ -345,11 +359,49 @@ TEST(TokenCursor, TellsTheLastOptionThatItRead) {
   EXPECT_EQ(in.next(token), 1);
   EXPECT_EQ(in.next(token), 0);
   EXPECT_EQ(in.option(), "-One");
-  std::string_view value;
-  EXPECT_EQ(in.next_pair(token, value), 1);
+  EXPECT_EQ(in.next(token), 1);
   EXPECT_EQ(in.option(), "-two-");
   EXPECT_EQ(in.option().data(), text.data() + 13);
-  EXPECT_EQ(newoption_token, "-two-");
+}
+
+TEST(TokenCursor, HandsOverPairAfterPairOfAnyLength) {
+  for (const std::string between : {" ", "\t", "  ", " \n"}) {
+    std::string text;
+    std::string expected;
+    for (std::size_t length = 1; length < 80; ++length) {
+      const std::string key(length, 'k');
+      const std::string value = "-5" + std::string(80 - length, 'v');
+      text.append(between).append(key).append(between).append(value);
+      expected.append(key).append("=").append(value).append(";");
+    }
+    for (const auto& [end, kind, rest] :
+         {std::tuple("", kEnd, ""), std::tuple(" ", kEnd, ""), std::tuple(" -option x y", kOption, " x y"),
+          std::tuple(" key", kError, ""), std::tuple(" key -option x", kError, " x")}) {
+      const std::string whole = text + end;
+      SCOPED_TRACE(testing::PrintToString(between + end));
+      TokenCursor in(whole);
+      std::string found;
+      EXPECT_EQ(in.next_pairs([&](std::string_view key, std::string_view value) {
+        found.append(key).append("=").append(value).append(";");
+        return true;
+      }),
+                kind);
+      EXPECT_EQ(found, expected);
+      EXPECT_EQ(in.rest(), rest);
+    }
+  }
+}
+
+TEST(TokenCursor, StopsAtAPairThatIsNotTaken) {
+  TokenCursor in("a 1 b 2 c 3");
+  std::string found;
+  EXPECT_EQ(in.next_pairs([&](std::string_view key, std::string_view /*value*/) {
+    found += key;
+    return key != "b";
+  }),
+            kError);
+  EXPECT_EQ(found, "ab");
+  EXPECT_EQ(in.rest(), " c 3");
 }
 
 TEST(ReadFront, LeavesInTheTextWhatTheReaderDidNotConsume) {
@@ -357,9 +409,9 @@ TEST(ReadFront, LeavesInTheTextWhatTheReaderDidNotConsume) {
   EXPECT_EQ(read_front(text, [](TokenCursor& /*in*/) { return 42; }), 42);
   EXPECT_EQ(text, "one two three");
   const auto two = [](TokenCursor& in) {
-    std::string_view key;
-    std::string_view value;
-    return in.next_pair(key, value);
+    std::string key;
+    std::string value;
+    return next_pair(in, key, value);
   };
   EXPECT_EQ(read_front(text, two), 0);
   EXPECT_EQ(text, " three");
@@ -368,15 +420,32 @@ TEST(ReadFront, LeavesInTheTextWhatTheReaderDidNotConsume) {
 }
 
 TEST(ReadFront, LeavesTheRestWhenTheReaderThrows) {
-  std::string text = "one - two";
-  EXPECT_THROW(read_front(text,
-                          [](TokenCursor& in) {
-                            std::string_view key;
-                            std::string_view value;
-                            return in.next_pair(key, value);
-                          }),
-               std::out_of_range);
+  newoption_token = "-older";
+  std::string text = "-one - two";
+  std::string_view token;
+  const auto all = [&](TokenCursor& in) {
+    while (in.next(token) != kEnd) {
+    }
+    return 0;
+  };
+  EXPECT_THROW(read_front(text, all), std::out_of_range);
   EXPECT_EQ(text, " two");
+  EXPECT_EQ(newoption_token, "-one");
+}
+
+TEST(ReadFront, KeepsTheLastOptionThatWasRead) {
+  newoption_token = "-older";
+  std::string text = "value -5";
+  const auto two = [](TokenCursor& in) {
+    std::string_view token;
+    in.next(token);
+    return in.next(token);
+  };
+  EXPECT_EQ(read_front(text, two), kValue);
+  EXPECT_EQ(newoption_token, "-older");
+  text = "-one -two";
+  EXPECT_EQ(read_front(text, two), kOption);
+  EXPECT_EQ(newoption_token, "-two");
 }
 
 }  // namespace
