@@ -11,6 +11,7 @@
 #include "SdkDebugDialog/EngineImp.h"
 #include "SdkDebugDialog/JtagOption.h"
 #include "SdkDebugDialog/ProcessorInfo.h"
+#include "model/NameIndex.h"
 #include "model/error_text.h"
 #include "model/processor_kind.h"
 #include "model/result.h"
@@ -31,10 +32,16 @@ void forget_failed_read(EngineImp& imp) {
   imp.errorStr = std::move(reason);
 }
 
+// The first listed processor that has this name. FindProcessor may know a record by a name that it had before.
+ProcessorInfoImp* find_listed(EngineImp& imp, const std::string& name) {
+  ProcessorInfoImp* const processor = imp.FindProcessor(name);
+  return processor == nullptr || processor->name == name ? processor : find_by_name(imp.processorList, name);
+}
+
 // Selects a listed processor and fills it by read. The text notListed has the name as its %s.
 template <class Read>
 int select_processor(EngineImp& imp, const std::string& name, ProcessorInfo& info, const char* notListed, Read read) {
-  ProcessorInfoImp* const processor = imp.FindProcessor(name);
+  ProcessorInfoImp* const processor = find_listed(imp, name);
   if (processor == nullptr) {
     set_error(imp, notListed, name.c_str());
     return kNotListed;
@@ -96,7 +103,7 @@ int EngineImp::GetFPUType() {
 }
 
 int Engine::GetProcessorNr(std::string name) {
-  const ProcessorInfoImp* const processor = imp->FindProcessor(name);
+  const ProcessorInfoImp* const processor = find_listed(*imp, name);
   if (processor != nullptr) return processor->cpuNr;
   set_error(*imp, "Processor Instance %s cannot be debugged!!\n", name.c_str());
   return -1;

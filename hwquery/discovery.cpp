@@ -10,6 +10,7 @@
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
 #include "SdkDebugDialog/ProcessorInfo.h"
+#include "hwquery/serial_stub.h"
 #include "model/NameIndex.h"
 #include "model/processor_kind.h"
 #include "model/result.h"
@@ -67,6 +68,7 @@ class Discovery {
     std::vector<std::string> names;
     m_hw.getIpInstances(names, "ovrin", false);
     NameIndex listed;
+    listed.reserve(m_imp.processorList.size() + names.size());
     for (const std::string& name : names) {
       if (listed.find(m_imp.processorList, name) == nullptr) add_soft(name, Engine::SIMULATOR);
     }
@@ -79,8 +81,7 @@ class Discovery {
   }
 
   void add_soft(const std::string& name, std::uint32_t connections) {
-    connections |= m_imp.IsStubSerialConnect(name) | m_imp.IsStubJtagConnect(name);
-    add(name, kFamilySoft, kVariantSoft, connections, ++m_lastSoft);
+    add(name, kFamilySoft, kVariantSoft, connections | serial_stub(m_hw, name), ++m_lastSoft);
   }
 
   void add_powerpc(const std::string& name) {

@@ -8,6 +8,7 @@
 
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
+#include "hwquery/serial_stub.h"
 #include "platform/HHSMHwManager.h"
 
 namespace SdkDebugDialog {
@@ -17,14 +18,17 @@ constexpr std::string_view kLightUarts[] = {"opb_serial_lite", "tfb_serial_lite"
 
 }  // namespace
 
-unsigned int EngineImp::IsStubSerialConnect(std::string processor) {
-  if (hwManager == nullptr) return 0;
+unsigned int serial_stub(HHSMHwManager& hw, const std::string& processor) {
   std::vector<std::string> peripherals;
-  hwManager->getPeripherals(processor, peripherals);
+  hw.getPeripherals(processor, peripherals);
   const bool hasUart = std::ranges::any_of(peripherals, [&](const std::string& instance) {
-    return std::ranges::find(kLightUarts, hwManager->getIpName(instance)) != std::end(kLightUarts);
+    return std::ranges::find(kLightUarts, hw.getIpName(instance)) != std::end(kLightUarts);
   });
   return hasUart ? Engine::STUB | Engine::STUB_UART_PRESENT : 0;
+}
+
+unsigned int EngineImp::IsStubSerialConnect(std::string processor) {
+  return hwManager != nullptr ? serial_stub(*hwManager, processor) : 0;
 }
 
 unsigned int EngineImp::IsStubJtagConnect(std::string /*processor*/) { return 0; }

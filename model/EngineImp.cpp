@@ -1,7 +1,5 @@
 #include "SdkDebugDialog/EngineImp.h"
 
-#include <algorithm>
-
 #include "model/NameIndex.h"
 #include "model/result.h"
 
@@ -25,10 +23,9 @@ void EngineImp::EngineImpInit() {
 ProcessorInfoImp* EngineImp::FindProcessor(const std::string& name) {
   if (ProcessorInfoImp* const processor = m_names->find(processorList, name)) return processor;
   // A miss, or records that took the place of others: the list itself decides.
-  const auto found = std::ranges::find(processorList, name, &ProcessorInfoImp::name);
-  if (found == processorList.end()) return nullptr;
-  m_names->clear();
-  return *found;
+  ProcessorInfoImp* const found = find_by_name(processorList, name);
+  if (found != nullptr) m_names->clear();
+  return found;
 }
 
 }  // namespace SdkDebugDialog

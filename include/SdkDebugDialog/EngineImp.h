@@ -99,7 +99,7 @@ class SDKDEBUGDIALOG_API EngineImp {
   unsigned int IsStubJtagConnect(std::string processor);
 
   // The first record of processorList with exactly this name; null when there is none. Quick however long the
-  // list is.
+  // list is: names are remembered, so that a record that was given another one may still be found by the one before.
   ProcessorInfoImp* FindProcessor(const std::string& name);
 
  private:

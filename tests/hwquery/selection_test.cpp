@@ -86,6 +86,21 @@ TEST_F(Selection, NumberIsLookedUpByteForByte) {
   }
 }
 
+// Whatever was looked for before.
+TEST_F(Selection, GoesByTheNamesThatProcessorsHaveNow) {
+  EXPECT_EQ(d.engine.GetProcessorNr("a9_0"), 1);
+  ProcessorInfoImp& second = d.list("a9_0");
+  second.cpuNr = 7;
+  EXPECT_EQ(d.engine.GetProcessorNr("a9_0"), 1);
+  a9->name = "a9_1";
+  EXPECT_EQ(d.engine.GetProcessorNr("a9_0"), 7);
+  second.name = "a9_2";
+  EXPECT_EQ(d.engine.GetProcessorNr("a9_0"), -1);
+  EXPECT_EQ(d.engine.SetProcessor("a9_0", info), 2);
+  EXPECT_EQ(d.imp.currentProcessor, nullptr);
+  EXPECT_EQ(d.engine.GetProcessorNr("a9_2"), 7);
+}
+
 // --- Unknown names ---
 
 TEST_F(Selection, OfAnUnknownNameIsRefusedAndLeavesEverythingAsItWas) {

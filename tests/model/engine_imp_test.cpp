@@ -2,9 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <cstdio>
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <type_traits>
+#include <unordered_map>
 #include <vector>
 
 #include "SdkDebugDialog/EngineImp.h"
@@ -164,6 +169,48 @@ TEST(FindProcessor, FindsEveryoneWhileTheListGrows) {
   }
 }
 
+// Names of which the ends alone are the same, or the beginnings, or the lengths.
+TEST(FindProcessor, TellsNamesOfAnyLengthApart) {
+  DiscoveredEngine d;
+  std::vector<std::string> names;
+  for (std::size_t length = 0; length <= 40; ++length) {
+    names.emplace_back(length, 'a');
+    for (std::size_t i = 0; i < length; ++i) {
+      names.emplace_back(length, 'a');
+      names.back()[i] = 'b';
+    }
+  }
+  std::vector<const ProcessorInfoImp*> records;
+  records.reserve(names.size());
+  for (const std::string& name : names) records.push_back(&d.list(name));
+  for (std::size_t i = 0; i < names.size(); ++i) EXPECT_EQ(d.imp.FindProcessor(names[i]), records[i]) << names[i];
+  for (std::string name : names) {
+    name += 'c';
+    EXPECT_EQ(d.imp.FindProcessor(name), nullptr) << name;
+  }
+}
+
+// Whatever the index makes of a name, two of them are never the same.
+TEST(FindProcessor, TellsNamesOfOneHashApart) {
+  for (const char* const format : {"%07x", "ovrin_%07x", "%07x_ovrin_0", "ovrin_0_%07x_ovrin_0"}) {
+    // Among a hundred thousand names there are likely two whose hashes have the same lowest 32 bits.
+    std::unordered_map<std::uint32_t, std::string> byHash;
+    DiscoveredEngine d;
+    for (unsigned i = 0; d.imp.processorList.empty(); ++i) {
+      char name[32];
+      std::snprintf(name, sizeof name, format, i);
+      const auto hash = static_cast<std::uint32_t>(std::hash<std::string_view>()(name));
+      const auto [other, isNew] = byHash.try_emplace(hash, name);
+      if (isNew) continue;
+      const ProcessorInfoImp* const first = &d.list(other->second);
+      EXPECT_EQ(d.imp.FindProcessor(name), nullptr);
+      const ProcessorInfoImp* const second = &d.list(name);
+      EXPECT_EQ(d.imp.FindProcessor(other->second), first);
+      EXPECT_EQ(d.imp.FindProcessor(name), second);
+    }
+  }
+}
+
 // The list is open to its holder, who may change it in any way between two lookups.
 class FindProcessorInAListChangedByHand : public testing::Test {
  protected:
@@ -222,6 +269,21 @@ TEST_F(FindProcessorInAListChangedByHand, TakesTheFirstAfterItWasTurnedAroundWit
 TEST_F(FindProcessorInAListChangedByHand, FindsTheRecordThatReplacedAnotherOfTheSameName) {
   imp.processorList[1] = &otherB;
   EXPECT_EQ(imp.FindProcessor("b"), &otherB);
+}
+
+TEST_F(FindProcessorInAListChangedByHand, FindsTheRecordThatReplacedAnotherOfAnotherName) {
+  ProcessorInfoImp d;
+  d.name = "d";
+  imp.processorList[1] = &d;
+  EXPECT_EQ(imp.FindProcessor("b"), nullptr);
+  EXPECT_EQ(imp.FindProcessor("d"), &d);
+  EXPECT_EQ(imp.FindProcessor("a"), &a);
+}
+
+TEST_F(FindProcessorInAListChangedByHand, FindsARecordByTheNameThatItWasGiven) {
+  b.name = "a name of more than sixteen characters";
+  EXPECT_EQ(imp.FindProcessor(b.name), &b);
+  EXPECT_EQ(imp.FindProcessor("b"), nullptr);
 }
 
 TEST(FindProcessor, IsQuickInAListOf100000) {
