@@ -3,11 +3,9 @@
 // The description of an option group that its reader and its writer share: a table with one row per keyword.
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
-#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>

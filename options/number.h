@@ -2,8 +2,8 @@
 
 // Numbers in option values.
 
+#include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace SdkDebugDialog {

@@ -4,7 +4,7 @@ namespace SdkDebugDialog {
 
 // What the tokenizer and every reader of an option group return: what ended the reading.
 inline constexpr int kValue = 0;   // a value, or a key with its value
-inline constexpr int kOption = 1;  // the next option; its name waits in newoption_token
+inline constexpr int kOption = 1;  // the next option; whoever cut it off knows its name: TokenCursor, newoption_token
 inline constexpr int kError = 2;   // an error, or a key without its value
 inline constexpr int kEnd = 3;     // the text ran out
 
