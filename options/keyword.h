@@ -23,32 +23,24 @@
 
 namespace SdkDebugDialog {
 
-// What is_name misses: where the first row stands whose name is the word because more letters than those of ASCII have
-// cases; the table's size when there is none.
+// What is_name misses: the first row whose name is the word because more letters than those of ASCII have cases; null
+// when there is none.
 template <class Row, std::size_t N>
-std::size_t find_in_locale(const Row (&rows)[N], std::string_view word, LetterCase& letterCase) {
-  if (letterCase.is_ascii()) return N;
-  const auto found = std::ranges::find_if(rows, [&](const Row& row) { return letterCase.same(row.name, word); });
-  return static_cast<std::size_t>(found - std::begin(rows));
+const Row* find_in_locale(const Row (&rows)[N], std::string_view word, LetterCase& letterCase) {
+  if (letterCase.is_ascii()) return nullptr;
+  const Row* const found = std::ranges::find_if(rows, [&](const Row& r) { return letterCase.same(r.name, word); });
+  return found != std::end(rows) ? found : nullptr;
 }
 
-// Where the first row stands whose name is the word, in any case; the table's size when there is none. No two names of
-// a table differ in case alone.
-template <const auto& rows>
-std::size_t find_index(std::string_view word, LetterCase& letterCase) {
-  std::size_t found = 0;
-  const bool any = any_row<rows>([&]<std::size_t i> {
-    found = i;
-    return is_name<rows, i>(word, letterCase);
-  });
-  return any ? found : find_in_locale(rows, word, letterCase);
-}
-
-// That row; null when there is none.
+// The row whose name is the word, in any case; null when there is none. No two names of a table differ in case alone.
 template <const auto& rows>
 auto find_row(std::string_view word, LetterCase& letterCase) -> decltype(&rows[0]) {
-  const std::size_t i = find_index<rows>(word, letterCase);
-  return i != std::size(rows) ? &rows[i] : nullptr;
+  decltype(&rows[0]) found = nullptr;
+  any_row<rows>([&]<std::size_t i> {
+    if (is_name<rows, i>(word, letterCase)) found = &rows[i];
+    return found != nullptr;
+  });
+  return found != nullptr ? found : find_in_locale(rows, word, letterCase);
 }
 
 // The row that the next token names; null when it names none.

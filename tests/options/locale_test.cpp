@@ -146,6 +146,8 @@ TEST(Locale, CaseIsFoldedAsTheGlobalLocaleSays) {
               0);
     ASSERT_EQ(e.imp.jtagChain.size(), 1U);
     EXPECT_EQ(e.imp.jtagChain[0]->idcode, 5U);
+    EXPECT_EQ(QvtOption_Parser::ReadQvtCommand("connect ov s\xDDm", e.imp), 0);
+    EXPECT_EQ(e.processor.connectionType, Engine::SIMULATOR);
     EXPECT_TRUE(LetterCase().same("\xFD", "I"));
     EXPECT_FALSE(LetterCase().same("i", "I"));
     EXPECT_FALSE(LetterCase().same("i", "\xFD"));
