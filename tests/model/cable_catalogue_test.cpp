@@ -50,20 +50,5 @@ TEST(CableCatalogue, IsAnsweredByTheEngineAsWell) {
   }
 }
 
-TEST(CableCatalogue, GivesTheParallelCablesTheFirstPrinterPort) {
-  EXPECT_EQ(setcable_default_port(Engine::ZARVEK_PARALLEL4), "LPT1");
-  EXPECT_EQ(setcable_default_port(Engine::ZARVEK_PARALLEL3), "LPT1");
-}
-
-TEST(CableCatalogue, GivesTheUsbCableItsPortAndThePluginNone) {
-  EXPECT_EQ(setcable_default_port(Engine::ZARVEK_PLATFORMUSB), "USB21");
-  EXPECT_EQ(setcable_default_port(Engine::ZARVEK_PLUGIN), "");
-}
-
-TEST(CableCatalogue, OffersNoFrequencyForTheTcfCable) {
-  Engine engine;
-  EXPECT_EQ(engine.GetSupportedCableSpeed(Engine::ZARVEK_TCF), "0");
-}
-
 }  // namespace
 }  // namespace SdkDebugDialog

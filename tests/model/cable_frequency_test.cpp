@@ -95,14 +95,6 @@ TEST(CableFrequency, OfOtherTypesIsRefusedWithoutAText) {
   }
 }
 
-TEST(CableFrequency, OfAPluginIsRefusedWithAnUnchangedText) {
-  SelectedEngine s;
-  s.engine.SetErrorStr("before");
-  set_cable(s, 5, 1000);
-  EXPECT_EQ(QvtOption_Parser::setcable_frequency(s.imp, 0), 2);
-  EXPECT_EQ(s.error(), "before");
-}
-
 TEST(CableFrequency, IsTheDefaultOfTheTypeWhereAskedFor) {
   struct Row {
     unsigned int type;
