@@ -13,6 +13,7 @@ namespace {
 
 using SdkDebugDialog::CableOption;
 using SdkDebugDialog::Engine;
+using SdkDebugDialog::EngineImp;
 using SdkDebugDialog::JtagOption;
 using testing::ElementsAre;
 
@@ -61,129 +62,40 @@ struct Parsed {
   }
 };
 
-// --- The live chain ---
-
-TEST(LiveChain, SharesItsRecordsAndDestroysNone) {
-  SelectedEngine e;
-  JtagOption first{.partname = "first"};
-  JtagOption second{.partname = "second"};
-  std::vector<JtagOption*> chain = {&first, &second};
-  EXPECT_EQ(e.engine.SetJtagChainOptions(chain), 0);
-  EXPECT_THAT(chain, ElementsAre(&first, &second));
-  std::vector<JtagOption*> got = {&second};
-  EXPECT_EQ(e.engine.GetJtagChainOptions(got), 0);
-  EXPECT_THAT(got, ElementsAre(&first, &second));
-  EXPECT_EQ(e.engine.SetJtagChainOptions(got), 0);
-  EXPECT_THAT(e.imp.jtagChain, ElementsAre(&first, &second));
-  std::vector<JtagOption*> none;
-  EXPECT_EQ(e.engine.SetJtagChainOptions(none), 0);
-  EXPECT_TRUE(e.imp.jtagChain.empty());
-  EXPECT_EQ(first.partname, "first");
-  EXPECT_EQ(second.partname, "second");
-}
-
-TEST(LiveChain, ComesOutEmptyWhenItIsSetToItself) {
-  SelectedEngine e;
-  JtagOption device;
-  e.imp.jtagChain = {&device};
-  EXPECT_EQ(e.engine.SetJtagChainOptions(e.imp.jtagChain), 0);
-  EXPECT_TRUE(e.imp.jtagChain.empty());
-}
-
-TEST(LiveChain, IsAnsweredUnlessSimulatorOrSerialStubOrEmpty) {
-  struct {
-    unsigned int connection;
-    unsigned int stub;
-    bool empty;
-    int result;
-  } const rows[] = {{1, 0, false, 2}, {1, 0, true, 2},  {2, 1, false, 2}, {4, 1, true, 2}, {2, 0, true, 1},
-                    {2, 0, false, 0}, {4, 0, false, 0}, {8, 0, false, 0}, {2, 2, false, 0}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(std::to_string(row.connection) + " " + std::to_string(row.stub));
-    SelectedEngine e;
-    JtagOption device;
-    JtagOption before;
-    std::vector<JtagOption*> chain;
-    if (!row.empty) chain.push_back(&device);
-    EXPECT_EQ(e.engine.SetJtagChainOptions(chain), 0);
-    e.processor.connectionType = row.connection;
-    e.processor.stubType = row.stub;
-    std::vector<JtagOption*> got = {&before};
-    EXPECT_EQ(e.engine.GetJtagChainOptions(got), row.result);
-    EXPECT_THAT(got, ElementsAre(row.result == 0 ? &device : &before));
-    EXPECT_EQ(e.error(), "");
-    e.imp.jtagChain.clear();
-  }
-}
-
 // --- The live plug-in cable ---
 
+constexpr unsigned int kOtherTypes[] = {0, 1, 2, 3, 4, 6, 7, 99};
+
+int set_plugin(std::string& text, EngineImp& imp) { return imp.engine->SetPluginCableOptions(std::exchange(text, {})); }
+
 TEST(LivePluginCable, RefusesATextForAnyOtherCableAndChangesNothing) {
-  for (const unsigned int type : {0U, 1U, 2U, 3U, 4U, 6U, 7U, 99U}) {
+  for (const unsigned int type : kOtherTypes) {
     SCOPED_TRACE(type);
-    SelectedEngine e;
-    e.imp.cable->type = static_cast<Engine::CableType>(type);
-    const std::string before = changes(e);
-    EXPECT_EQ(e.engine.SetPluginCableOptions("-cable modulename m -configdevice"), 1);
-    EXPECT_EQ(e.error(), "Internal Error: Other Cable Options applies only for ZARVEK_PLUGIN cable type");
-    EXPECT_EQ(changes(e), before);
+    expect_reading(set_plugin,
+                   {"-cable modulename m -configdevice", 1,
+                    Error("Internal Error: Other Cable Options applies only for ZARVEK_PLUGIN cable type")},
+                   [type](SelectedEngine& e) { e.imp.cable->type = static_cast<Engine::CableType>(type); });
   }
 }
 
-TEST(LivePluginCable, AppliesWhateverTheTextSets) {
-  SelectedEngine e;
-  e.engine.SetCableType(Engine::ZARVEK_PLUGIN);
-  e.engine.SetErrorStr("an older text");
-  EXPECT_EQ(e.engine.SetPluginCableOptions("-configdevice jtagport cpu devicenr 1 -debugdevice deviceNr 2 cpunr 3 "
-                                           "-bscan USER1 -cable modulename m modulearg a modulearg b"),
-            0);
-  EXPECT_EQ(changes(e),
-            "cpuNr=3 debugDevice=2 bscanPort=2 cable.type=5 cable.modulename=m cable.modulearg=a;b cpuJtag=1 "
-            "device=1/UNKNOWN/0/0");
-  EXPECT_EQ(e.engine.SetPluginCableOptions("-cable type zarvek_parallel3"), 0);
-  EXPECT_EQ(e.imp.cable->type, Engine::ZARVEK_PARALLEL3);
-  EXPECT_EQ(e.imp.cable->frequency, 200000U);
-  EXPECT_EQ(e.error(), "an older text");
-}
-
-TEST(LivePluginCable, AcceptsAnEmptyText) {
-  SelectedEngine e;
-  e.engine.SetCableType(Engine::ZARVEK_PLUGIN);
-  EXPECT_EQ(e.engine.SetPluginCableOptions(""), 0);
-  EXPECT_EQ(changes(e), "cable.type=5");
-}
-
-TEST(LivePluginCable, KeepsWhatWasAppliedBeforeAFailureAndTheTextThatTellsWhy) {
-  struct {
-    const char* text;
-    const char* changes;
-    const char* error;
-  } const rows[] = {
-      {"-cable modulename m -configdevice devicenr 1 -foo", "cable.type=5 cable.modulename=m device=1/UNKNOWN/0/0",
-       "UNKNOWN Option ''"},
-      {"-cable modulename m speed 1", "cable.type=5 cable.modulename=m",
-       "UNKNOWN Parameter 'speed' for  option '-cable'"},
-      {"-cable modulearg a", "cable.type=5 cable.modulearg=a",
-       "Plug-in Module NOT specified for Cable Type zarvek_plugin"},
-      {"-cable modulename m frequency 5", "cable.type=5 cable.frequency=5 cable.modulename=m", "an older text"},
-      {"word", "cable.type=5", "an older text"},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.text);
-    SelectedEngine e;
-    e.engine.SetCableType(Engine::ZARVEK_PLUGIN);
-    e.engine.SetErrorStr("an older text");
-    EXPECT_EQ(e.engine.SetPluginCableOptions(row.text), 1);
-    EXPECT_EQ(changes(e), row.changes);
-    EXPECT_EQ(e.error(), row.error);
-  }
-}
-
-TEST(LivePluginCable, ThrowsOnALoneDashAndKeepsWhatCameBeforeIt) {
-  SelectedEngine e;
-  e.engine.SetCableType(Engine::ZARVEK_PLUGIN);
-  EXPECT_THROW(e.engine.SetPluginCableOptions("-configdevice devicenr 1 -cable modulename m -"), std::out_of_range);
-  EXPECT_EQ(changes(e), "cable.type=5 cable.modulename=m device=1/UNKNOWN/0/0");
+TEST(LivePluginCable, AppliesWhateverTheTextSetsAndKeepsItOnAFailureThatItTellsOf) {
+  expect_readings(
+      set_plugin,
+      {{"", 0},
+       {"-configdevice jtagport cpu devicenr 1 -debugdevice deviceNr 2 cpunr 3 -bscan USER1 -cable modulename m "
+        "modulearg a modulearg b",
+        0, "cpuNr=3 debugDevice=2 bscanPort=2 cable.modulename=m cable.modulearg=a;b cpuJtag=1 device{devicenr=1}"},
+       {"-cable type zarvek_parallel3", 0, "cable.type=4 cable.frequency=200000 cable.port=LPT1"},
+       {"-cable modulename m -configdevice devicenr 1 -foo", 1, "cable.modulename=m device{devicenr=1}",
+        Error("UNKNOWN Option ''")},
+       {"-cable modulename m speed 1", 1, "cable.modulename=m",
+        Error("UNKNOWN Parameter 'speed' for  option '-cable'")},
+       {"-cable modulearg a", 1, "cable.modulearg=a",
+        Error("Plug-in Module NOT specified for Cable Type zarvek_plugin")},
+       {"-cable modulename m frequency 5", 1, "cable.frequency=5 cable.modulename=m"},
+       {"word", 1},
+       {"-configdevice devicenr 1 -cable modulename m -", kThrows, "cable.modulename=m device{devicenr=1}"}},
+      [](SelectedEngine& e) { e.engine.SetCableType(Engine::ZARVEK_PLUGIN); });
 }
 
 TEST(LivePluginCable, RefusesATextWithoutAProcessor) {
@@ -192,16 +104,17 @@ TEST(LivePluginCable, RefusesATextWithoutAProcessor) {
   EXPECT_EQ(engine.SetPluginCableOptions("-cable modulename m"), 1);
 }
 
-TEST(LivePluginCable, IsAnsweredAsText) {
+TEST(LivePluginCable, IsAnsweredWholeAsText) {
   SelectedEngine e;
   e.engine.SetCableType(Engine::ZARVEK_PLUGIN);
-  e.imp.cable->modulename = "m";
+  const std::string name(5000, 'n');
+  e.imp.cable->modulename = name;
   e.imp.cable->modulearg = ";a%s;";
   e.imp.cable->url = "u";
   e.imp.cable->frequency = 5;
   std::string out = "before";
   EXPECT_EQ(e.engine.GetPluginCableOptions(out), 0);
-  EXPECT_EQ(out, "-cable type zarvek_plugin modulename m modulearg  modulearg a%s modulearg ");
+  EXPECT_EQ(out, "-cable type zarvek_plugin modulename " + name + " modulearg  modulearg a%s modulearg ");
 }
 
 TEST(LivePluginCable, AnswersAnEmptyTextWithoutAModule) {
@@ -214,7 +127,7 @@ TEST(LivePluginCable, AnswersAnEmptyTextWithoutAModule) {
 }
 
 TEST(LivePluginCable, LeavesTheAnswerAloneForAnyOtherCable) {
-  for (const unsigned int type : {0U, 1U, 2U, 3U, 4U, 6U, 7U, 99U}) {
+  for (const unsigned int type : kOtherTypes) {
     SCOPED_TRACE(type);
     SelectedEngine e;
     e.imp.cable->type = static_cast<Engine::CableType>(type);
@@ -224,16 +137,6 @@ TEST(LivePluginCable, LeavesTheAnswerAloneForAnyOtherCable) {
     EXPECT_EQ(out, "before");
     EXPECT_EQ(e.error(), "");
   }
-}
-
-TEST(LivePluginCable, IsWrittenWhole) {
-  const std::string name(5000, 'n');
-  SelectedEngine e;
-  e.engine.SetCableType(Engine::ZARVEK_PLUGIN);
-  e.imp.cable->modulename = name;
-  std::string out;
-  EXPECT_EQ(e.engine.GetPluginCableOptions(out), 0);
-  EXPECT_EQ(out, "-cable type zarvek_plugin modulename " + name);
 }
 
 // --- A caller's plug-in cable ---
@@ -249,7 +152,7 @@ TEST(CallersCable, IsAnsweredAsTextEvenWithoutAModule) {
 }
 
 TEST(CallersCable, OfAnyOtherTypeLeavesTheAnswerAlone) {
-  for (const unsigned int type : {0U, 1U, 2U, 3U, 4U, 6U, 7U, 99U}) {
+  for (const unsigned int type : kOtherTypes) {
     SCOPED_TRACE(type);
     std::string out = "before";
     EXPECT_EQ(Engine::Get3rdPartyCableOptions(out, filled(static_cast<Engine::CableType>(type))), 1);
@@ -260,14 +163,7 @@ TEST(CallersCable, OfAnyOtherTypeLeavesTheAnswerAlone) {
 TEST(CallersCable, TakesAllEightFieldsFromATextOfAnyType) {
   CableOption c = filled(Engine::ZARVEK_TCF);
   EXPECT_EQ(Engine::Set3rdPartyCableOptions(c, "-cable type zarvek_parallel4 esn e fname f url u"), 0);
-  EXPECT_EQ(c.type, Engine::ZARVEK_PARALLEL4);
-  EXPECT_EQ(c.frequency, 5000000U);
-  EXPECT_EQ(c.port, "LPT1");
-  EXPECT_EQ(c.esn, "e");
-  EXPECT_EQ(c.fname, "f");
-  EXPECT_EQ(c.modulename, "");
-  EXPECT_EQ(c.modulearg, "");
-  EXPECT_EQ(c.url, "u");
+  EXPECT_EQ(fields(c), std::make_tuple(2U, 5000000U, "LPT1", "e", "f", "", "", "u"));
 }
 
 TEST(CallersCable, IsResetByATextWithoutACable) {
@@ -283,9 +179,7 @@ TEST(CallersCable, ReadsItsOwnTextBack) {
   EXPECT_EQ(Engine::Get3rdPartyCableOptions(text, c), 0);
   CableOption back;
   EXPECT_EQ(Engine::Set3rdPartyCableOptions(back, text), 0);
-  EXPECT_EQ(back.type, Engine::ZARVEK_PLUGIN);
-  EXPECT_EQ(back.modulename, "M");
-  EXPECT_EQ(back.modulearg, "a=1;b");
+  EXPECT_EQ(fields(back), std::make_tuple(5U, 0U, "", "", "", "M", "a=1;b", ""));
 }
 
 TEST(CallersCable, StaysUntouchedByATextThatIsNotUnderstood) {
@@ -315,46 +209,25 @@ TEST(CallersCable, StaysUntouchedWhenALoneDashThrows) {
 
 // --- A whole text ---
 
-TEST(CableInfo, TakesTheFirstFpgaForTheDebugDeviceThatTheTextLacks) {
+TEST(CableInfo, ReplacesCableChainPinsAndDebugDevice) {
   Parsed p;
   EXPECT_EQ(p.parse("-cable type zarvek_parallel3 -configdevice devicenr 1 partname p irlength 6 idcode 0x1 "
-                    "-configdevice devicenr 2 isfpga 1"),
+                    "-configdevice jtagport cpu devicenr 2 isfpga 1"),
             0);
-  EXPECT_EQ(p.cable.type, Engine::ZARVEK_PARALLEL3);
-  EXPECT_EQ(p.cable.port, "LPT1");
-  EXPECT_EQ(p.cable.frequency, 0U);
-  EXPECT_EQ(p.cable.esn, "");
-  EXPECT_EQ(p.cable.modulename, "");
+  EXPECT_EQ(fields(p.cable), std::make_tuple(4U, 0U, "LPT1", "", "", "", "", ""));
   ASSERT_EQ(p.chain.size(), 2U);
-  EXPECT_EQ(p.chain[0]->partname, "p");
-  EXPECT_EQ(p.chain[0]->irlength, 6);
-  EXPECT_EQ(p.chain[0]->idcode, 1U);
-  EXPECT_EQ(p.chain[1]->partname, "UNKNOWN");
-  EXPECT_EQ(p.cpuJtag, 0);
+  EXPECT_EQ(device_text(*p.chain[0]), "device{devicenr=1 partname=p irlength=6 idcode=1}");
+  EXPECT_EQ(device_text(*p.chain[1]), "device{devicenr=2 isfpga=1}");
+  EXPECT_EQ(p.cpuJtag, 1);
   EXPECT_EQ(p.debugDevice, 2);
-}
-
-TEST(CableInfo, TakesTheDebugDeviceOfTheTextBeforeAnyFpga) {
-  Parsed p;
-  EXPECT_EQ(p.parse("-cable type zarvek_parallel3 -configdevice devicenr 1 partname p irlength 6 idcode 0x1 "
-                    "-configdevice devicenr 2 isfpga 1 -debugdevice deviceNr 5"),
-            0);
-  EXPECT_EQ(p.chain.size(), 2U);
-  EXPECT_EQ(p.debugDevice, 5);
-}
-
-TEST(CableInfo, LeavesEverythingAsItWasOnAnUnknownOption) {
-  Parsed p;
-  EXPECT_EQ(p.parse("-cable type zarvek_tcf -configdevice devicenr 1 -foo"), 3);
-  p.expect_untouched();
 }
 
 // The leak checker sees the devices here.
 TEST(CableInfo, LeavesEverythingAsItWasOnAnyFailure) {
-  for (const char* const text :
-       {"word", "-cable type zarvek_plugin", "-configdevice jtagport cpu -configdevice devicenr", "-configdevice foo 1",
-        "-configdevice devicenr 1 -configdevice jtagport gpio", "-configdevice devicenr 1 -bscan USER5",
-        "-debugdevice deviceNr 3 foo 1"}) {
+  for (const char* const text : {"word", "-cable type zarvek_tcf -configdevice devicenr 1 -foo",
+                                 "-cable type zarvek_plugin", "-configdevice jtagport cpu -configdevice devicenr",
+                                 "-configdevice foo 1", "-configdevice devicenr 1 -configdevice jtagport gpio",
+                                 "-configdevice devicenr 1 -bscan USER5", "-debugdevice deviceNr 3 foo 1"}) {
     SCOPED_TRACE(text);
     Parsed p;
     EXPECT_EQ(p.parse(text), 3);
@@ -381,6 +254,7 @@ TEST(CableInfo, ResetsEverythingForAnEmptyText) {
   EXPECT_EQ(p.debugDevice, 0);
 }
 
+// The one of the text, else the first FPGA.
 TEST(CableInfo, FindsTheDebugDevice) {
   struct {
     const char* text;
@@ -391,6 +265,7 @@ TEST(CableInfo, FindsTheDebugDevice) {
       {"-configdevice devicenr 1 -configdevice devicenr 200 isfpga -1", -56},
       {"-configdevice isfpga 1 -configdevice devicenr 2 isfpga 1", 0},
       {"-configdevice devicenr 1 isfpga 256 -configdevice devicenr 2 isfpga 2", 2},
+      {"-configdevice devicenr 2 isfpga 1 -debugdevice deviceNr 5", 5},
       {"-debugdevice deviceNr 0 -configdevice devicenr 7 isfpga 1", 7},
       {"-debugdevice deviceNr 200 -configdevice devicenr 7 isfpga 1", -56},
       {"-debugdevice cpunr 9", 0},
@@ -401,13 +276,6 @@ TEST(CableInfo, FindsTheDebugDevice) {
     EXPECT_EQ(p.parse(row.text), 0);
     EXPECT_EQ(static_cast<signed char>(p.debugDevice), row.device);
   }
-}
-
-TEST(CableInfo, TellsWhetherTheProcessorsOwnPinsAreUsed) {
-  Parsed p;
-  EXPECT_EQ(p.parse("-configdevice jtagport cpu"), 0);
-  EXPECT_EQ(p.cpuJtag, 1);
-  EXPECT_EQ(p.chain.size(), 1U);
 }
 
 TEST(CableInfo, GivesTheDefaultFrequencyToACableAtTheEndOfTheText) {
@@ -524,17 +392,9 @@ TEST(CableCommand, ReadsItsOwnTextBackWithoutTheFpgaMark) {
   EXPECT_EQ(Engine::GenerateJtagCableCmdString(text, Engine::ZARVEK_PLATFORMUSB, 1234, "USB22", chain, 0), 0);
   Parsed p;
   EXPECT_EQ(p.parse(text), 0);
-  EXPECT_EQ(p.cable.type, Engine::ZARVEK_PLATFORMUSB);
-  EXPECT_EQ(p.cable.port, "USB22");
-  EXPECT_EQ(p.cable.frequency, 1234U);
+  EXPECT_EQ(fields(p.cable), std::make_tuple(3U, 1234U, "USB22", "", "", "", "", ""));
   ASSERT_EQ(p.chain.size(), 1U);
-  EXPECT_EQ(p.chain[0]->partname, "p");
-  EXPECT_EQ(p.chain[0]->idcode, 255U);
-  EXPECT_EQ(p.chain[0]->irlength, 6);
-  EXPECT_EQ(p.chain[0]->devicenr, 3);
-  EXPECT_EQ(p.chain[0]->isfpga, 0);
-  EXPECT_EQ(p.chain[0]->hardppc, 0);
-  EXPECT_EQ(p.chain[0]->nppc, 0);
+  EXPECT_EQ(device_text(*p.chain[0]), "device{devicenr=3 partname=p irlength=6 idcode=255}");
   EXPECT_EQ(p.debugDevice, 0);
 }
 

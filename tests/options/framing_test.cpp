@@ -4,12 +4,11 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "options/QvtOption_Parser.h"
 #include "tests/options/reading.h"
 #include "tests/options/work_folder.h"
 #include "tests/support/GlobalLocale.h"
@@ -17,22 +16,20 @@
 namespace SdkDebugDialog {
 namespace {
 
-constexpr char kOutOfRange[] = "basic_string::at: __n (which is 1) >= this->size() (which is 1)";
-
-int read_command(SelectedEngine& e, const std::string& command) {
-  return QvtOption_Parser::ReadQvtCommand(command, e.imp);
+int read_command(std::string& text, EngineImp& imp) {
+  return QvtOption_Parser::ReadQvtCommand(std::exchange(text, {}), imp);
 }
 
 // The same text from the option file of the processor "p".
-int read_file(SelectedEngine& e, const std::string& text) {
+int read_file(std::string& text, EngineImp& imp) {
   const WorkFolder folder;
-  WorkFolder::write(folder.option_file("p"), text);
-  return QvtOption_Parser::ReadQvtOptFile("p", e.imp);
+  WorkFolder::write(folder.option_file("p"), std::exchange(text, {}));
+  return QvtOption_Parser::ReadQvtOptFile("p", imp);
 }
 
 // --- Reading: heads and targets ---
 
-// A text, whether a command and an option file may hold it, and what it does to a fresh engine.
+// A text, the statuses as a command and as an option file, and what it changes where it is read.
 struct Framed {
   std::string text;
   int fromCommand;
@@ -41,21 +38,15 @@ struct Framed {
 };
 
 void expect_framed(const std::vector<Framed>& texts) {
-  for (const Framed& framed : texts) {
-    SCOPED_TRACE(framed.text);
-    SelectedEngine e;
-    EXPECT_EQ(read_command(e, framed.text), framed.fromCommand);
-    EXPECT_EQ(changes(e), framed.fromCommand == 0 ? framed.changes : "");
-    EXPECT_EQ(e.error(), "");
-    SelectedEngine f;
-    EXPECT_EQ(read_file(f, framed.text), framed.fromFile);
-    EXPECT_EQ(changes(f), framed.fromFile == 0 ? framed.changes : "");
-    EXPECT_EQ(f.error(), "");
+  for (const auto& [text, fromCommand, fromFile, changes] : texts) {
+    expect_reading(read_command, {text, fromCommand, fromCommand == 0 ? changes : ""});
+    expect_reading(read_file, {text, fromFile, fromFile == 0 ? changes : ""});
   }
 }
 
 TEST(Framing, AcceptsTheHeadsOfEachSource) {
   expect_framed({{"connect ov odm", 0, 0, "allowedConnections=3"},
+                 {"connect ov odm  \r", 0, 0, "allowedConnections=3"},
                  {"qconnect ov odm", 0, 3, "allowedConnections=3"},
                  {"vpconnect ov", 0, 0, "allowedConnections=9 connectionType=8"},
                  {"qvpconnect ov", 0, 3, "allowedConnections=9 connectionType=8"},
@@ -76,7 +67,10 @@ TEST(Framing, RefusesAnyOtherHeadWithoutAText) {
 }
 
 TEST(Framing, AcceptsTheTargetsOfEachSourceInAnyCase) {
+  const GlobalLocale classic;
   expect_framed({{"connect ov sim", 0, 0, "connectionType=1"},
+                 {"connect ppc sim", 0, 0, "procFamily=1 procVariant=6 connectionType=1"},
+                 {"CONNECT OV STUB -COMM SERIAL", 0, 0, "allowedConnections=5 connectionType=4 stubType=1"},
                  {"connect ppc hw", 0, 0, "procFamily=1 procVariant=6 allowedConnections=3"},
                  {"connect arm hw", 0, 0, "procFamily=2 procVariant=4 allowedConnections=3"},
                  {"connect r5 hw", 0, 0, "procFamily=2 procVariant=5 allowedConnections=3"},
@@ -116,69 +110,17 @@ TEST(Framing, RefusesAMissingOrUnknownTargetWithoutAText) {
 
 TEST(Framing, RefusesATextOfWhiteSpace) {
   expect_framed({{" ", 3, 3}, {"\t", 3, 3}, {"\r", 3, 3}, {" \v\f\r", 3, 3}});
-  SelectedEngine e;
-  EXPECT_EQ(read_command(e, ""), 3);
-  EXPECT_EQ(read_command(e, "\n"), 3);
-}
-
-TEST(Framing, ReadsCapitalsLikeSmallLetters) {
-  const GlobalLocale classic;
-  expect_framed({{"CONNECT OV STUB", 0, 0, "allowedConnections=5 connectionType=4"},
-                 {"connect ov stub", 0, 0, "allowedConnections=5 connectionType=4"},
-                 {"CONNECT OV STUB -COMM SERIAL", 0, 0, "allowedConnections=5 connectionType=4 stubType=1"}});
-}
-
-TEST(Framing, AcceptsACommandThatEndsWithTheConnection) {
-  expect_framed({{"connect ov odm", 0, 0, "allowedConnections=3"},
-                 {"connect ov odm  \r", 0, 0, "allowedConnections=3"},
-                 {"connect ov sim", 0, 0, "connectionType=1"},
-                 {"connect ppc sim", 0, 0, "procFamily=1 procVariant=6 connectionType=1"}});
+  expect_readings(read_command, {{"", 3}, {"\n", 3}});
 }
 
 TEST(Framing, AnswersNotUnderstoodWhereATargetFailsAndKeepsItsErrorText) {
   for (const auto& read : {read_command, read_file}) {
-    SelectedEngine e;
-    e.engine.SetErrorStr("an older text");
-    EXPECT_EQ(read(e, "connect ov odm -debugdevice deviceNr 2 -foo"), 3);
-    EXPECT_EQ(e.error(), "UNKNOWN Option ''");
-    EXPECT_EQ(changes(e), "debugDevice=2");
-    e.engine.SetErrorStr("an older text");
-    EXPECT_EQ(read(e, "connect ov odm -quiet 5"), 3);
-    EXPECT_EQ(e.error(), "an older text");
-    EXPECT_EQ(read(e, "connect mips"), 3);
-    EXPECT_EQ(e.error(), "an older text");
+    expect_readings(read,
+                    {{"connect ov odm -debugdevice deviceNr 2 -foo", 3, "debugDevice=2", Error("UNKNOWN Option ''")},
+                     {"connect ov odm -quiet -foo", 3, Error("UNKNOWN Option '-foo'")},
+                     {"connect ov odm -quiet 5", 3},
+                     {"connect mips", 3}});
   }
-}
-
-TEST(Framing, NamesTheScratchTokenForAnUnknownOption) {
-  SelectedEngine e;
-  e.processor.allowedConnections = 2;
-  EXPECT_EQ(read_command(e, "connect ov odm -foo"), 3);
-  EXPECT_EQ(e.error(), "UNKNOWN Option ''");
-  EXPECT_EQ(read_command(e, "connect ov odm -quiet -foo"), 3);
-  EXPECT_EQ(e.error(), "UNKNOWN Option '-foo'");
-}
-
-TEST(Framing, RefusesABareQconnectInAFileAndReadsItFromACommand) {
-  SelectedEngine e;
-  EXPECT_EQ(read_file(e, "qconnect ov odm -quiet"), 3);
-  EXPECT_EQ(read_command(e, "qconnect ov odm -quiet"), 0);
-}
-
-TEST(Framing, RefusesTheDebugModuleAsATargetInAFile) {
-  SelectedEngine e;
-  EXPECT_EQ(read_file(e, "connect odm"), 3);
-  EXPECT_EQ(e.processor.allowedConnections, 1U);
-  EXPECT_EQ(read_command(e, "connect odm"), 0);
-}
-
-TEST(Framing, ReadsTheOptionsThatChangeNothingAndNeverWritesThem) {
-  SelectedEngine e;
-  EXPECT_EQ(read_command(e, "connect ov odm -quiet -noattach -writeonly"), 0);
-  EXPECT_EQ(changes(e), "allowedConnections=3");
-  std::string command;
-  EXPECT_EQ(e.engine.GenerateCmdString(command), 0);
-  EXPECT_EQ(command, "connect ov odm -debugdevice cpunr 1");
 }
 
 TEST(Framing, KeepsTheTextThatWasReadWhateverCameOfIt) {
@@ -186,14 +128,14 @@ TEST(Framing, KeepsTheTextThatWasReadWhateverCameOfIt) {
     SCOPED_TRACE(testing::PrintToString(text));
     for (const auto& read : {read_command, read_file}) {
       SelectedEngine e;
-      e.processor.command = "an older command";
-      read(e, text);
+      std::string given = text;
+      read(given, e.imp);
       EXPECT_EQ(e.processor.command, text);
     }
   }
   SelectedEngine e;
   e.processor.command = "an older command";
-  EXPECT_EQ(read_command(e, ""), 3);
+  EXPECT_EQ(QvtOption_Parser::ReadQvtCommand("", e.imp), 3);
   EXPECT_EQ(e.processor.command, "");
 }
 
@@ -209,19 +151,24 @@ TEST(Framing, KeepsTheCommandWhereThereIsNoOptionFile) {
 }
 
 TEST(Framing, LetsALoneDashThrowAndKeepsTheText) {
-  for (const std::string text : {"-", "connect -", "connect ov -", "connect ov odm -", "connect ov odm -quiet - x",
-                                 "connect ov odm -cable port -", "vpconnect -", "connect ppc sim -"}) {
-    SCOPED_TRACE(text);
+  struct Row {
+    std::string text;
+    std::string changes;
+  };
+  for (const Row& row : {Row{"-", ""},
+                         {"connect -", ""},
+                         {"connect ov -", ""},
+                         {"connect ov odm -", ""},
+                         {"connect ov odm -quiet - x", ""},
+                         {"connect ov odm -cable port -", ""},
+                         {"vpconnect -", ""},
+                         {"connect ppc sim -", "procFamily=1 procVariant=6"}}) {
     for (const auto& read : {read_command, read_file}) {
+      expect_reading(read, {row.text, kThrows, row.changes});
       SelectedEngine e;
-      try {
-        read(e, text);
-        ADD_FAILURE() << "nothing was thrown";
-      } catch (const std::out_of_range& error) {
-        EXPECT_STREQ(error.what(), kOutOfRange);
-      }
-      EXPECT_EQ(e.processor.command, text);
-      EXPECT_EQ(e.error(), "");
+      std::string text = row.text;
+      EXPECT_THROW(read(text, e.imp), std::out_of_range);
+      EXPECT_EQ(e.processor.command, row.text);
     }
   }
 }
@@ -230,7 +177,7 @@ TEST(Framing, ReadsAndWritesAHundredThousandDevices) {
   std::string chain;
   for (int i = 0; i < 100000; ++i) chain += " -configdevice devicenr 1 partname p irlength 10 idcode 0x1";
   SelectedEngine e;
-  EXPECT_EQ(read_command(e, "connect ov odm" + chain), 0);
+  EXPECT_EQ(QvtOption_Parser::ReadQvtCommand("connect ov odm" + chain, e.imp), 0);
   std::string command;
   EXPECT_EQ(e.engine.GenerateCmdString(command), 0);
   EXPECT_EQ(e.imp.jtagChain.size(), 100000U);
@@ -239,19 +186,14 @@ TEST(Framing, ReadsAndWritesAHundredThousandDevices) {
 
 TEST(Framing, ReadsTokensOfAMegabyte) {
   const std::string token(1 << 20, 'x');
-  SelectedEngine e;
-  EXPECT_EQ(read_command(e, token), 3);
-  EXPECT_EQ(read_command(e, "connect " + token), 3);
-  EXPECT_EQ(read_command(e, "connect ov " + token), 3);
-  EXPECT_EQ(e.error(), "");
-  EXPECT_EQ(read_command(e, "connect ov odm -" + token), 3);
-  EXPECT_EQ(e.error(), "UNKNOWN Option ''");
-  EXPECT_EQ(read_command(e, "connect ov odm -debugdevice " + token + " 1"), 3);
-  EXPECT_EQ(e.error(), "UNKNOWN Parameter '" + token.substr(0, 2047 - 19));
-  EXPECT_EQ(read_command(e, "connect ov stub -comm serial -port " + token), 0);
-  std::string command;
-  EXPECT_EQ(e.engine.GenerateCmdString(command), 0);
-  EXPECT_TRUE(command == "connect ov stub -comm serial -port " + token + "  -baud  0 -timeout 20000");
+  expect_readings(read_command,
+                  {{token, 3},
+                   {"connect " + token, 3},
+                   {"connect ov " + token, 3},
+                   {"connect ov odm -" + token, 3, Error("UNKNOWN Option ''")},
+                   {"connect ov odm -debugdevice " + token + " 1", 3, cut_error("UNKNOWN Parameter '" + token)},
+                   {"connect ov stub -comm serial -port " + token, 0,
+                    "allowedConnections=5 connectionType=4 stubType=1 stubSerialPort=" + token}});
 }
 
 // --- Through the engine ---
@@ -288,8 +230,6 @@ TEST(Framing, IsReachedBySelectingAProcessor) {
 
 // --- Writing ---
 
-using Setup = std::function<void(SelectedEngine&)>;
-
 // A cable, a chain and a debug device, so that every group of a text has something to write.
 void connect_everything(SelectedEngine& e) {
   e.imp.cable->CableOptionInit(Engine::ZARVEK_PLATFORMUSB);
@@ -310,14 +250,14 @@ const std::string kChain =
     "-configdevice devicenr 1 partname part irlength 10 idcode 0xa001093";
 
 // A selected connection and the whole text that it is written as.
-struct Writing {
+struct Connection {
   std::uint32_t family;
   std::uint32_t connection;
   std::string text;
-  Setup prepare = {};
+  Prepare prepare = {};
 };
 
-const std::vector<Writing> kWritten = {
+const std::vector<Connection> kWritten = {
     // The soft processor.
     {0, 1, "connect ov sim"},
     {0, 4, "connect ov stub -comm jtag" + kChain + " -debugdevice deviceNr 2"},
@@ -373,54 +313,42 @@ const std::vector<Writing> kWritten = {
      }},
 };
 
-void prepare(SelectedEngine& e, const Writing& writing) {
+void prepare(SelectedEngine& e, const Connection& connection) {
   connect_everything(e);
   e.processor.name = "p";
-  e.processor.procFamily = writing.family;
-  e.processor.connectionType = writing.connection;
-  if (writing.prepare) writing.prepare(e);
+  e.processor.procFamily = connection.family;
+  e.processor.connectionType = connection.connection;
+  if (connection.prepare) connection.prepare(e);
 }
 
 TEST(Framing, WritesEverySelectedConnectionAsAWholeText) {
-  for (const Writing& writing : kWritten) {
-    SCOPED_TRACE(writing.text);
+  for (const Connection& connection : kWritten) {
+    SCOPED_TRACE(connection.text);
     SelectedEngine e;
-    prepare(e, writing);
+    prepare(e, connection);
     e.engine.SetErrorStr("an older text");
     std::string command = "before";
     EXPECT_EQ(QvtOption_Parser::WriteQvtCmdString(e.imp, command), 0);
-    EXPECT_EQ(command, writing.text);
-    EXPECT_EQ(e.processor.command, writing.text);
+    EXPECT_EQ(command, connection.text);
+    EXPECT_EQ(e.processor.command, connection.text);
     EXPECT_EQ(e.error(), "an older text");
   }
 }
 
 TEST(Framing, WritesTheCommandTextAndNothingElseToTheOptionFile) {
-  for (const Writing& writing : kWritten) {
-    SCOPED_TRACE(writing.text);
+  for (const Connection& connection : kWritten) {
+    SCOPED_TRACE(connection.text);
     const WorkFolder folder;
     SelectedEngine e;
-    prepare(e, writing);
+    prepare(e, connection);
     EXPECT_EQ(e.engine.Generate(), 0);
-    EXPECT_EQ(WorkFolder::read(folder.option_file("p")), writing.text);
-    EXPECT_EQ(e.processor.command, writing.text);
+    EXPECT_EQ(WorkFolder::read(folder.option_file("p")), connection.text);
+    EXPECT_EQ(e.processor.command, connection.text);
     EXPECT_EQ(e.error(), "");
     std::string command;
     EXPECT_EQ(e.engine.GenerateCmdString(command), 0);
-    EXPECT_EQ(command, writing.text);
+    EXPECT_EQ(command, connection.text);
   }
-}
-
-TEST(Framing, WritesAnArmProcessorWithTheTargetOfThePowerPc) {
-  SelectedEngine e;
-  EXPECT_EQ(read_command(e,
-                         "connect arm hw -configdevice devicenr 1 partname p irlength 4 idcode 0x1 -debugdevice "
-                         "deviceNr 2"),
-            0);
-  std::string command;
-  EXPECT_EQ(e.engine.GenerateCmdString(command), 0);
-  EXPECT_EQ(command,
-            "connect ppc hw -configdevice devicenr 1 partname p irlength 4 idcode 0x1 -debugdevice deviceNr 2 cpunr 1");
 }
 
 // A selected connection that cannot be written, and the text that tells so; empty: none does.
@@ -493,63 +421,6 @@ TEST(Framing, WritesNothingWithoutASelectedProcessor) {
   EXPECT_EQ(command, "before");
   EXPECT_EQ(engine.Generate(), 1);
   EXPECT_TRUE(WorkFolder::list(folder.path() / "etc").empty());
-}
-
-TEST(Framing, HandsTheCommandOutInPlaceOfWhatTheCallersTextHeld) {
-  SelectedEngine e;
-  std::string command = "before";
-  EXPECT_EQ(e.engine.GenerateCmdString(command), 0);
-  EXPECT_EQ(command, "connect ov odm -debugdevice cpunr 1");
-  EXPECT_EQ(e.processor.command, "connect ov odm -debugdevice cpunr 1");
-}
-
-// --- Read and written again ---
-
-TEST(Framing, WritesWhatAnotherEngineReadAsExpected) {
-  struct Row {
-    std::string read;
-    std::string written;
-  };
-  const std::vector<Row> rows = {
-      {"connect ov sim -memsize 0x100", "connect ov sim"},
-      {"CONNECT OV STUB -comm serial -port COM1 -baud 0x1C200 -timeout 5",
-       "connect ov stub -comm serial -port COM1  -baud  115200 -timeout 5"},
-      {"connect ov stub -comm serial -port COM1  -baud  115200 -timeout 5",
-       "connect ov stub -comm serial -port COM1  -baud  115200 -timeout 5"},
-      {"connect ov stub", "connect ov stub -comm jtag"},
-      {"connect ov odm -cable type zarvek_platformusb port USB21 frequency 6000000 -debugdevice deviceNr 2 cpunr 1",
-       "connect ov odm -cable type zarvek_platformusb port USB21 frequency 6000000 -debugdevice deviceNr 2 cpunr 1"},
-      {"connect ov odm -debugdevice deviceNr 2 -pfsl port 1 type ms -bscan USER1 -cable type zarvek_parallel3",
-       "connect ov odm -cable type zarvek_parallel3 port LPT1 frequency 200000 -bscan USER1 -debugdevice deviceNr 2 "
-       "cpunr 1"},
-      {"connect ov odm -bscan USER4", "connect ov odm -debugdevice cpunr 1"},
-      {"connect ppc sim -icf a.cfg -ipcport :7000 -debugdevice deviceNr 2", "connect ppc sim -icf a.cfg"},
-      {"connect ppc sim -ipcport :7000", "connect ppc sim -ipcport localhost:7000"},
-      {"connect ppc sim -ipcport host1", "connect ppc sim"},
-      {"connect ppc hw -debugdevice proctype ppc405 isocmStartAdr 0xFFFF8000 isocmSize 0x8000 isocmDcrStartAdr 0x40 "
-       "icacheStartAdr 0x70000000 deviceNr 2",
-       "connect ppc hw -debugdevice deviceNr 2 cpunr 1 isocmStartAdr 0xffff8000 isocmSize 32768  isocmDcrStartAdr 0x40 "
-       "icacheStartAdr 0x70000000"},
-      {"connect arm hw", "connect ppc hw -debugdevice cpunr 1"},
-      {"connect r5 hw -quiet", "connect ppc hw -debugdevice cpunr 1"},
-      {"connect dap hw", "connect ppc hw -debugdevice cpunr 1"},
-      {"connect dcc -uart", "connect ppc hw -debugdevice cpunr 1"},
-      {"connect odm -uart -bscan USER1", "connect ov odm -bscan USER1 -debugdevice cpunr 1"},
-      {"connect qmtc", "connect ov odm -debugdevice cpunr 1"},
-      {"vpconnect ov -config cycle_approximate", "vpconnect ov -config cycle_approximate"},
-      {"qvpconnect ov -ipcport :7000", "vpconnect ov -ipcportlocalhost7000"},
-      {"vpconnect OV -ipcport 7000", "vpconnect ov"},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.read);
-    SelectedEngine e;
-    EXPECT_EQ(read_command(e, row.read), 0);
-    EXPECT_EQ(e.processor.command, row.read);
-    std::string command;
-    EXPECT_EQ(e.engine.GenerateCmdString(command), 0);
-    EXPECT_EQ(command, row.written);
-    EXPECT_EQ(e.processor.command, row.written);
-  }
 }
 
 }  // namespace

@@ -1,456 +1,219 @@
+// The JTAG chain, and texts of cable and chain alone.
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <stdexcept>
 #include <string>
-#include <vector>
+#include <utility>
 
-#include "options/QvtOption_Parser.h"
+#include "tests/options/reading.h"
+#include "tests/options/writing.h"
 #include "tests/support/GlobalLocale.h"
-#include "tests/support/SelectedEngine.h"
 
+namespace SdkDebugDialog {
 namespace {
 
-using SdkDebugDialog::Engine;
-using SdkDebugDialog::JtagOption;
-using SdkDebugDialog::newoption_token;
-using SdkDebugDialog::QvtOption_Parser;
+using namespace std::string_literals;
 
-// Reads what follows "-configdevice": 1 the next option began, 2 an error, 3 the end of the text.
-int read(SelectedEngine& e, std::string text) { return QvtOption_Parser::parse_configdevice(text, e.imp); }
-
-// Reads a text of cable and chain alone: 0, or 3 when it is not understood.
-int read_all(SelectedEngine& e, std::string text) { return QvtOption_Parser::ReadJtagCableOptions(text, e.imp); }
-
-// An error text from before, to see whether a reader stores one of its own.
-constexpr const char* kBefore = "from before";
+JtagOption& add_device(SelectedEngine& e) {
+  e.imp.jtagChain.push_back(new JtagOption);
+  return *e.imp.jtagChain.back();
+}
 
 // --- Reading one device ---
 
-TEST(DeviceReading, AppendsOneRecordThatIsWrittenBackInLowerCaseHexadecimal) {
-  SelectedEngine e;
-  EXPECT_EQ(read(e, "devicenr 2 partname p irlength 10 idcode 0x0A001093"), 3);
-  ASSERT_EQ(e.imp.jtagChain.size(), 1U);
-  std::string out;
-  EXPECT_EQ(QvtOption_Parser::write_jtagoptions(out, e.imp), 0);
-  EXPECT_EQ(out, " -configdevice devicenr 2 partname p irlength 10 idcode 0xa001093");
-}
-
-TEST(DeviceReading, KeepsANumberOf200AsASignedByteAndWritesItSo) {
-  SelectedEngine e;
-  EXPECT_EQ(read(e, "DeviceNr 200"), 3);
-  ASSERT_EQ(e.imp.jtagChain.size(), 1U);
-  EXPECT_EQ(e.imp.jtagChain[0]->devicenr, -56);
-  std::string out;
-  EXPECT_EQ(QvtOption_Parser::write_jtagoptions(out, e.imp), 0);
-  EXPECT_EQ(out, " -configdevice devicenr -56 partname UNKNOWN irlength 0 idcode 0x0");
-}
-
-TEST(DeviceReading, TellsThePpc405FromEveryOtherHardPowerPC) {
-  struct {
-    const char* value;
-    int kind;
-  } const rows[] = {{"PPC405", 1}, {"ppc405", 1}, {"ppc440", 2}, {"ppc40", 2}, {"none", 2}, {"0", 2}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.value);
-    SelectedEngine e;
-    EXPECT_EQ(read(e, std::string("hardppc ") + row.value), 3);
-    ASSERT_EQ(e.imp.jtagChain.size(), 1U);
-    EXPECT_EQ(e.imp.jtagChain[0]->hardppc, row.kind);
-  }
-}
-
-TEST(DeviceReading, RefusesTheFormInWhichTheProcessorsOwnPinsAreWritten) {
-  SelectedEngine e;
-  EXPECT_EQ(read(e, "jtagpin cpujtag"), 2);
-  EXPECT_EQ(e.error(), "UNKNOWN Parameter 'jtagpin' for option '-configDevice'");
-  EXPECT_TRUE(e.imp.jtagChain.empty());
-  EXPECT_EQ(e.imp.cpuJtag, 0);
-}
-
-TEST(DeviceReading, RefusesAnyOtherPortThanTheProcessorsWithoutATextAndForgetsThePins) {
-  SelectedEngine e;
-  e.imp.cpuJtag = 1;
-  e.imp.errorStr = kBefore;
-  EXPECT_EQ(read(e, "devicenr 1 jtagport gpio"), 2);
-  EXPECT_EQ(e.imp.cpuJtag, 0);
-  EXPECT_TRUE(e.imp.jtagChain.empty());
-  EXPECT_EQ(e.error(), kBefore);
-}
-
-TEST(DeviceReading, AddsAnUnknownDeviceForTheProcessorsOwnPins) {
-  for (const char* const text : {"jtagport cpu", "JtagPort CPU"}) {
-    SCOPED_TRACE(text);
-    SelectedEngine e;
-    EXPECT_EQ(read(e, text), 3);
-    EXPECT_EQ(e.imp.cpuJtag, 1);
-    ASSERT_EQ(e.imp.jtagChain.size(), 1U);
-    EXPECT_EQ(e.imp.jtagChain[0]->partname, "UNKNOWN");
-  }
-}
-
-TEST(DeviceReading, AddsADeviceOfDefaultsForAnOptionWithoutPairs) {
-  for (const char* const text : {"", "-quiet"}) {
-    SCOPED_TRACE(text);
-    SelectedEngine e;
-    EXPECT_EQ(read(e, text), *text == '\0' ? 3 : 1);
-    ASSERT_EQ(e.imp.jtagChain.size(), 1U);
-    const JtagOption& device = *e.imp.jtagChain[0];
-    EXPECT_EQ(device.partname, "UNKNOWN");
-    EXPECT_EQ(device.idcode, 0U);
-    EXPECT_EQ(device.irlength, 0);
-    EXPECT_EQ(device.devicenr, 0);
-    EXPECT_EQ(device.isfpga, 0);
-    EXPECT_EQ(device.hardppc, 0);
-    EXPECT_EQ(device.nppc, 0);
-  }
-}
+const Reader kReadDevice = QvtOption_Parser::parse_configdevice;
 
 TEST(DeviceReading, KnowsEveryKeywordInAnyCase) {
   const GlobalLocale classic;
-  SelectedEngine e;
-  EXPECT_EQ(read(e, "JTAGport Cpu DEVICEnr 1 IdCode 0xFF IRLength 6 PartName Zd4Qa IsFPGA 1 HardPPC Ppc405 nPPC 2"), 3);
-  ASSERT_EQ(e.imp.jtagChain.size(), 1U);
-  const JtagOption& device = *e.imp.jtagChain[0];
-  EXPECT_EQ(e.imp.cpuJtag, 1);
-  EXPECT_EQ(device.devicenr, 1);
-  EXPECT_EQ(device.idcode, 255U);
-  EXPECT_EQ(device.irlength, 6);
-  EXPECT_EQ(device.partname, "Zd4Qa");
-  EXPECT_EQ(device.isfpga, 1);
-  EXPECT_EQ(device.hardppc, 1);
-  EXPECT_EQ(device.nppc, 2);
+  expect_readings(kReadDevice,
+                  {{"DEVICEnr 1", 3, "device{devicenr=1}"},
+                   {"PartName Zd4Qa", 3, "device{partname=Zd4Qa}"},
+                   {"IRLength 6", 3, "device{irlength=6}"},
+                   {"IdCode 0xFF", 3, "device{idcode=255}"},
+                   {"JTAGport Cpu", 3, "cpuJtag=1 device{}"},
+                   {"IsFPGA 1", 3, "device{isfpga=1}"},
+                   {"HardPPC Ppc405", 3, "device{hardppc=1}"},
+                   {"nPPC 2", 3, "device{nppc=2}"},
+                   {"jtagport cpu devicenr 1 idcode 0xFF irlength 6 partname p isfpga 1 hardppc x nppc 2", 3,
+                    "cpuJtag=1 device{devicenr=1 partname=p irlength=6 idcode=255 isfpga=1 hardppc=2 "
+                    "nppc=2}"}});
 }
 
-TEST(DeviceReading, CutsSmallNumbersToSignedBytes) {
-  struct {
-    const char* keyword;
-    std::int8_t JtagOption::*field;
-  } const fields[] = {{"devicenr", &JtagOption::devicenr},
-                      {"irlength", &JtagOption::irlength},
-                      {"isfpga", &JtagOption::isfpga},
-                      {"nppc", &JtagOption::nppc}};
-  struct {
-    const char* value;
-    int number;
-  } const values[] = {{"5", 5},      {"127", 127}, {"128", -128}, {"200", -56}, {"256", 0},
-                      {"0x1FF", -1}, {"010", 8},   {"09", 0},     {"-1", -1},   {"-129", 127},
-                      {"12x", 12},   {"many", 0},  {"0x", 0},     {"+7", 7},    {"99999999999999999999", -1}};
-  for (const auto& row : fields) {
-    for (const auto& [value, number] : values) {
-      SCOPED_TRACE(std::string(row.keyword) + " " + value);
-      SelectedEngine e;
-      EXPECT_EQ(read(e, std::string(row.keyword) + " " + value), 3);
-      ASSERT_EQ(e.imp.jtagChain.size(), 1U);
-      for (const auto& other : fields) {
-        EXPECT_EQ(e.imp.jtagChain[0]->*other.field, other.field == row.field ? number : 0);
-      }
-    }
-  }
+// Hexadecimal, longer than the field, and beyond 64 bits, where numbers read as signed end up otherwise.
+TEST(DeviceReading, CutsNumbersToTheirFields) {
+  expect_readings(kReadDevice, {{"devicenr 0x1C8", 3, "device{devicenr=-56}"},
+                                {"devicenr -99999999999999999999", 3, "device{devicenr=-1}"},
+                                {"irlength 0x1C8", 3, "device{irlength=-56}"},
+                                {"irlength -99999999999999999999", 3, "device{irlength=-1}"},
+                                {"isfpga 0x1C8", 3, "device{isfpga=-56}"},
+                                {"isfpga -99999999999999999999", 3, "device{isfpga=-1}"},
+                                {"nppc 0x1C8", 3, "device{nppc=-56}"},
+                                {"nppc -99999999999999999999", 3, "device{nppc=-1}"},
+                                {"idcode 0x123456789", 3, "device{idcode=591751049}"},
+                                {"idcode -99999999999999999999", 3, "device{idcode=4294967295}"}});
 }
 
-TEST(DeviceReading, CutsTheIdcodeTo32Bits) {
-  struct {
-    const char* value;
-    std::uint32_t idcode;
-  } const rows[] = {{"0x0A001093", 0x0A001093},
-                    {"4294967295", 0xFFFFFFFFU},
-                    {"4294967296", 0},
-                    {"0x123456789", 0x23456789U},
-                    {"-1", 0xFFFFFFFFU},
-                    {"017", 15},
-                    {"idcode", 0},
-                    {"0xG", 0},
-                    {"99999999999999999999", 0xFFFFFFFFU}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.value);
-    SelectedEngine e;
-    EXPECT_EQ(read(e, std::string("idcode ") + row.value), 3);
-    ASSERT_EQ(e.imp.jtagChain.size(), 1U);
-    EXPECT_EQ(e.imp.jtagChain[0]->idcode, row.idcode);
-  }
+TEST(DeviceReading, TellsThePpc405FromEveryOtherHardPowerPC) {
+  expect_readings(kReadDevice, {{"hardppc PPC405", 3, "device{hardppc=1}"},
+                                {"hardppc ppc405", 3, "device{hardppc=1}"},
+                                {"hardppc ppc440", 3, "device{hardppc=2}"},
+                                {"hardppc ppc40", 3, "device{hardppc=2}"},
+                                {"hardppc none", 3, "device{hardppc=2}"},
+                                {"hardppc 0", 3, "device{hardppc=2}"}});
+}
+
+TEST(DeviceReading, RefusesTheFormInWhichTheProcessorsOwnPinsAreWritten) {
+  expect_reading(kReadDevice, {"jtagpin cpujtag", 2, Error("UNKNOWN Parameter 'jtagpin' for option '-configDevice'")});
+}
+
+TEST(DeviceReading, RefusesAnyOtherPortThanTheProcessorsWithoutATextAndForgetsThePins) {
+  expect_reading(kReadDevice, {"devicenr 1 jtagport gpio irlength 3", 2, "cpuJtag=0", Rest(" irlength 3")},
+                 [](SelectedEngine& e) { e.imp.cpuJtag = 1; });
+}
+
+TEST(DeviceReading, AddsADeviceOfDefaultsForAnOptionWithoutPairs) {
+  expect_readings(kReadDevice, {{"", 3, "device{}"}, {"-quiet", 1, "device{}", LastOption("-quiet")}});
 }
 
 TEST(DeviceReading, TakesPartNamesAsTheyAre) {
-  for (const std::string& name : {std::string("Xy%s%n%d"), std::string("-5"), std::string(5000, 'p')}) {
-    SCOPED_TRACE(name);
-    SelectedEngine e;
-    EXPECT_EQ(read(e, "partname " + name), 3);
-    ASSERT_EQ(e.imp.jtagChain.size(), 1U);
-    EXPECT_EQ(e.imp.jtagChain[0]->partname, name);
+  for (const std::string& name : {"Xy%s%n%d"s, "-5"s, std::string(5000, 'p')}) {
+    expect_reading(kReadDevice, {"partname " + name, 3, "device{partname=" + name + "}"});
   }
 }
 
 TEST(DeviceReading, LetsTheLastOfEqualKeywordsWin) {
-  SelectedEngine e;
-  EXPECT_EQ(read(e, "devicenr 1 partname a devicenr 2 partname b hardppc ppc405 hardppc x"), 3);
-  ASSERT_EQ(e.imp.jtagChain.size(), 1U);
-  EXPECT_EQ(e.imp.jtagChain[0]->devicenr, 2);
-  EXPECT_EQ(e.imp.jtagChain[0]->partname, "b");
-  EXPECT_EQ(e.imp.jtagChain[0]->hardppc, 2);
+  expect_reading(kReadDevice, {"devicenr 1 partname a devicenr 2 partname b hardppc ppc405 hardppc x", 3,
+                               "device{devicenr=2 partname=b hardppc=2}"});
 }
 
 TEST(DeviceReading, NamesAnUnknownKeywordAsItWasTypedAndDropsTheDevice) {
-  struct {
-    const char* text;
-    const char* error;
-  } const rows[] = {
-      {"Device 1", "UNKNOWN Parameter 'Device' for option '-configDevice'"},
-      {"devicenr 1 devicenrs 2", "UNKNOWN Parameter 'devicenrs' for option '-configDevice'"},
-      {"type zarvek_tcf", "UNKNOWN Parameter 'type' for option '-configDevice'"},
-      {"%s%n 1", "UNKNOWN Parameter '%s%n' for option '-configDevice'"},
-      {"7 1", "UNKNOWN Parameter '7' for option '-configDevice'"},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.text);
-    SelectedEngine e;
-    EXPECT_EQ(read(e, row.text), 2);
-    EXPECT_EQ(e.error(), row.error);
-    EXPECT_TRUE(e.imp.jtagChain.empty());
-  }
+  expect_readings(kReadDevice,
+                  {{"Device 1", 2, Error("UNKNOWN Parameter 'Device' for option '-configDevice'")},
+                   {"devicenr 1 devicenrs 2 irlength 3", 2,
+                    Error("UNKNOWN Parameter 'devicenrs' for option '-configDevice'"), Rest(" irlength 3")},
+                   {"type zarvek_tcf", 2, Error("UNKNOWN Parameter 'type' for option '-configDevice'")},
+                   {"%s%n 1", 2, Error("UNKNOWN Parameter '%s%n' for option '-configDevice'")},
+                   {"7 1", 2, Error("UNKNOWN Parameter '7' for option '-configDevice'")},
+                   {std::string(5000, 'k') + " 1", 2, cut_error("UNKNOWN Parameter '" + std::string(5000, 'k'))}});
 }
 
 TEST(DeviceReading, KeepsThePinsThatARefusedDeviceNamed) {
-  SelectedEngine e;
-  EXPECT_EQ(read(e, "jtagport cpu foo 1"), 2);
-  EXPECT_EQ(e.imp.cpuJtag, 1);
-  EXPECT_TRUE(e.imp.jtagChain.empty());
-}
-
-TEST(DeviceReading, CutsTheErrorTextAfter2047Characters) {
-  SelectedEngine e;
-  EXPECT_EQ(read(e, std::string(5000, 'k') + " 1"), 2);
-  EXPECT_EQ(e.error(), ("UNKNOWN Parameter '" + std::string(5000, 'k')).substr(0, 2047));
+  expect_reading(kReadDevice,
+                 {"jtagport cpu foo 1", 2, "cpuJtag=1", Error("UNKNOWN Parameter 'foo' for option '-configDevice'")});
 }
 
 TEST(DeviceReading, AddsADeviceWhoseLastKeywordLacksItsValue) {
-  for (const char* const text : {"devicenr 3 partname", "devicenr 3 partname -quiet"}) {
-    SCOPED_TRACE(text);
-    SelectedEngine e;
-    e.imp.errorStr = kBefore;
-    EXPECT_EQ(read(e, text), 2);
-    EXPECT_EQ(e.error(), kBefore);
-    ASSERT_EQ(e.imp.jtagChain.size(), 1U);
-    EXPECT_EQ(e.imp.jtagChain[0]->devicenr, 3);
-    EXPECT_EQ(e.imp.jtagChain[0]->partname, "UNKNOWN");
-  }
+  expect_readings(kReadDevice, {{"devicenr", 2, "device{}"},
+                                {"devicenr 3 partname", 2, "device{devicenr=3}"},
+                                {"devicenr 3 partname -Quiet irlength 3", 2, "device{devicenr=3}", Rest(" irlength 3"),
+                                 LastOption("-Quiet")}});
 }
 
 TEST(DeviceReading, AppendsBehindTheDevicesThatAreThereAndKeepsThemOnAnError) {
   SelectedEngine e;
-  EXPECT_EQ(read(e, "devicenr 1"), 3);
-  const JtagOption* const first = e.imp.jtagChain.at(0);
-  EXPECT_EQ(read(e, "devicenr 2"), 3);
-  EXPECT_EQ(read(e, "devicenr 3 foo 1"), 2);
-  ASSERT_EQ(e.imp.jtagChain.size(), 2U);
+  const JtagOption* const first = &add_device(e);
+  std::string text = "devicenr 2";
+  EXPECT_EQ(QvtOption_Parser::parse_configdevice(text, e.imp), 3);
+  text = "devicenr 3 foo 1";
+  EXPECT_EQ(QvtOption_Parser::parse_configdevice(text, e.imp), 2);
+  EXPECT_EQ(changes(e), "device{} device{devicenr=2}");
   EXPECT_EQ(e.imp.jtagChain[0], first);
-  EXPECT_EQ(e.imp.jtagChain[0]->devicenr, 1);
-  EXPECT_EQ(e.imp.jtagChain[1]->devicenr, 2);
 }
 
-TEST(DeviceReading, LeavesInTheTextWhatItDidNotConsume) {
-  struct {
-    const char* text;
-    int status;
-    const char* left;
-  } const rows[] = {
-      {"", 3, ""},
-      {"devicenr 1 \r\n", 3, ""},
-      {"devicenr\t1\t-Cable type x", 1, " type x"},
-      {"devicenr 1 foo 2 irlength 3", 2, " irlength 3"},
-      {"jtagport gpio irlength 3", 2, " irlength 3"},
-      {"devicenr -quiet irlength 3", 2, " irlength 3"},
-      {"devicenr", 2, ""},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.text);
-    SelectedEngine e;
-    std::string text = row.text;
-    EXPECT_EQ(QvtOption_Parser::parse_configdevice(text, e.imp), row.status);
-    EXPECT_EQ(text, row.left);
-  }
-}
-
-TEST(DeviceReading, HandsTheNextOptionOverAsItWasTyped) {
-  SelectedEngine e;
-  EXPECT_EQ(read(e, "devicenr 1 -Cable"), 1);
-  EXPECT_EQ(newoption_token, "-Cable");
-  EXPECT_EQ(read(e, "devicenr -Quiet"), 2);
-  EXPECT_EQ(newoption_token, "-Quiet");
+TEST(DeviceReading, EndsWithWhatEndedItsPairs) {
+  expect_readings(kReadDevice,
+                  {{"devicenr 1 \r\n", 3, "device{devicenr=1}"},
+                   {"devicenr\t1\t-Cable type x", 1, "device{devicenr=1}", Rest(" type x"), LastOption("-Cable")}});
 }
 
 TEST(DeviceReading, ThrowsOnALoneDashAndAddsNothing) {
-  for (const char* const text : {"devicenr 1 - 2", "devicenr - 2"}) {
-    SCOPED_TRACE(text);
-    SelectedEngine e;
-    std::string rest = text;
-    EXPECT_THROW(QvtOption_Parser::parse_configdevice(rest, e.imp), std::out_of_range);
-    EXPECT_EQ(rest, " 2");
-    EXPECT_TRUE(e.imp.jtagChain.empty());
-  }
+  expect_readings(kReadDevice, {{"devicenr 1 - 2", kThrows, Rest(" 2")}, {"devicenr - 2", kThrows, Rest(" 2")}});
 }
 
 // --- Reading cable and chain alone ---
 
-TEST(CableAndChainReading, AcceptsAnEmptyText) {
-  for (const char* const text : {"", " \t\r\n"}) {
-    SelectedEngine e;
-    e.imp.errorStr = kBefore;
-    EXPECT_EQ(read_all(e, text), 0);
-    EXPECT_EQ(e.error(), kBefore);
-    EXPECT_EQ(e.imp.cable->type, Engine::CABLE_NONE);
-  }
-}
+const Reader kReadAll = QvtOption_Parser::ReadJtagCableOptions;
+
+TEST(CableAndChainReading, AcceptsAnEmptyText) { expect_readings(kReadAll, {{"", 0}, {" \t\r\n", 0}}); }
 
 TEST(CableAndChainReading, RefusesATextThatDoesNotBeginWithAnOptionWithoutAText) {
-  for (const char* const text : {"cable type x", "-5", "connect ov odm"}) {
-    SCOPED_TRACE(text);
-    SelectedEngine e;
-    e.imp.errorStr = kBefore;
-    EXPECT_EQ(read_all(e, text), 3);
-    EXPECT_EQ(e.error(), kBefore);
-  }
-}
-
-TEST(CableAndChainReading, RefusesAnUnknownFirstOptionWithAnEmptyName) {
-  SelectedEngine e;
-  EXPECT_EQ(read_all(e, "-foo"), 3);
-  EXPECT_EQ(e.error(), "UNKNOWN Option ''");
+  expect_readings(
+      kReadAll,
+      {{"cable -cable port p", 3, Rest(" -cable port p")}, {"-5", 3}, {"connect ov odm", 3, Rest(" ov odm")}});
 }
 
 TEST(CableAndChainReading, NamesInPlaceOfAnUnknownOptionTheTokenAfterTheLastRegister) {
-  struct {
-    const char* text;
-    const char* error;
-  } const rows[] = {
-      {"-cable type zarvek_tcf -foo", "UNKNOWN Option ''"},
-      {"-bscan USER1 -foo", "UNKNOWN Option '-foo'"},
-      {"-bscan USER1 -Cable type zarvek_tcf -foo", "UNKNOWN Option '-Cable'"},
-      {"-bscan USER1 -configdevice -bscan USER2 -debugdevice deviceNr 1 -foo", "UNKNOWN Option '-debugdevice'"},
-      {"-bscan USER1 -%s%n", "UNKNOWN Option '-%s%n'"},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.text);
-    SelectedEngine e;
-    EXPECT_EQ(read_all(e, row.text), 3);
-    EXPECT_EQ(e.error(), row.error);
-  }
+  expect_readings(kReadAll, {{"-foo -cable port p", 3, Error("UNKNOWN Option ''"), Rest(" -cable port p")},
+                             {"-cable type zarvek_tcf -foo", 3, "cable.type=7", Error("UNKNOWN Option ''")},
+                             {"-bscan USER1 -foo", 3, "bscanPort=2", Error("UNKNOWN Option '-foo'")},
+                             {"-bscan USER1 -Cable type zarvek_tcf -foo", 3, "bscanPort=2 cable.type=7",
+                              Error("UNKNOWN Option '-Cable'")},
+                             {"-bscan USER1 -configdevice -bscan USER2 -debugdevice deviceNr 1 -foo", 3,
+                              "debugDevice=1 device{}", Error("UNKNOWN Option '-debugdevice'")},
+                             {"-bscan USER1 -%s%n", 3, "bscanPort=2", Error("UNKNOWN Option '-%s%n'")},
+                             {"-bscan USER1 -" + std::string(5000, 'k'), 3, "bscanPort=2",
+                              cut_error("UNKNOWN Option '-" + std::string(5000, 'k'))}});
 }
 
 TEST(CableAndChainReading, DoesNotKnowTheOptionsOfAConnectCommand) {
-  for (const char* const option :
+  for (const std::string option :
        {"-quiet", "-noattach", "-writeonly", "-pfsl", "-comm", "-port", "-baud", "-timeout", "-sim", "-uart"}) {
-    SCOPED_TRACE(option);
-    SelectedEngine e;
-    EXPECT_EQ(read_all(e, option), 3);
-    EXPECT_EQ(e.error(), "UNKNOWN Option ''");
+    expect_reading(kReadAll, {option, 3, Error("UNKNOWN Option ''")});
   }
-}
-
-TEST(CableAndChainReading, CutsTheErrorTextAfter2047Characters) {
-  SelectedEngine e;
-  EXPECT_EQ(read_all(e, "-bscan USER1 -" + std::string(5000, 'k')), 3);
-  EXPECT_EQ(e.error(), ("UNKNOWN Option '-" + std::string(5000, 'k')).substr(0, 2047));
 }
 
 TEST(CableAndChainReading, ReadsAllFourOptionsInAnyCaseAndOrder) {
-  SelectedEngine e;
-  EXPECT_EQ(read_all(e,
-                     "-ConfigDevice devicenr 1 -BSCAN user4 -DebugDevice deviceNr 7 -configdevice devicenr 2 "
-                     "-CABLE type zarvek_parallel3"),
-            0);
-  ASSERT_EQ(e.imp.jtagChain.size(), 2U);
-  EXPECT_EQ(e.imp.jtagChain[0]->devicenr, 1);
-  EXPECT_EQ(e.imp.jtagChain[1]->devicenr, 2);
-  EXPECT_EQ(e.processor.bscanPort, 35U);
-  EXPECT_EQ(e.processor.debugDevice, 7);
-  EXPECT_EQ(e.imp.cable->type, Engine::ZARVEK_PARALLEL3);
-  EXPECT_EQ(e.imp.cable->frequency, 200000U);
+  const GlobalLocale classic;
+  expect_reading(kReadAll, {"-ConfigDevice devicenr 1 -BSCAN user4 -DebugDevice deviceNr 7 -configdevice devicenr 2 "
+                            "-CABLE type zarvek_parallel3",
+                            0,
+                            "debugDevice=7 bscanPort=35 cable.type=4 cable.frequency=200000 cable.port=LPT1 "
+                            "device{devicenr=1} device{devicenr=2}"});
 }
 
 TEST(CableAndChainReading, EndsAfterEachOptionThatIsComplete) {
-  for (const char* const text : {"-cable", "-configdevice", "-debugdevice", "-debugdevice deviceNr 3", "-bscan USER2",
-                                 "-cable port p -debugdevice", "-debugdevice -cable port p"}) {
-    SCOPED_TRACE(text);
-    SelectedEngine e;
-    EXPECT_EQ(read_all(e, text), 0);
-  }
+  expect_readings(kReadAll, {{"-cable", 0},
+                             {"-cable port p \n", 0, "cable.port=p"},
+                             {"-configdevice", 0, "device{}"},
+                             {"-debugdevice", 0},
+                             {"-debugdevice deviceNr 3", 0, "debugDevice=3"},
+                             {"-bscan USER1", 0, "bscanPort=2"},
+                             {"-cable port p -debugdevice", 0, "cable.port=p"},
+                             {"-debugdevice -cable port p", 0, "cable.port=p"}});
 }
 
 TEST(CableAndChainReading, ChecksACableAtTheEndOfTheTextOnly) {
-  SelectedEngine e;
-  EXPECT_EQ(read_all(e, "-cable type zarvek_parallel3 frequency 5 -configdevice"), 0);
-  EXPECT_EQ(e.imp.cable->frequency, 5U);
-  EXPECT_EQ(read_all(e, "-configdevice -cable type zarvek_parallel3 frequency 5"), 3);
-  EXPECT_EQ(e.error(), "UnSupported Zarvek Parallel3 Cable Frequency - 5\n\t Supported Frequencies: 200000");
+  expect_readings(kReadAll,
+                  {{"-cable type zarvek_parallel3 frequency 5 -configdevice", 0,
+                    "cable.type=4 cable.frequency=5 cable.port=LPT1 device{}"},
+                   {"-configdevice -cable type zarvek_parallel3 frequency 5", 3,
+                    "cable.type=4 cable.frequency=5 cable.port=LPT1 device{}",
+                    Error("UnSupported Zarvek Parallel3 Cable Frequency - 5\n\t Supported Frequencies: 200000")}});
 }
 
-TEST(CableAndChainReading, KeepsTheTextOfTheOptionThatFailed) {
-  struct {
-    const char* text;
-    const char* error;
-  } const rows[] = {
-      {"-cable speed 5", "UNKNOWN Parameter 'speed' for  option '-cable'"},
-      {"-configdevice speed 5", "UNKNOWN Parameter 'speed' for option '-configDevice'"},
-      {"-debugdevice speed 5", "UNKNOWN Parameter 'speed' for  option '-debugDevice'"},
-      {"-cable type zarvek_plugin", "Plug-in Module NOT specified for Cable Type zarvek_plugin"},
-      {"-cable type usb", kBefore},
-      {"-configdevice jtagport gpio", kBefore},
-      {"-configdevice devicenr", kBefore},
-      {"-debugdevice proctype x", kBefore},
-      {"-bscan USER5", kBefore},
-      {"-bscan", kBefore},
-      {"-bscan USER1 word", kBefore},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.text);
-    SelectedEngine e;
-    e.imp.errorStr = kBefore;
-    EXPECT_EQ(read_all(e, row.text), 3);
-    EXPECT_EQ(e.error(), row.error);
-  }
+TEST(CableAndChainReading, FailsWhereAnOptionFailsWithTheTextOfThatOption) {
+  expect_readings(
+      kReadAll, {{"-cable speed 5 port p", 3, Error("UNKNOWN Parameter 'speed' for  option '-cable'"), Rest(" port p")},
+                 {"-configdevice speed 5", 3, Error("UNKNOWN Parameter 'speed' for option '-configDevice'")},
+                 {"-debugdevice speed 5", 3, Error("UNKNOWN Parameter 'speed' for  option '-debugDevice'")},
+                 {"-cable type zarvek_plugin", 3, "cable.type=5",
+                  Error("Plug-in Module NOT specified for Cable Type zarvek_plugin")},
+                 {"-cable type usb", 3},
+                 {"-configdevice jtagport gpio", 3},
+                 {"-configdevice devicenr", 3, "device{}"},
+                 {"-debugdevice proctype x", 3, "procVariant=6"},
+                 {"-bscan USER5 -cable port p", 3, Rest(" -cable port p")},
+                 {"-bscan", 3},
+                 {"-bscan USER1 word -cable port p", 3, "bscanPort=2", Rest(" -cable port p")}});
 }
 
 TEST(CableAndChainReading, KeepsWhatOptionsBeforeAnErrorStored) {
-  SelectedEngine e;
-  EXPECT_EQ(read_all(e, "-cable type zarvek_tcf -configdevice devicenr 1 -bscan USER3 -debugdevice deviceNr 2 -foo"),
-            3);
-  EXPECT_EQ(e.imp.cable->type, Engine::ZARVEK_TCF);
-  ASSERT_EQ(e.imp.jtagChain.size(), 1U);
-  EXPECT_EQ(e.imp.jtagChain[0]->devicenr, 1);
-  EXPECT_EQ(e.processor.bscanPort, 34U);
-  EXPECT_EQ(e.processor.debugDevice, 2);
-}
-
-TEST(CableAndChainReading, LeavesInTheTextWhatItDidNotConsume) {
-  struct {
-    const char* text;
-    int status;
-    const char* left;
-  } const rows[] = {
-      {"-cable port p \n", 0, ""},
-      {"-foo -cable port p", 3, " -cable port p"},
-      {"cable -cable port p", 3, " -cable port p"},
-      {"-bscan USER5 -cable port p", 3, " -cable port p"},
-      {"-bscan USER1 word -cable port p", 3, " -cable port p"},
-      {"-cable speed 5 port p", 3, " port p"},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.text);
-    SelectedEngine e;
-    std::string text = row.text;
-    EXPECT_EQ(QvtOption_Parser::ReadJtagCableOptions(text, e.imp), row.status);
-    EXPECT_EQ(text, row.left);
-  }
-}
-
-TEST(CableAndChainReading, ThrowsOnALoneDashAndKeepsWhatCameBeforeIt) {
-  SelectedEngine e;
-  std::string text = "-configdevice devicenr 1 -cable port p - esn e";
-  EXPECT_THROW(QvtOption_Parser::ReadJtagCableOptions(text, e.imp), std::out_of_range);
-  EXPECT_EQ(text, " esn e");
-  EXPECT_EQ(e.imp.jtagChain.size(), 1U);
-  EXPECT_EQ(e.imp.cable->port, "p");
+  expect_readings(
+      kReadAll,
+      {{"-cable type zarvek_tcf -configdevice devicenr 1 -bscan USER3 -debugdevice deviceNr 2 -foo", 3,
+        "debugDevice=2 bscanPort=34 cable.type=7 device{devicenr=1}", Error("UNKNOWN Option '-debugdevice'")},
+       {"-configdevice devicenr 1 -cable port p - esn e", kThrows, "cable.port=p device{devicenr=1}", Rest(" esn e")}});
 }
 
 // Quadratic work would take hours here.
@@ -468,150 +231,105 @@ TEST(CableAndChainReading, ReadsAHundredThousandDevicesInTimeLinearInTheText) {
 
 // --- Writing ---
 
-// Adds a device to the chain.
-JtagOption& add(SelectedEngine& e) {
-  e.imp.jtagChain.push_back(new JtagOption);
-  return *e.imp.jtagChain.back();
-}
+constexpr Writer kWrite = QvtOption_Parser::write_jtagoptions;
 
-std::string written(SelectedEngine& e) {
-  std::string out;
-  EXPECT_EQ(QvtOption_Parser::write_jtagoptions(out, e.imp), 0);
-  return out;
-}
-
-TEST(ChainWriting, WritesRegisterAndPinsWithoutACable) {
-  SelectedEngine e;
-  e.processor.bscanPort = 2;
-  e.imp.cpuJtag = 1;
-  EXPECT_EQ(written(e), " -bscan USER1 -configdevice jtagpin cpujtag");
-}
-
-TEST(ChainWriting, WritesNothingWhereNothingIsSet) {
-  SelectedEngine e;
-  e.imp.errorStr = kBefore;
-  EXPECT_EQ(written(e), "");
-  EXPECT_EQ(e.error(), kBefore);
-}
+void first_register(SelectedEngine& e) { e.processor.bscanPort = 2; }
 
 TEST(ChainWriting, AppendsCableRegisterPinsAndDevicesInThisOrder) {
-  SelectedEngine e;
-  e.engine.SetCableType(Engine::DIGILENT_PLUGIN);
-  e.processor.bscanPort = 2;
-  e.engine.SetCpuJtag();
-  add(e) = {.partname = "a", .idcode = 0xABCDEF01U, .irlength = 6, .devicenr = 1, .isfpga = 1, .hardppc = 1, .nppc = 2};
-  add(e);
-  std::string out = "before";
-  EXPECT_EQ(QvtOption_Parser::write_jtagoptions(out, e.imp), 0);
-  EXPECT_EQ(out,
-            "before -cable type digilent_plugin -bscan USER1 -configdevice jtagpin cpujtag"
-            " -configdevice devicenr 1 partname a irlength 6 idcode 0xabcdef01"
-            " -configdevice devicenr 0 partname UNKNOWN irlength 0 idcode 0x0");
+  expect_writings(kWrite, {{""},
+                           {" -bscan USER1 -configdevice jtagpin cpujtag",
+                            [](SelectedEngine& e) {
+                              first_register(e);
+                              e.imp.cpuJtag = 1;
+                            }},
+                           {" -cable type digilent_plugin -bscan USER1 -configdevice jtagpin cpujtag"
+                            " -configdevice devicenr 1 partname a irlength 6 idcode 0xabcdef01"
+                            " -configdevice devicenr 0 partname UNKNOWN irlength 0 idcode 0x0",
+                            [](SelectedEngine& e) {
+                              e.engine.SetCableType(Engine::DIGILENT_PLUGIN);
+                              first_register(e);
+                              e.imp.cpuJtag = 1;
+                              add_device(e) = {.partname = "a",
+                                               .idcode = 0xABCDEF01U,
+                                               .irlength = 6,
+                                               .devicenr = 1,
+                                               .isfpga = 1,
+                                               .hardppc = 1,
+                                               .nppc = 2};
+                              add_device(e);
+                            }}});
 }
 
 TEST(ChainWriting, WritesTheFirstRegisterAlone) {
   for (const std::uint32_t port : {0U, 1U, 3U, 34U, 35U, 4294967295U}) {
     SCOPED_TRACE(port);
-    SelectedEngine e;
-    e.processor.bscanPort = port;
-    EXPECT_EQ(written(e), "");
+    expect_writing(kWrite, {"", [port](SelectedEngine& e) { e.processor.bscanPort = port; }});
   }
 }
 
 TEST(ChainWriting, WritesThePinsWhenTheFlagIsOneAlone) {
   for (const int flag : {0, 2, -1}) {
     SCOPED_TRACE(flag);
-    SelectedEngine e;
-    e.imp.cpuJtag = flag;
-    EXPECT_EQ(written(e), "");
+    expect_writing(kWrite, {"", [flag](SelectedEngine& e) { e.imp.cpuJtag = flag; }});
   }
 }
 
 TEST(ChainWriting, WritesSmallNumbersAsSignedAndTheIdcodeWithoutLeadingZeros) {
-  struct {
-    std::int8_t devicenr;
-    std::int8_t irlength;
-    std::uint32_t idcode;
-    const char* written;
-  } const rows[] = {
-      {127, -128, 1, " -configdevice devicenr 127 partname UNKNOWN irlength -128 idcode 0x1"},
-      {-1, -2, 0xFFFFFFFFU, " -configdevice devicenr -1 partname UNKNOWN irlength -2 idcode 0xffffffff"},
-  };
-  for (const auto& row : rows) {
-    SelectedEngine e;
-    JtagOption& device = add(e);
-    device.devicenr = row.devicenr;
-    device.irlength = row.irlength;
-    device.idcode = row.idcode;
-    EXPECT_EQ(written(e), row.written);
-  }
+  expect_writings(
+      kWrite, {{" -configdevice devicenr 127 partname UNKNOWN irlength -128 idcode 0x1",
+                [](SelectedEngine& e) { add_device(e) = {.idcode = 1, .irlength = -128, .devicenr = 127}; }},
+               {" -configdevice devicenr -56 partname UNKNOWN irlength -2 idcode 0xffffffff",
+                [](SelectedEngine& e) { add_device(e) = {.idcode = 0xFFFFFFFFU, .irlength = -2, .devicenr = -56}; }}});
 }
 
 TEST(ChainWriting, WritesPartNamesWholeAndAsTheyAre) {
-  for (const std::string& name : {std::string(), std::string("%s%n%d"), std::string(5000, 'p')}) {
-    SCOPED_TRACE(name);
-    SelectedEngine e;
-    add(e).partname = name;
-    EXPECT_EQ(written(e), " -configdevice devicenr 0 partname " + name + " irlength 0 idcode 0x0");
+  for (const std::string& name : {""s, "%s%n%d"s, std::string(5000, 'p')}) {
+    expect_writing(kWrite, {" -configdevice devicenr 0 partname " + name + " irlength 0 idcode 0x0",
+                            [&name](SelectedEngine& e) { add_device(e).partname = name; }});
   }
 }
 
-TEST(ChainWriting, StopsAtACableThatCannotBeWritten) {
-  for (const Engine::CableType type : {Engine::ZARVEK_SVFFILE, Engine::ZARVEK_TCF}) {
-    SCOPED_TRACE(type);
-    SelectedEngine e;
-    e.engine.SetCableType(type);
-    e.processor.bscanPort = 2;
-    e.engine.SetCpuJtag();
-    add(e);
-    std::string out;
-    EXPECT_EQ(QvtOption_Parser::write_jtagoptions(out, e.imp), 2);
-    EXPECT_EQ(out, " -cable");
-    EXPECT_EQ(e.error(), "Invalid Cable Type");
-  }
-}
+// --- Writing cable and chain alone ---
 
-TEST(CableAndChainWriting, WritesNeitherChainNorDebugDeviceBehindATcfCable) {
-  SelectedEngine e;
-  e.engine.SetCableType(Engine::ZARVEK_TCF);
-  add(e);
-  e.processor.debugDevice = 5;
-  std::string out = "before";
-  EXPECT_EQ(QvtOption_Parser::WriteJtagCableOptionsString(e.imp, out), 1);
-  EXPECT_EQ(out, "before -cable");
-  EXPECT_EQ(e.error(), "Invalid Cable Type");
-}
+int write_all(std::string& out, EngineImp& imp) { return QvtOption_Parser::WriteJtagCableOptionsString(imp, out); }
 
 TEST(CableAndChainWriting, AppendsTheDebugDeviceNumberUnlessItIsZero) {
-  struct {
-    std::int8_t device;
-    const char* written;
-  } const rows[] = {{0, "x"},
-                    {5, "x -debugdevice deviceNr 5"},
-                    {127, "x -debugdevice deviceNr 127"},
-                    {-56, "x -debugdevice deviceNr -56"}};
-  for (const auto& row : rows) {
-    SelectedEngine e;
-    e.processor.debugDevice = row.device;
-    std::string out = "x";
-    EXPECT_EQ(QvtOption_Parser::WriteJtagCableOptionsString(e.imp, out), 0);
-    EXPECT_EQ(out, row.written);
+  for (const auto& [device, written] : {std::pair<int, std::string>{0, ""},
+                                        {5, " -debugdevice deviceNr 5"},
+                                        {127, " -debugdevice deviceNr 127"},
+                                        {-56, " -debugdevice deviceNr -56"}}) {
+    expect_writing(write_all, {written, [number = device](SelectedEngine& e) {
+                                 e.processor.debugDevice = static_cast<std::int8_t>(number);
+                               }});
   }
 }
 
 TEST(CableAndChainWriting, WritesTheNumberAloneOfTheDebugDevice) {
-  SelectedEngine e;
-  e.engine.SetCableType(Engine::ZARVEK_PARALLEL3);
-  e.processor.procFamily = 1;
-  e.processor.debugDevice = 2;
-  e.processor.icacheStartAddr = 0x10000;
-  e.processor.bscanPort = 2;
-  add(e).devicenr = 2;
-  std::string out;
-  EXPECT_EQ(QvtOption_Parser::WriteJtagCableOptionsString(e.imp, out), 0);
-  EXPECT_EQ(out,
-            " -cable type zarvek_parallel3 port LPT1 frequency 200000 -bscan USER1"
-            " -configdevice devicenr 2 partname UNKNOWN irlength 0 idcode 0x0 -debugdevice deviceNr 2");
+  expect_writing(write_all, {" -cable type zarvek_parallel3 port LPT1 frequency 200000 -bscan USER1"
+                             " -configdevice devicenr 2 partname UNKNOWN irlength 0 idcode 0x0 -debugdevice deviceNr 2",
+                             [](SelectedEngine& e) {
+                               e.engine.SetCableType(Engine::ZARVEK_PARALLEL3);
+                               e.processor.procFamily = 1;
+                               e.processor.debugDevice = 2;
+                               e.processor.icacheStartAddr = 0x10000;
+                               first_register(e);
+                               add_device(e).devicenr = 2;
+                             }});
+}
+
+TEST(CableAndChainWriting, WritesTheOptionAloneOfACableThatCannotBeWritten) {
+  for (const Engine::CableType type : {Engine::ZARVEK_SVFFILE, Engine::ZARVEK_TCF}) {
+    const auto prepare = [type](SelectedEngine& e) {
+      e.engine.SetCableType(type);
+      first_register(e);
+      e.engine.SetCpuJtag();
+      add_device(e);
+      e.processor.debugDevice = 5;
+    };
+    expect_writing(kWrite, {" -cable", prepare, 2, "Invalid Cable Type"});
+    expect_writing(write_all, {" -cable", prepare, 1, "Invalid Cable Type"});
+  }
 }
 
 }  // namespace
+}  // namespace SdkDebugDialog

@@ -1,60 +1,46 @@
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <string>
 
-#include "options/QvtOption_Parser.h"
 #include "tests/options/reading.h"
+#include "tests/options/writing.h"
 #include "tests/support/FakeHardware.h"
+#include "tests/support/GlobalLocale.h"
 
 namespace SdkDebugDialog {
 namespace {
 
-constexpr Reader kRead = QvtOption_Parser::parse_ppcoptions;
+const Reader kRead = QvtOption_Parser::parse_ppcoptions;
 
-// Attaches a hardware description in which the processor is a ppc440 that admits some connections.
-class PowerPcTarget : public testing::Test {
- protected:
-  auto admitting(std::uint32_t connections) {
-    return [this, connections](SelectedEngine& e) {
-      e.imp.hwManager = &m_hardware;
-      e.processor.procFamily = 1;
-      e.processor.procVariant = 2;
-      e.processor.allowedConnections = connections;
-    };
-  }
+// --- Reading ---
 
- private:
-  FakeHardware m_hardware;
-};
-
-TEST_F(PowerPcTarget, ReadsItsConnectionsInAnyCase) {
-  expect_readings(kRead, {{"hw", 0, "procFamily=1 procVariant=6 allowedConnections=3"},
-                          {" HW\r\n", 0, "procFamily=1 procVariant=6 allowedConnections=3"},
-                          {"sim", 0, "procFamily=1 procVariant=6 connectionType=1"},
-                          {"SiM", 0, "procFamily=1 procVariant=6 connectionType=1"}});
+TEST(PowerPcTarget, ReadsItsConnectionsInAnyCase) {
+  const GlobalLocale classic;
+  expect_readings(kRead,
+                  {{"hw", 0, "procFamily=1 procVariant=6 allowedConnections=10 connectionType=2"},
+                   {" HW\r\n", 0, "procFamily=1 procVariant=6 allowedConnections=10 connectionType=2"},
+                   {"sim", 0, "procFamily=1 procVariant=6 allowedConnections=9 connectionType=1"},
+                   {"SiM", 0, "procFamily=1 procVariant=6 allowedConnections=9 connectionType=1"}},
+                  [](SelectedEngine& e) {
+                    e.processor.allowedConnections = 8;
+                    e.processor.connectionType = 8;
+                  });
 }
 
-TEST_F(PowerPcTarget, IsReadInCapitalsFromACommand) {
-  SelectedEngine e;
-  EXPECT_EQ(QvtOption_Parser::ReadQvtCommand("CONNECT PPC HW", e.imp), 0);
-  EXPECT_EQ(changes(e), "procFamily=1 procVariant=6 allowedConnections=3");
-}
-
-TEST_F(PowerPcTarget, HandsTheRestToTheReaderOfTheConnection) {
+TEST(PowerPcTarget, HandsTheRestToTheReaderOfTheConnection) {
   expect_readings(kRead,
                   {{"hw -debugdevice deviceNr 2", 0, "procFamily=1 procVariant=6 allowedConnections=3 debugDevice=2"},
                    {"hw -quiet -bscan USER1", 0, "procFamily=1 procVariant=6 allowedConnections=3 bscanPort=2"},
                    {"hw -debugdevice proctype ppc405", 0, "procFamily=1 procVariant=1 allowedConnections=3"},
                    {"sim -icf a.cfg", 0, "procFamily=1 procVariant=6 connectionType=1 simConfigFile=a.cfg"},
-                   {"sim -quiet", 2, "procFamily=1 procVariant=6", "UNKNOWN  PowerPC Sim Option '-quiet'"}});
+                   {"sim -quiet", 2, "procFamily=1 procVariant=6", Error("UNKNOWN  PowerPC Sim Option '-quiet'")}});
 }
 
-TEST_F(PowerPcTarget, RefusesAnyOtherWordWithoutAText) {
+TEST(PowerPcTarget, RefusesAnyOtherWordWithoutAText) {
   expect_readings(kRead, {{"", 2},
                           {" \r\n", 2},
                           {"stub", 2},
-                          {"odm -quiet", 2, "", {}, " -quiet"},
+                          {"odm -quiet", 2, Rest(" -quiet")},
                           {"-sim", 2},
                           {"-hw", 2},
                           {"hws", 2},
@@ -62,99 +48,72 @@ TEST_F(PowerPcTarget, RefusesAnyOtherWordWithoutAText) {
                           {"-5", 2}});
 }
 
-TEST_F(PowerPcTarget, WithHardwareTakesOnlyWhatTheProcessorAdmits) {
-  const std::string hardwareOnly = "procFamily=1 procVariant=2 allowedConnections=2";
+TEST(PowerPcTarget, WithHardwareTakesOnlyWhatTheProcessorAdmitsAndKeepsItsKind) {
+  FakeHardware hardware;
+  const auto admitting = [&hardware](unsigned int connections) {
+    return [&hardware, connections](SelectedEngine& e) {
+      e.imp.hwManager = &hardware;
+      e.processor.procFamily = 1;
+      e.processor.procVariant = 2;
+      e.processor.allowedConnections = connections;
+      e.processor.connectionType = 8;
+    };
+  };
   expect_readings(kRead,
-                  {{"sim", 2, hardwareOnly},
-                   {"sim -icf a.cfg", 2, hardwareOnly, {}, " -icf a.cfg"},
-                   {"hw", 0, hardwareOnly},
-                   {"hw -foo", 2, hardwareOnly, "UNKNOWN Option ''"}},
+                  {{"sim", 2},
+                   {"sim -icf a.cfg", 2, Rest(" -icf a.cfg")},
+                   {"hw", 0, "connectionType=2"},
+                   {"hw -foo", 2, Error("UNKNOWN Option ''")}},
                   admitting(2));
-  const std::string simulatorOnly = "procFamily=1 procVariant=2";  // which is what a fresh record admits
-  expect_readings(kRead,
-                  {{"hw", 2, simulatorOnly},
-                   {"hw -quiet", 2, simulatorOnly, {}, " -quiet"},
-                   {"sim", 0, simulatorOnly + " connectionType=1"}},
-                  admitting(1));
-  const std::string neither = "procFamily=1 procVariant=2 allowedConnections=252";
-  expect_readings(kRead, {{"hw", 2, neither}, {"sim", 2, neither}}, admitting(252));
+  expect_readings(kRead, {{"hw", 2}, {"hw -quiet", 2, Rest(" -quiet")}, {"sim", 0, "connectionType=1"}}, admitting(1));
+  expect_readings(kRead, {{"hw", 2}, {"sim", 2}}, admitting(252));
 }
 
-TEST_F(PowerPcTarget, WithoutHardwareAFailedReadLeavesTheProcessorKindAndNotTheConnection) {
-  const auto simulated = [](SelectedEngine& e) { e.processor.connectionType = 4; };
+TEST(PowerPcTarget, WithoutHardwareAFailedReadLeavesTheProcessorKindAndNotTheConnection) {
   expect_readings(kRead,
-                  {{"hw -foo", 2, "procFamily=1 procVariant=6 connectionType=4", "UNKNOWN Option ''"},
-                   {"hw stray", 2, "procFamily=1 procVariant=6 connectionType=4"},
-                   {"sim -foo", 2, "procFamily=1 procVariant=6 connectionType=4", "UNKNOWN  PowerPC Sim Option '-foo'"},
-                   {"sim stray", 2, "procFamily=1 procVariant=6 connectionType=4"}},
-                  simulated);
-}
-
-TEST_F(PowerPcTarget, WithoutHardwareAddsTheConnectionToWhatIsAdmitted) {
-  const auto admitsVirtualPlatform = [](SelectedEngine& e) { e.processor.allowedConnections = 8; };
-  expect_readings(kRead,
-                  {{"hw", 0, "procFamily=1 procVariant=6 allowedConnections=10"},
-                   {"sim", 0, "procFamily=1 procVariant=6 allowedConnections=9 connectionType=1"}},
-                  admitsVirtualPlatform);
+                  {{"hw -foo", 2, "procFamily=1 procVariant=6", Error("UNKNOWN Option ''")},
+                   {"hw stray", 2, "procFamily=1 procVariant=6"},
+                   {"sim -foo", 2, "procFamily=1 procVariant=6", Error("UNKNOWN  PowerPC Sim Option '-foo'")},
+                   {"sim stray", 2, "procFamily=1 procVariant=6"}},
+                  [](SelectedEngine& e) { e.processor.connectionType = 4; });
 }
 
 // --- Writing ---
 
-struct Written {
-  int result;
-  std::string text;
-  std::string error;
-};
-
-Written write(SelectedEngine& e) {
-  std::string out = "connect";
-  const int result = QvtOption_Parser::write_ppcoptions(out, e.imp);
-  return {result, out, e.error()};
+TEST(PowerPcTarget, WritesTheSimulatorWithItsOptionsAndTheHardwareWithChainAndDebugDevice) {
+  expect_writings(QvtOption_Parser::write_ppcoptions,
+                  {{" ppc sim -ipcport host1:6470",
+                    [](SelectedEngine& e) {
+                      e.processor.connectionType = 1;
+                      e.processor.simHost = "host1";
+                      e.processor.simPort = 6470;
+                      e.processor.debugDevice = 2;
+                    }},
+                   {" ppc hw -cable type zarvek_platformusb port USB21 frequency 6000000 -debugdevice deviceNr 2 "
+                    "cpunr 1 fpuType dp",
+                    [](SelectedEngine& e) {
+                      e.processor.procFamily = 1;
+                      e.processor.fpuType = 2;
+                      e.processor.debugDevice = 2;
+                      e.engine.SetCableType(Engine::ZARVEK_PLATFORMUSB);
+                    }}});
 }
 
-TEST_F(PowerPcTarget, WritesTheSimulatorWithItsOptions) {
-  SelectedEngine e;
-  e.processor.connectionType = 1;
-  e.processor.simHost = "host1";
-  e.processor.simPort = 6470;
-  e.processor.debugDevice = 2;
-  const Written written = write(e);
-  EXPECT_EQ(written.result, 0);
-  EXPECT_EQ(written.text, "connect ppc sim -ipcport host1:6470");
+TEST(PowerPcTarget, StopsWritingAtACableThatCannotBeWritten) {
+  expect_writing(QvtOption_Parser::write_ppcoptions, {" ppc hw -cable",
+                                                      [](SelectedEngine& e) {
+                                                        e.engine.SetCableType(Engine::ZARVEK_TCF);
+                                                        e.processor.debugDevice = 2;
+                                                      },
+                                                      2, "Invalid Cable Type"});
 }
 
-TEST_F(PowerPcTarget, WritesTheHardwareWithChainAndDebugDevice) {
-  SelectedEngine e;
-  e.processor.procFamily = 1;
-  e.processor.fpuType = 2;
-  e.processor.debugDevice = 2;
-  e.imp.cable->CableOptionInit(Engine::ZARVEK_PLATFORMUSB);
-  const Written written = write(e);
-  EXPECT_EQ(written.result, 0);
-  EXPECT_EQ(written.text,
-            "connect ppc hw -cable type zarvek_platformusb port USB21 frequency 6000000 -debugdevice deviceNr 2 cpunr "
-            "1 fpuType dp");
-}
-
-TEST_F(PowerPcTarget, StopsWritingAtACableThatCannotBeWritten) {
-  SelectedEngine e;
-  e.imp.cable->CableOptionInit(Engine::ZARVEK_TCF);
-  e.processor.debugDevice = 2;
-  const Written written = write(e);
-  EXPECT_EQ(written.result, 2);
-  EXPECT_EQ(written.text, "connect ppc hw -cable");
-  EXPECT_EQ(written.error, "Invalid Cable Type");
-}
-
-TEST_F(PowerPcTarget, RefusesToWriteAStubAndEveryOtherConnection) {
-  for (const std::uint32_t connection : {4U, 0U, 3U, 8U, 16U, 132U, 512U, 0xFFFFFFFFU}) {
+TEST(PowerPcTarget, RefusesToWriteAStubAndEveryOtherConnection) {
+  for (const unsigned int connection : {4U, 0U, 3U, 8U, 16U, 132U, 512U, 0xFFFFFFFFU}) {
     SCOPED_TRACE(connection);
-    SelectedEngine e;
-    e.processor.connectionType = connection;
-    const Written written = write(e);
-    EXPECT_EQ(written.result, 2);
-    EXPECT_EQ(written.text, "connect ppc");
-    EXPECT_EQ(written.error, "Invalid Connect Type for PowerPC Target");
+    expect_writing(QvtOption_Parser::write_ppcoptions,
+                   {" ppc", [connection](SelectedEngine& e) { e.processor.connectionType = connection; }, 2,
+                    "Invalid Connect Type for PowerPC Target"});
   }
 }
 

@@ -1,44 +1,100 @@
 #pragma once
 
-// Compares everything that reading a text gives: the result, what is left of the text, the error text, and the
-// settings.
+// Tables of texts, and of all that reading each of them gives.
+//
+//   expect_readings(QvtOption_Parser::parse_debugdevice,
+//                   {{"deviceNr 3", 3, "debugDevice=3"},
+//                    {"foo 2 deviceNr 3", 2, Error("UNKNOWN Parameter 'foo' ..."), Rest(" deviceNr 3")}});
+//
+// What a row does not name must not happen: every other setting and the error text stay as they were, and the text is
+// read to its end. A reader of a group returns 0 for a value, 1 at the next option, 2 for an error and 3 at the end of
+// the text; a reader of a target 0 or 2; a reader of a whole command 0 or 3.
 
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <optional>
+#include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "options/QvtOption_Parser.h"
 #include "tests/support/SelectedEngine.h"
 #include "tests/support/changes.h"
 
-// A text, and what an operation of the parser is to make of it.
-struct Reading {
+// In place of a status: a lone dash throws std::out_of_range.
+inline constexpr int kThrows = -1;
+
+struct Expected {
+  explicit Expected(std::string expected) : text(std::move(expected)) {}
   std::string text;
-  int result = 0;
-  std::string changes = {};               // tests/support/changes.h
-  std::optional<std::string> error = {};  // the error text that is stored; none: the one before stays
-  std::string rest = {};                  // what is left of the text
+};
+// The error text that is stored.
+struct Error : Expected {
+  using Expected::Expected;
+};
+// What is left of the text.
+struct Rest : Expected {
+  using Expected::Expected;
+};
+// What newoption_token is afterwards; where a row does not tell, it may be anything.
+struct LastOption : Expected {
+  using Expected::Expected;
 };
 
-using Reader = int (*)(std::string& text, SdkDebugDialog::EngineImp& imp);
+// The text, the status and, in any order and where they apply: the changed settings (as tests/support/changes.h writes
+// them) and the above.
+struct Reading {
+  template <class... More>
+  Reading(std::string givenText, int expectedStatus, More... more)
+      : text(std::move(givenText)), status(expectedStatus) {
+    (set(std::move(more)), ...);
+  }
 
-// Reads on an engine of its own, which prepare may change first.
-inline void expect_reading(Reader read, const Reading& expected,
-                           const std::function<void(SelectedEngine&)>& prepare = {}) {
+  std::string text;
+  int status;
+  std::string changes;
+  std::string error = "an older text";
+  std::string rest;
+  std::optional<std::string> lastOption;
+
+ private:
+  void set(std::string expected) { changes = std::move(expected); }
+  void set(Error expected) { error = std::move(expected.text); }
+  void set(Rest expected) { rest = std::move(expected.text); }
+  void set(LastOption expected) { lastOption = std::move(expected.text); }
+};
+
+using Reader = std::function<int(std::string& text, SdkDebugDialog::EngineImp& imp)>;
+using Prepare = std::function<void(SelectedEngine&)>;
+
+// Reads on an engine of its own, which prepare may change first; the settings are compared with those after that.
+inline void expect_reading(const Reader& read, const Reading& expected, const Prepare& prepare = {}) {
   SCOPED_TRACE(testing::PrintToString(expected.text));
-  SelectedEngine selected;
-  if (prepare) prepare(selected);
-  selected.engine.SetErrorStr("an older text");
+  SelectedEngine e;
+  SelectedEngine before;
+  for (SelectedEngine* const engine : {&e, &before}) {
+    if (prepare) prepare(*engine);
+  }
+  e.engine.SetErrorStr("an older text");
   std::string text = expected.text;
-  EXPECT_EQ(read(text, selected.imp), expected.result);
-  EXPECT_EQ(changes(selected), expected.changes);
-  EXPECT_EQ(selected.error(), expected.error.value_or("an older text"));
+  int status = kThrows;
+  try {
+    status = read(text, e.imp);
+  } catch (const std::out_of_range& error) {
+    EXPECT_STREQ(error.what(), "basic_string::at: __n (which is 1) >= this->size() (which is 1)");
+  }
+  EXPECT_EQ(status, expected.status);
+  EXPECT_EQ(changes(e.imp, before.imp), expected.changes);
+  EXPECT_EQ(e.error(), expected.error);
   EXPECT_EQ(text, expected.rest);
+  EXPECT_EQ(SdkDebugDialog::newoption_token, expected.lastOption.value_or(SdkDebugDialog::newoption_token));
 }
 
-inline void expect_readings(Reader read, const std::vector<Reading>& expected,
-                            const std::function<void(SelectedEngine&)>& prepare = {}) {
+inline void expect_readings(const Reader& read, const std::vector<Reading>& expected, const Prepare& prepare = {}) {
   for (const Reading& reading : expected) expect_reading(read, reading, prepare);
 }
+
+// An error text as it is stored, cut after 2047 characters.
+inline Error cut_error(const std::string& error) { return Error(error.substr(0, 2047)); }

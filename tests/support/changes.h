@@ -1,7 +1,8 @@
 #pragma once
 
-// The settings of an engine that are not those of a fresh one, as one text.
+// The settings that differ between two engines, as one text: "cpuNr=2 cable.port=p device{devicenr=1}".
 
+#include <cstddef>
 #include <locale>
 #include <sstream>
 #include <string>
@@ -9,13 +10,30 @@
 
 #include "tests/support/SelectedEngine.h"
 
-// As "field=value"; the record's command is left out. A processor must be selected.
-inline std::string changes(const SdkDebugDialog::EngineImp& imp) {
-  const SelectedEngine fresh;
+// A device of the chain, by the fields that are not those of a fresh one.
+inline std::string device_text(const SdkDebugDialog::JtagOption& device) {
+  const SdkDebugDialog::JtagOption fresh;
+  std::string text;
+  const auto add = [&text](const char* field, const std::string& value) {
+    text.append(text.empty() ? "" : " ").append(field).append("=").append(value);
+  };
+  if (device.devicenr != fresh.devicenr) add("devicenr", std::to_string(device.devicenr));
+  if (device.partname != fresh.partname) add("partname", device.partname);
+  if (device.irlength != fresh.irlength) add("irlength", std::to_string(device.irlength));
+  if (device.idcode != fresh.idcode) add("idcode", std::to_string(device.idcode));
+  if (device.isfpga != fresh.isfpga) add("isfpga", std::to_string(device.isfpga));
+  if (device.hardppc != fresh.hardppc) add("hardppc", std::to_string(device.hardppc));
+  if (device.nppc != fresh.nppc) add("nppc", std::to_string(device.nppc));
+  return "device{" + text + "}";
+}
+
+// The settings of the first engine that are not those of the second. The record's command is left out. A processor
+// must be selected in both.
+inline std::string changes(const SdkDebugDialog::EngineImp& imp, const SdkDebugDialog::EngineImp& before) {
   std::ostringstream out;
   out.imbue(std::locale::classic());
-  const auto compare = [&out](const char* field, const auto& value, const auto& before) {
-    if (value == before) return;
+  const auto compare = [&out](const char* field, const auto& value, const auto& old) {
+    if (value == old) return;
     out << (out.tellp() > 0 ? " " : "") << field << '=';
     if constexpr (std::is_enum_v<std::decay_t<decltype(value)>>) {
       out << std::underlying_type_t<std::decay_t<decltype(value)>>(value);
@@ -25,7 +43,7 @@ inline std::string changes(const SdkDebugDialog::EngineImp& imp) {
       out << value;
     }
   };
-#define COMPARE(field) compare(#field, imp.currentProcessor->field, fresh.processor.field)
+#define COMPARE(field) compare(#field, imp.currentProcessor->field, before.currentProcessor->field)
   COMPARE(name);
   COMPARE(procFamily);
   COMPARE(procVariant);
@@ -66,7 +84,7 @@ inline std::string changes(const SdkDebugDialog::EngineImp& imp) {
   COMPARE(uartEnabled);
   COMPARE(bscanPort);
 #undef COMPARE
-#define COMPARE(field) compare("cable." #field, imp.cable->field, fresh.imp.cable->field)
+#define COMPARE(field) compare("cable." #field, imp.cable->field, before.cable->field)
   COMPARE(type);
   COMPARE(frequency);
   COMPARE(port);
@@ -76,12 +94,18 @@ inline std::string changes(const SdkDebugDialog::EngineImp& imp) {
   COMPARE(modulearg);
   COMPARE(url);
 #undef COMPARE
-  compare("cpuJtag", imp.cpuJtag, fresh.imp.cpuJtag);
-  for (const SdkDebugDialog::JtagOption* const device : imp.jtagChain) {
-    out << (out.tellp() > 0 ? " " : "") << "device=" << +device->devicenr << '/' << device->partname << '/'
-        << +device->irlength << '/' << device->idcode;
+  compare("cpuJtag", imp.cpuJtag, before.cpuJtag);
+  if (imp.jtagChain.size() < before.jtagChain.size()) compare("devices", imp.jtagChain.size(), before.jtagChain.size());
+  for (std::size_t i = 0; i < imp.jtagChain.size(); ++i) {
+    const std::string device = device_text(*imp.jtagChain[i]);
+    if (i < before.jtagChain.size() && device == device_text(*before.jtagChain[i])) continue;
+    out << (out.tellp() > 0 ? " " : "") << device;
   }
   return out.str();
 }
 
-inline std::string changes(const SelectedEngine& selected) { return changes(selected.imp); }
+// The settings that are not those of a fresh engine.
+inline std::string changes(const SelectedEngine& selected) {
+  const SelectedEngine fresh;
+  return changes(selected.imp, fresh.imp);
+}

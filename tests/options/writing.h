@@ -1,0 +1,42 @@
+#pragma once
+
+// Tables of settings, and of the text that each is written as.
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "tests/options/reading.h"
+
+struct Writing {
+  std::string text;      // what is appended
+  Prepare prepare = {};  // changes a fresh engine first
+  int status = 0;
+  std::optional<std::string> error = {};  // the error text that is stored; none: the one before stays
+};
+
+using Writer = int (*)(std::string& out, SdkDebugDialog::EngineImp& imp);
+
+// Writes behind another text. No setting may change.
+inline void expect_writing(Writer write, const Writing& expected) {
+  SCOPED_TRACE(testing::PrintToString(expected.text));
+  SelectedEngine e;
+  SelectedEngine before;
+  for (SelectedEngine* const engine : {&e, &before}) {
+    if (expected.prepare) expected.prepare(*engine);
+  }
+  e.engine.SetErrorStr("an older text");
+  e.processor.command = "an older command";
+  std::string out = "before";
+  EXPECT_EQ(write(out, e.imp), expected.status);
+  EXPECT_EQ(out, "before" + expected.text);
+  EXPECT_EQ(e.error(), expected.error.value_or("an older text"));
+  EXPECT_EQ(e.processor.command, "an older command");
+  EXPECT_EQ(changes(e.imp, before.imp), "");
+}
+
+inline void expect_writings(Writer write, const std::vector<Writing>& expected) {
+  for (const Writing& writing : expected) expect_writing(write, writing);
+}
