@@ -9,6 +9,7 @@
 
 #include "bench/design.h"
 #include "bench/suite.h"
+#include "model/processor_list.h"
 #include "tests/support/SelectedEngine.h"
 
 namespace bench {
@@ -46,11 +47,12 @@ void add_lookup() {
   const char* const who = "std::unordered_map";
   auto lookup = std::make_shared<Lookup>();
   for (const std::string& name : lookup->names) {
-    const ProcessorInfoImp* const found = lookup->engine.imp.FindProcessor(name);
+    const ProcessorInfoImp* const found = SdkDebugDialog::find_listed(lookup->engine.imp, name);
     expect(found != nullptr && found->name == name, work, kOurs);
     expect(lookup->map.find(name)->second == found, work, who);
   }
-  add(work, kOurs, [lookup] { benchmark::DoNotOptimize(lookup->engine.imp.FindProcessor(lookup->next())); });
+  add(work, kOurs,
+      [lookup] { benchmark::DoNotOptimize(SdkDebugDialog::find_listed(lookup->engine.imp, lookup->next())); });
   add(work, who, [lookup] { benchmark::DoNotOptimize(lookup->map.find(lookup->next())->second); });
 }
 

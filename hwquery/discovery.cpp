@@ -5,15 +5,16 @@
 #include <iterator>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <unordered_set>
 #include <vector>
 
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
 #include "SdkDebugDialog/ProcessorInfo.h"
+#include "SdkDebugDialog/Result.h"
 #include "hwquery/serial_stub.h"
-#include "model/NameIndex.h"
 #include "model/processor_kind.h"
-#include "model/result.h"
 #include "platform/HHSMHwManager.h"
 
 namespace SdkDebugDialog {
@@ -67,10 +68,11 @@ class Discovery {
   void find_soft_without_debug_module() {
     std::vector<std::string> names;
     m_hw.getIpInstances(names, "ovrin", false);
-    NameIndex listed;
+    std::unordered_set<std::string_view> listed;
     listed.reserve(m_imp.processorList.size() + names.size());
+    for (const ProcessorInfoImp* const processor : m_imp.processorList) listed.insert(processor->name);
     for (const std::string& name : names) {
-      if (listed.find(m_imp.processorList, name) == nullptr) add_soft(name, Engine::SIMULATOR);
+      if (listed.insert(name).second) add_soft(name, Engine::SIMULATOR);
     }
   }
 

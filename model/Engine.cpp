@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "SdkDebugDialog/EngineImp.h"
+#include "SdkDebugDialog/Result.h"
 #include "model/processor_kind.h"
-#include "model/result.h"
 
 namespace SdkDebugDialog {
 

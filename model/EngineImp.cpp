@@ -1,11 +1,10 @@
 #include "SdkDebugDialog/EngineImp.h"
 
-#include "model/NameIndex.h"
-#include "model/result.h"
+#include "model/processor_list.h"
 
 namespace SdkDebugDialog {
 
-EngineImp::EngineImp() : m_names(std::make_unique<NameIndex>()) {
+EngineImp::EngineImp() : m_index(std::make_unique<ProcessorIndex>()) {
   cable = new CableOption;
   EngineImpInit();
 }
@@ -18,14 +17,6 @@ void EngineImp::EngineImpInit() {
   cpuJtag = 0;
   jtagChain.clear();
   errorStr.clear();
-}
-
-ProcessorInfoImp* EngineImp::FindProcessor(const std::string& name) {
-  if (ProcessorInfoImp* const processor = m_names->find(processorList, name)) return processor;
-  // A miss, or records that took the place of others: the list itself decides.
-  ProcessorInfoImp* const found = find_by_name(processorList, name);
-  if (found != nullptr) m_names->clear();
-  return found;
 }
 
 }  // namespace SdkDebugDialog

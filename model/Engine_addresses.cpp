@@ -1,11 +1,13 @@
 // The PowerPC debug address map and the memories.
 
+#include <algorithm>
+
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
+#include "SdkDebugDialog/Result.h"
 #include "model/base_address.h"
 #include "model/error_text.h"
 #include "model/processor_kind.h"
-#include "model/result.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -14,8 +16,24 @@ using Address = std::uint32_t ProcessorInfoImp::*;
 
 constexpr std::uint32_t kBlock = 0x10000;
 
-int set_base(EngineImp& imp, MapBaseIndex base, std::uint32_t a) {
-  return imp.currentProcessor != nullptr && set_map_base(imp, kMapBases[base], a) ? kOk : kRefused;
+// The bases of the debug address map, in the order in which it is laid out.
+struct MapBase {
+  Address field;
+  const char* what;       // what the error text calls it
+  Address map = nullptr;  // follows the base once that is accepted
+};
+
+constexpr MapBase kMapBases[] = {
+    {&ProcessorInfoImp::icacheStartAddr, "Icache", &ProcessorInfoImp::debugAddressMap},
+    {&ProcessorInfoImp::itagStartAddr, "Itag"},
+    {&ProcessorInfoImp::dcacheStartAddr, "Dcache"},
+    {&ProcessorInfoImp::dtagStartAddr, "Dtag"},
+    {&ProcessorInfoImp::dcrStartAddr, "DCR"},
+    {&ProcessorInfoImp::tlbStartAddr, "TLB"},
+};
+
+int set_base(EngineImp& imp, Address field, std::uint32_t a) {
+  return imp.currentProcessor != nullptr && set_map_base(imp, field, a) ? kOk : kRefused;
 }
 
 int get_address(const ProcessorInfoImp& p, bool applies, Address field, unsigned int& a) {
@@ -32,7 +50,8 @@ int get_map_address(const EngineImp& imp, Address field, unsigned int& a) {
 
 }  // namespace
 
-bool set_map_base(EngineImp& imp, const MapBase& base, std::uint32_t address) {
+bool set_map_base(EngineImp& imp, Address field, std::uint32_t address) {
+  const MapBase& base = *std::ranges::find(kMapBases, field, &MapBase::field);
   if (address % kBlock != 0) {
     set_error(imp, "%s Start Address should be aligned at 64k boundry", base.what);
     return false;
@@ -42,12 +61,12 @@ bool set_map_base(EngineImp& imp, const MapBase& base, std::uint32_t address) {
   return true;
 }
 
-int Engine::SetIcacheBaseAddr(unsigned int a) { return set_base(*imp, kIcache, a); }
-int Engine::SetDcacheBaseAddr(unsigned int a) { return set_base(*imp, kDcache, a); }
-int Engine::SetITagBaseAddr(unsigned int a) { return set_base(*imp, kItag, a); }
-int Engine::SetDTagBaseAddr(unsigned int a) { return set_base(*imp, kDtag, a); }
-int Engine::SetTlbBaseAddr(unsigned int a) { return set_base(*imp, kTlb, a); }
-int Engine::SetDcrBaseAddr(unsigned int a) { return set_base(*imp, kDcr, a); }
+int Engine::SetIcacheBaseAddr(unsigned int a) { return set_base(*imp, &ProcessorInfoImp::icacheStartAddr, a); }
+int Engine::SetDcacheBaseAddr(unsigned int a) { return set_base(*imp, &ProcessorInfoImp::dcacheStartAddr, a); }
+int Engine::SetITagBaseAddr(unsigned int a) { return set_base(*imp, &ProcessorInfoImp::itagStartAddr, a); }
+int Engine::SetDTagBaseAddr(unsigned int a) { return set_base(*imp, &ProcessorInfoImp::dtagStartAddr, a); }
+int Engine::SetTlbBaseAddr(unsigned int a) { return set_base(*imp, &ProcessorInfoImp::tlbStartAddr, a); }
+int Engine::SetDcrBaseAddr(unsigned int a) { return set_base(*imp, &ProcessorInfoImp::dcrStartAddr, a); }
 
 int Engine::GetDebugAddressMap(unsigned int& a) { return get_map_address(*imp, &ProcessorInfoImp::debugAddressMap, a); }
 int Engine::GetIcacheBaseAddr(unsigned int& a) { return get_map_address(*imp, &ProcessorInfoImp::icacheStartAddr, a); }

@@ -6,7 +6,7 @@
 #include "SdkDebugDialog/CableOption.h"
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
-#include "model/result.h"
+#include "SdkDebugDialog/Result.h"
 
 namespace SdkDebugDialog {
 namespace {

@@ -11,9 +11,8 @@
 #include "SdkDebugDialog/EngineImp.h"
 #include "SdkDebugDialog/JtagOption.h"
 #include "SdkDebugDialog/ProcessorInfo.h"
-#include "model/result.h"
+#include "SdkDebugDialog/Result.h"
 #include "options/QvtOption_Parser.h"
-#include "options/status.h"
 
 namespace SdkDebugDialog {
 namespace {

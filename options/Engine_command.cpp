@@ -2,7 +2,7 @@
 
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
-#include "model/result.h"
+#include "SdkDebugDialog/Result.h"
 #include "options/QvtOption_Parser.h"
 
 namespace SdkDebugDialog {

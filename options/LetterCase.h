@@ -1,29 +1,25 @@
 #pragma once
 
-// Words without regard to case.
-
-#include <array>
-#include <optional>
+#include <locale>
 #include <string_view>
 
 namespace SdkDebugDialog {
 
-// Which letters are the same but for their case, as the program's global locale sees it. The locale is asked once, when
-// the first word in another spelling is met; whoever reads a text keeps one of these for as long.
+// Case folding by the program's global locale, which is asked once: whoever reads a text keeps one of these for as
+// long.
 class LetterCase {
  public:
-  // Whether two words are the same in any case.
-  bool same(std::string_view a, std::string_view b);
+  LetterCase() : m_isClassic(m_locale == std::locale::classic()) {}
 
-  // Whether the global locale is the classic one, which folds the case of ASCII letters and of nothing else.
-  bool is_ascii() { return m_isAscii ? *m_isAscii : ask(); }
+  // Whether the locale is the classic one, which folds ASCII letters only.
+  bool is_classic() const { return m_isClassic; }
+
+  // Whether two words are equal but for case. The locale decides byte by byte, as boost::iequals does.
+  bool same(std::string_view a, std::string_view b) const;
 
  private:
-  bool ask();
-  bool same_upper(std::string_view a, std::string_view b);
-
-  std::optional<bool> m_isAscii;
-  std::optional<std::array<char, 256>> m_upper;  // filled unless the locale is the classic one
+  std::locale m_locale;
+  bool m_isClassic;
 };
 
 }  // namespace SdkDebugDialog

@@ -11,7 +11,7 @@ namespace SdkDebugDialog {
 class EngineImp;
 
 // The last option that was read, by whichever reader; its content counts right after a kOption only.
-extern std::string newoption_token;
+extern thread_local std::string newoption_token;
 
 // Every operation works on the selected processor, the cable and the chain of the engine it is given; a processor
 // must be selected. Readers take what they read off the front of the text and leave the rest; the first error ends

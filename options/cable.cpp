@@ -1,172 +1,246 @@
-// The "-cable" option.
+// The "-cable" option and the types of cables.
 
 #include <algorithm>
+#include <array>
 #include <boost/algorithm/string/replace.hpp>
 #include <string>
 
-#include "SdkDebugDialog/CableCatalogue.h"
-#include "SdkDebugDialog/CableOption.h"
-#include "model/cable_kind.h"
-#include "options/QvtOption_Parser.h"
+#include "model/error_text.h"
 #include "options/groups.h"
-#include "options/keyword.h"
+#include "options/pairs.h"
 
 namespace SdkDebugDialog {
 namespace {
 
-// --- Cable names ---
-
-using CableWriter = int (*)(TextOut& out, const CableOption& cable);
-
-int write_zarvek(TextOut& out, const CableOption& cable);
-int write_plugin(TextOut& out, const CableOption& cable);
-int write_digilent(TextOut& out, const CableOption& cable);
-
-// A name in the text. Where a type has several, the first one is written; without a writer a type is only read.
-struct CableName {
-  std::string_view name;
-  Engine::CableType type;
-  CableWriter write = nullptr;
-};
-
-constexpr CableName kNames[] = {
-    {"zarvek_parallel", Engine::ZARVEK_PARALLEL4, write_zarvek},
-    {"zarvek_parallel4", Engine::ZARVEK_PARALLEL4},
-    {"zarvek_parallel3", Engine::ZARVEK_PARALLEL3, write_zarvek},
-    {"zarvek_platformusb", Engine::ZARVEK_PLATFORMUSB, write_zarvek},
-    {"zarvek_svffile", Engine::ZARVEK_SVFFILE},
-    {"zarvek_plugin", Engine::ZARVEK_PLUGIN, write_plugin},
-    {"digilent_plugin", Engine::DIGILENT_PLUGIN, write_digilent},
-    {"zarvek_tcf", Engine::ZARVEK_TCF},
-};
-
-// A new type overwrites the port where the type has one, and nothing else.
-int read_type(const Pair& pair, CableOption& cable, EngineImp& imp) {
-  const CableName* const name = find_row<kNames>(pair.value, pair.letterCase);
-  if (name == nullptr) return kError;
-  if (name->type == Engine::ZARVEK_SVFFILE) {
-    imp.engine->SetErrorStr("Cable Type zarvek_svffile is not supported in this release\n");
-    return kError;
-  }
-  cable.type = name->type;
-  if (const std::string_view port = cable_kind(cable.type).defaultPort; !port.empty()) cable.port = port;
-  return kValue;
-}
-
 // --- Keywords ---
 
-int read_fname(const Pair& pair, CableOption& cable, EngineImp& imp) {
-  imp.currentProcessor->svfFileSet = 1;
-  cable.fname = pair.value;
-  return kValue;
+bool read_type(const Keyword& row, const KeywordAndValue& pair, const Records& to);
+
+bool read_fname(const Keyword& /*row*/, const KeywordAndValue& pair, const Records& to) {
+  to.processor->svfFileSet = 1;
+  to.cable->fname = pair.value;
+  return true;
 }
 
-int read_modulearg(const Pair& pair, CableOption& cable, EngineImp& /*imp*/) {
-  if (!cable.modulearg.empty()) cable.modulearg += ';';
-  cable.modulearg += pair.value;
-  return kValue;
+bool read_modulearg(const Keyword& /*row*/, const KeywordAndValue& pair, const Records& to) {
+  std::string& arguments = to.cable->modulearg;
+  if (!arguments.empty()) arguments += ';';
+  arguments += pair.value;
+  return true;
 }
 
-// Every argument is written with a keyword of its own, empty ones too; the row writes the first keyword.
-void write_modulearg(TextOut::Pen& pen, const CableOption& cable) {
-  pen.put(boost::replace_all_copy(cable.modulearg, ";", " modulearg "));
+// Every argument is written with a keyword of its own, empty ones too.
+void write_modulearg(const Keyword& row, TextOut& out, const Records& from) {
+  out.put_name(row.name);
+  out.put(boost::replace_all_copy(from.cable->modulearg, ";", row.name.written()));
 }
+
+constexpr When kWithoutEsn = {[](const Keyword&, const Records& r) { return r.cable->esn.empty(); },
+                              "parallel and USB cables without ESN"};
+constexpr When kWithEsn = {[](const Keyword&, const Records& r) { return !r.cable->esn.empty(); },
+                           "parallel and USB cables"};
+constexpr When kPlugin = {kAlways.holds, "plug-in cable"};
+constexpr When kWithArguments = {[](const Keyword&, const Records& r) { return !r.cable->modulearg.empty(); },
+                                 "plug-in cable; one `modulearg` for each"};
+
+constexpr Keyword kKeywords[] = {
+    {.name = " type ",
+     .kind = Kind::word,
+     .written = {kAlways.holds, "except `zarvek_tcf`"},
+     .read = read_type,
+     .meaning = "below",
+     .initial = "no cable"},
+    {.name = " port ", .field = &CableOption::port, .written = kWithoutEsn, .initial = "that of the type"},
+    {.name = " frequency ",
+     .kind = Kind::number,
+     .field = &CableOption::frequency,
+     .written = kWithoutEsn,
+     .unit = "Hz",
+     .initial = "that of the type, see below"},
+    {.name = " esn ",
+     .field = &CableOption::esn,
+     .written = kWithEsn,
+     .meaning = "serial number that selects one cable"},
+    {.name = " modulename ",
+     .field = &CableOption::modulename,
+     .written = kPlugin,
+     .meaning = "module of a plug-in cable"},
+    {.name = " modulearg ",
+     .field = &CableOption::modulearg,
+     .written = kWithArguments,
+     .read = read_modulearg,
+     .write = write_modulearg,
+     .meaning = "an argument of the module; may come several times"},
+    {.name = " fname ",
+     .field = &CableOption::fname,
+     .written = never("no cable with an output file can be written"),
+     .read = read_fname,
+     .meaning = "output file"},
+    {.name = " url ", .field = &CableOption::url, .written = never("the debugger has no use for it")},
+};
+
+// A row by its name; what names none does not compile.
+consteval const Keyword* row(std::string_view name) {
+  const Keyword* found = kKeywords;
+  while (found->name.text() != name) ++found;
+  return found;
+}
+
+// --- Types ---
+
+constexpr std::uint32_t kParallel4Hz[] = {200000, 625000, 2500000, 5000000};
+constexpr std::uint32_t kParallel3Hz[] = {200000};
+constexpr std::uint32_t kPlatformUsbHz[] = {750000, 1500000, 3000000, 6000000, 12000000, 24000000};
+constexpr std::uint32_t kTcfHz[] = {125000,  250000,  500000,  750000,   1000000,  1500000,  2000000,  3000000, 4000000,
+                                    5000000, 6000000, 7500000, 10000000, 12000000, 15000000, 24000000, 30000000};
+
+constexpr Name kParallel4Names[] = {"zarvek_parallel", "zarvek_parallel4"};
+constexpr Name kParallel3Names[] = {"zarvek_parallel3"};
+constexpr Name kPlatformUsbNames[] = {"zarvek_platformusb"};
+constexpr Name kSvfFileNames[] = {"zarvek_svffile"};
+constexpr Name kPluginNames[] = {"zarvek_plugin"};
+constexpr Name kDigilentNames[] = {"digilent_plugin"};
+constexpr Name kTcfNames[] = {"zarvek_tcf"};
 
 // A cable that its serial number selects is written without port and frequency.
-bool has_esn(const CableOption& cable) { return !cable.esn.empty(); }
-bool has_no_esn(const CableOption& cable) { return cable.esn.empty(); }
-bool has_modulearg(const CableOption& cable) { return !cable.modulearg.empty(); }
+constexpr const Keyword* kZarvekWrites[] = {row("port"), row("frequency"), row("esn")};
+constexpr const Keyword* kPluginWrites[] = {row("modulename"), row("modulearg")};
 
-using Row = Keyword<CableOption>;
-
-constexpr Row kKeywords[] = {
-    {.name = "type", .read = read_type},
-    {.name = "port", .field = &CableOption::port, .written = has_no_esn},
-    {.name = "frequency", .field = &CableOption::frequency, .written = has_no_esn},
-    {.name = "esn", .field = &CableOption::esn, .written = has_esn},
-    {.name = "modulename", .field = &CableOption::modulename, .written = always<CableOption>},
-    {.name = "modulearg", .read = read_modulearg, .written = has_modulearg, .write = write_modulearg},
-    {.name = "fname", .read = read_fname},
-    {.name = "url", .field = &CableOption::url},
+// The refusal texts list what they have always listed: that of the TCF cable differs from what is accepted.
+constexpr CableType kTypes[] = {
+    {.type = Engine::ZARVEK_PARALLEL4,
+     .names = kParallel4Names,
+     .defaultPort = "LPT1",
+     .defaultFrequency = 5000000,
+     .accepted = kParallel4Hz,
+     .offered = kParallel4Hz,
+     .refusal = "UnSupported Zarvek Parallel4 Cable Frequency - %d\n"
+                " Supported Frequencies: 200000, 625000, 2500000, 5000000",
+     .writes = kZarvekWrites},
+    {.type = Engine::ZARVEK_PARALLEL3,
+     .names = kParallel3Names,
+     .defaultPort = "LPT1",
+     .defaultFrequency = 200000,
+     .accepted = kParallel3Hz,
+     .offered = kParallel3Hz,
+     .refusal = "UnSupported Zarvek Parallel3 Cable Frequency - %d\n"
+                "\t Supported Frequencies: 200000",
+     .writes = kZarvekWrites},
+    {.type = Engine::ZARVEK_PLATFORMUSB,
+     .names = kPlatformUsbNames,
+     .defaultPort = "USB21",
+     .defaultFrequency = 6000000,
+     .accepted = kPlatformUsbHz,
+     .offered = kPlatformUsbHz,
+     .refusal = "UnSupported Zarvek PlatformUSB Cable Frequency - %d\n"
+                "Supported Frequencies: 750000, 1500000, 3000000, 6000000, 12000000, 24000000",
+     .writes = kZarvekWrites},
+    {.type = Engine::ZARVEK_TCF,
+     .names = kTcfNames,
+     .accepted = kTcfHz,
+     .refusal = "UnSupported Zarvek TCF Cable Frequency - %d\n"
+                "Supported Frequencies: 750000, 1500000, 3000000, 6000000, 10000000, 12000000, 15000000, 20000000, "
+                "24000000, 30000000",
+     .notWritten = "the debugger is not told how to use this cable"},
+    {.type = Engine::ZARVEK_PLUGIN, .names = kPluginNames, .writes = kPluginWrites},
+    {.type = Engine::DIGILENT_PLUGIN, .names = kDigilentNames},
+    {.type = Engine::ZARVEK_SVFFILE,
+     .names = kSvfFileNames,
+     .notRead = "Cable Type zarvek_svffile is not supported in this release\n",
+     .notWritten = "not supported in this release"},
 };
-constexpr std::uint32_t kFrequencySeen = 1U << row_index(kKeywords, "frequency");
 
-int write_zarvek(TextOut& out, const CableOption& cable) {
-  write_pairs<kKeywords, row_index(kKeywords, "port"), row_index(kKeywords, "esn")>(out, cable);
-  return kValue;
-}
+constexpr CableType kNoCable = {.notWritten = "there is no such type"};
 
-int write_plugin(TextOut& out, const CableOption& cable) {
-  write_pairs<kKeywords, row_index(kKeywords, "modulename"), row_index(kKeywords, "modulearg")>(out, cable);
-  return kValue;
-}
-
-int write_digilent(TextOut& /*out*/, const CableOption& /*cable*/) { return kValue; }
-
-// What must hold at the end of the text; a cable that other options follow is not checked.
-int check_cable(EngineImp& imp, bool useDefault) {
-  const CableOption& cable = *imp.cable;
-  if (cable.type == Engine::ZARVEK_SVFFILE && cable.fname.empty()) {
-    imp.engine->SetErrorStr("SVF File NOT specified for Cable Type zarvek_svffile");
-    return kError;
+// A new type overwrites the port where the type has one, and nothing else.
+bool read_type(const Keyword& /*row*/, const KeywordAndValue& pair, const Records& to) {
+  const Bytes bytes = bytes_of(pair.value);
+  for (const CableType& type : kTypes) {
+    const auto named = [&](const Name& name) { return name.is(pair.value, bytes, pair.letterCase); };
+    if (std::ranges::none_of(type.names, named)) continue;
+    if (type.notRead != nullptr) {
+      to.imp->engine->SetErrorStr(type.notRead);
+      return false;
+    }
+    to.cable->type = type.type;
+    if (!type.defaultPort.empty()) to.cable->port = type.defaultPort;
+    return true;
   }
-  if (cable.type == Engine::ZARVEK_PLUGIN && cable.modulename.empty()) {
-    imp.engine->SetErrorStr("Plug-in Module NOT specified for Cable Type zarvek_plugin");
-    return kError;
-  }
-  return QvtOption_Parser::setcable_frequency(imp, useDefault ? 1 : 0) == kValue ? kEnd : kError;
+  return false;
 }
 
 }  // namespace
 
-// --- Reading ---
+constinit const Group kCable = {kKeywords, "UNKNOWN Parameter '%s' for  option '-cable'"};
 
-int read_cable(TokenCursor& in, EngineImp& imp) {
-  Reading<CableOption> reading = {*imp.cable, imp, in.letter_case()};
-  const int end = read_pairs<kKeywords>(in, reading, "UNKNOWN Parameter '%s' for  option '-cable'");
-  return end == kEnd ? check_cable(imp, (reading.seen & kFrequencySeen) == 0) : end;
+std::span<const CableType> cable_types() { return kTypes; }
+
+const CableType& cable_type(Engine::CableType type) {
+  const auto* const found = std::ranges::find(kTypes, type, &CableType::type);
+  return found != std::end(kTypes) ? *found : kNoCable;
 }
 
-int QvtOption_Parser::parse_cable(std::string& text, EngineImp& imp) { return on_text<read_cable>(text, imp); }
+// --- Reading ---
 
-int QvtOption_Parser::setcable_frequency(EngineImp& imp, int useDefault) {
+bool set_frequency(EngineImp& imp, bool useDefault) {
   CableOption& cable = *imp.cable;
-  const CableKind& kind = cable_kind(cable.type);
-  if (useDefault != 0) {
-    cable.frequency = kind.defaultFrequency;
-    return kValue;
+  const CableType& type = cable_type(cable.type);
+  if (useDefault) {
+    cable.frequency = type.defaultFrequency;
+    return true;
   }
-  if (std::ranges::find(kind.accepted, cable.frequency) != kind.accepted.end()) return kValue;
-  if (kind.refusal != nullptr) set_error(imp, kind.refusal, static_cast<std::int32_t>(cable.frequency));
-  return kError;
+  if (std::ranges::find(type.accepted, cable.frequency) != type.accepted.end()) return true;
+  if (type.refusal != nullptr) set_error(imp, type.refusal, static_cast<std::int32_t>(cable.frequency));
+  return false;
+}
+
+namespace {
+
+// What must hold at the end of the text; a cable that other options follow is not checked.
+bool check_cable(EngineImp& imp, bool hasFrequency) {
+  const CableOption& cable = *imp.cable;
+  if (cable.type == Engine::ZARVEK_SVFFILE && cable.fname.empty()) {
+    imp.engine->SetErrorStr("SVF File NOT specified for Cable Type zarvek_svffile");
+    return false;
+  }
+  if (cable.type == Engine::ZARVEK_PLUGIN && cable.modulename.empty()) {
+    imp.engine->SetErrorStr("Plug-in Module NOT specified for Cable Type zarvek_plugin");
+    return false;
+  }
+  return set_frequency(imp, !hasFrequency);
+}
+
+}  // namespace
+
+Outcome read_cable(const Option& /*option*/, TokenCursor& in, std::string_view /*typed*/, EngineImp& imp) {
+  const PairsRead read = read_pairs(in, kCable, records_of(imp));
+  if (read.outcome != Outcome::end) return read.outcome;
+  constexpr auto kFrequency = row("frequency") - kKeywords;
+  return check_cable(imp, (read.seen >> kFrequency & 1U) != 0) ? Outcome::end : Outcome::error;
 }
 
 // --- Writing ---
 
-int write_cable_section(TextOut& out, EngineImp& imp) {
-  const CableOption& cable = *imp.cable;
-  if (cable.type == Engine::CABLE_NONE) return kValue;
-  out.put(" -cable");
-  for (const CableName& name : kNames) {
-    if (name.type != cable.type || name.write == nullptr) continue;
-    out.put(" type ");
-    out.put(name.name);
-    return name.write(out, cable);
+void write_cable_keywords(TextOut& out, CableOption& cable, Engine::CableType type) {
+  const Records from = {.cable = &cable};
+  for (const Keyword* const keyword : cable_type(type).writes) {
+    if (is_written(*keyword, from)) write_pair(out, *keyword, from);
   }
-  imp.engine->SetErrorStr("Invalid Cable Type");
-  return kError;
 }
 
-int QvtOption_Parser::write_zarvek_cableoptions(std::string& out, const CableOption& cable) {
-  return on_end<write_zarvek>(out, cable);
-}
-
-int QvtOption_Parser::write_digilent_cableoptions(std::string& out, const CableOption& cable) {
-  return on_end<write_digilent>(out, cable);
-}
-
-int QvtOption_Parser::write_plugin_cableoptions(std::string& out, const CableOption& cable) {
-  return on_end<write_plugin>(out, cable);
+bool write_cable(TextOut& out, EngineImp& imp) {
+  CableOption& cable = *imp.cable;
+  if (cable.type == Engine::CABLE_NONE) return true;
+  out.put(" -cable");
+  const CableType& type = cable_type(cable.type);
+  if (type.notWritten != nullptr) {
+    imp.engine->SetErrorStr("Invalid Cable Type");
+    return false;
+  }
+  out.put_name(row("type")->name);
+  out.put_name(type.names.front());
+  write_cable_keywords(out, cable, cable.type);
+  return true;
 }
 
 }  // namespace SdkDebugDialog

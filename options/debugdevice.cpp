@@ -1,131 +1,172 @@
 // The "-debugdevice" option.
 
+#include <algorithm>
 #include <string>
 
-#include "SdkDebugDialog/Engine.h"
-#include "SdkDebugDialog/EngineImp.h"
-#include "SdkDebugDialog/ProcessorInfo.h"
 #include "model/base_address.h"
+#include "model/error_text.h"
 #include "model/processor_kind.h"
-#include "options/QvtOption_Parser.h"
 #include "options/groups.h"
-#include "options/keyword.h"
+#include "options/number.h"
+#include "options/pairs.h"
 
 namespace SdkDebugDialog {
 namespace {
 
-using R = ProcessorInfoImp;
-using Row = Keyword<R>;
+using P = ProcessorInfoImp;
 
-// --- Values that are more than a number or a text ---
-
-constexpr Word kProcessorTypes[] = {{"ppc405", kVariantPpc405}, {"ppc440", kVariantPpc440}};
-constexpr Word kSingle = {"sp", kFpuSingle};
-constexpr Word kDouble = {"dp", kFpuDouble};
-constexpr Word kFpuTypes[] = {kSingle, kDouble};
+// --- Values that are more than stored ---
 
 // A processor that the hardware description numbered keeps its number; the text may only repeat it. The number is
 // compared as the signed byte that is written.
-int read_cpunr(const Pair& pair, R& r, EngineImp& imp) {
+bool read_cpunr(const Keyword& /*row*/, const KeywordAndValue& pair, const Records& to) {
   const auto number = static_cast<std::uint32_t>(to_unsigned(pair.value));
-  if (imp.hwManager != nullptr) {
-    return static_cast<std::uint32_t>(static_cast<std::int8_t>(r.cpuNr)) == number ? kValue : kError;
+  std::uint8_t& cpuNr = to.processor->cpuNr;
+  if (to.imp->hwManager != nullptr) {
+    return static_cast<std::uint32_t>(static_cast<std::int8_t>(cpuNr)) == number;
   }
-  r.cpuNr = static_cast<std::uint8_t>(number);
-  return kValue;
+  cpuNr = static_cast<std::uint8_t>(number);
+  return true;
 }
 
-void write_cpunr(TextOut::Pen& pen, const R& r) { pen.put_decimal(static_cast<std::int8_t>(r.cpuNr)); }
-
-int read_proctype(const Pair& pair, R& r, EngineImp& /*imp*/) {
-  const Word* const type = find_row<kProcessorTypes>(pair.value, pair.letterCase);
-  r.procVariant = type != nullptr ? type->value : kVariantOtherPowerPC;
-  return type != nullptr ? kValue : kError;
+void write_cpunr(const Keyword& row, TextOut& out, const Records& from) {
+  out.put_decimal(row.name, static_cast<std::int8_t>(from.processor->cpuNr));
 }
 
-int read_fputype(const Pair& pair, R& r, EngineImp& imp) {
-  const Word* const type = find_row<kFpuTypes>(pair.value, pair.letterCase);
-  if (type == nullptr) {
-    set_error(imp, "UNKNOWN Parameter '%s' for  option '%s'", std::string(pair.value).c_str(),
-              std::string(pair.key).c_str());
-    return kError;
-  }
-  r.fpuType = type->value;
-  return kValue;
+bool read_proctype(const Keyword& row, const KeywordAndValue& pair, const Records& to) {
+  if (read_word(row, pair, to)) return true;
+  to.processor->procVariant = kVariantOtherPowerPC;
+  return false;
 }
 
-void write_fputype(TextOut::Pen& pen, const R& r) { pen.put((r.fpuType == kFpuSingle ? kSingle : kDouble).name); }
+bool read_fputype(const Keyword& row, const KeywordAndValue& pair, const Records& to) {
+  if (read_word(row, pair, to)) return true;
+  set_error(*to.imp, "UNKNOWN Parameter '%s' for  option '%s'", std::string(pair.value).c_str(),
+            std::string(pair.key).c_str());
+  return false;
+}
+
+// A misaligned base stays stored, but nothing follows it.
+bool read_base(const Keyword& row, const KeywordAndValue& pair, const Records& to) {
+  const auto field = std::get<std::uint32_t P::*>(row.field);
+  const auto address = static_cast<std::uint32_t>(to_unsigned(pair.value));
+  to.processor->*field = address;
+  return set_map_base(*to.imp, field, address);
+}
 
 // --- What is written ---
 
-bool has_device(const R& r) { return r.debugDevice != 0; }
-bool is_on_link(const R& r) { return r.connectionType != Engine::SIMULATOR && r.connectionType != Engine::STUB; }
-bool has_romem(const R& r) {
-  return r.connectionType == Engine::HARDWARE && r.romemStartAddr != kAddressNotSet && r.romemSize != 0;
-}
-bool has_isocm(const R& r) { return r.procVariant == kVariantPpc405 && r.isocmStartAddr != kAddressNotSet; }
-bool has_fpu(const R& r) { return r.procFamily == kFamilyPowerPC && r.fpuType != kFpuNone; }
+constexpr When kDeviceSet = {[](const Keyword&, const Records& r) { return r.processor->debugDevice != 0; },
+                             "unless 0"};
+constexpr When kOnLink = {[](const Keyword&, const Records& r) {
+                            const std::uint32_t connection = r.processor->connectionType;
+                            return connection != Engine::SIMULATOR && connection != Engine::STUB;
+                          },
+                          "unless the connection is simulator or stub"};
+constexpr When kRomemSet = {[](const Keyword&, const Records& r) {
+                              const P& p = *r.processor;
+                              return p.connectionType == Engine::HARDWARE && p.romemStartAddr != kAddressNotSet &&
+                                     p.romemSize != 0;
+                            },
+                            "hardware connection, start set and size not 0"};
+constexpr When kIsocmSet = {[](const Keyword&, const Records& r) {
+                              const P& p = *r.processor;
+                              return p.procVariant == kVariantPpc405 && p.isocmStartAddr != kAddressNotSet;
+                            },
+                            "ppc405, `isocmStartAdr` set"};
+constexpr When kFpu = {[](const Keyword&, const Records& r) {
+                         return r.processor->procFamily == kFamilyPowerPC && r.processor->fpuType != kFpuNone;
+                       },
+                       "PowerPC with FPU"};
 
-// A misaligned base stays stored, but nothing follows it.
-template <MapBaseIndex base>
-int read_base(const Pair& pair, R& r, EngineImp& imp) {
-  const auto address = static_cast<std::uint32_t>(to_unsigned(pair.value));
-  r.*kMapBases[base].field = address;
-  return set_map_base(imp, kMapBases[base], address) ? kValue : kError;
-}
+constexpr When kBaseSet = {[](const Keyword& row, const Records& r) {
+                             const P& p = *r.processor;
+                             return p.procFamily == kFamilyPowerPC &&
+                                    p.*std::get<std::uint32_t P::*>(row.field) != kAddressNotSet;
+                           },
+                           "PowerPC, when set"};
 
-template <MapBaseIndex base>
-bool has_base(const R& r) {
-  return r.procFamily == kFamilyPowerPC && r.*kMapBases[base].field != kAddressNotSet;
-}
+// --- Keywords ---
 
-template <MapBaseIndex base>
-constexpr Row base_row(std::string_view name) {
+constexpr Word kFpuTypes[] = {{"sp", kFpuSingle}, {"dp", kFpuDouble}};
+constexpr Word kProcessorTypes[] = {{"ppc405", kVariantPpc405}, {"ppc440", kVariantPpc440}};
+
+// A base of the debug address map.
+constexpr Keyword base(Name name, std::uint32_t P::*field, const char* meaning) {
   return {
-      .name = name, .field = kMapBases[base].field, .hex = true, .read = read_base<base>, .written = has_base<base>};
+      .name = name, .kind = Kind::address, .field = field, .written = kBaseSet, .read = read_base, .meaning = meaning};
 }
 
-constexpr Row kKeywords[] = {
-    {.name = "deviceNr", .field = &R::debugDevice, .written = has_device},
-    {.name = "cpunr", .read = read_cpunr, .written = is_on_link, .write = write_cpunr},
-    {.name = "romemStartAdr", .field = &R::romemStartAddr, .hex = true, .written = has_romem},
-    {.name = "romemSize", .field = &R::romemSize, .written = has_romem},
-    {.name = "isocmStartAdr", .field = &R::isocmStartAddr, .hex = true, .written = has_isocm},
-    {.name = "isocmSize", .field = &R::isocmSize, .written = has_isocm},
-    {.name = "isocmDcrStartAdr", .field = &R::isocmDcrStartAddr, .hex = true, .written = has_isocm, .gap = "  "},
-    base_row<kIcache>("icacheStartAdr"),
-    base_row<kItag>("itagStartAdr"),
-    base_row<kDcache>("dcacheStartAdr"),
-    base_row<kDtag>("dtagStartAdr"),
-    base_row<kTlb>("tlbStartAdr"),
-    base_row<kDcr>("dcrStartAdr"),
-    {.name = "fpuType", .read = read_fputype, .written = has_fpu, .write = write_fputype},
-    {.name = "proctype", .read = read_proctype},
-    {.name = "cpu_version", .field = &R::cpuVersion},
-    {.name = "odm_version", .field = &R::odmVersion},
-    {.name = "nCpu", .field = &R::nCpu, .isSigned = true},
+constexpr Keyword kKeywords[] = {
+    {.name = " deviceNr ",
+     .kind = Kind::number,
+     .field = &P::debugDevice,
+     .written = kDeviceSet,
+     .meaning = "debug device in the JTAG chain; 0 for none"},
+    {.name = " cpunr ",
+     .kind = Kind::number,
+     .field = &P::cpuNr,
+     .written = kOnLink,
+     .read = read_cpunr,
+     .write = write_cpunr,
+     .meaning = "processor on its debug link",
+     .initial = "1, or as in the design"},
+    {.name = " romemStartAdr ",
+     .kind = Kind::address,
+     .field = &P::romemStartAddr,
+     .written = kRomemSet,
+     .meaning = "read-only memory"},
+    {.name = " romemSize ", .kind = Kind::number, .field = &P::romemSize, .written = kRomemSet, .unit = "bytes"},
+    {.name = " isocmStartAdr ",
+     .kind = Kind::address,
+     .field = &P::isocmStartAddr,
+     .written = kIsocmSet,
+     .meaning = "on-chip instruction memory"},
+    {.name = " isocmSize ", .kind = Kind::number, .field = &P::isocmSize, .written = kIsocmSet, .unit = "bytes"},
+    {.name = "  isocmDcrStartAdr ",
+     .kind = Kind::address,
+     .field = &P::isocmDcrStartAddr,
+     .written = kIsocmSet,
+     .meaning = "its DCR base"},
+    base(" icacheStartAdr ", &P::icacheStartAddr, "instruction cache, and base of the debug address map"),
+    base(" itagStartAdr ", &P::itagStartAddr, "instruction tags"),
+    base(" dcacheStartAdr ", &P::dcacheStartAddr, "data cache"),
+    base(" dtagStartAdr ", &P::dtagStartAddr, "data tags"),
+    base(" tlbStartAdr ", &P::tlbStartAddr, "TLB"),
+    base(" dcrStartAdr ", &P::dcrStartAddr, "device control registers"),
+    {.name = " fpuType ",
+     .kind = Kind::word,
+     .field = &P::fpuType,
+     .words = kFpuTypes,
+     .written = kFpu,
+     .read = read_fputype,
+     .write = write_word,
+     .meaning = "single or double precision",
+     .initial = "no FPU"},
+    {.name = " proctype ",
+     .kind = Kind::word,
+     .field = &P::procVariant,
+     .words = kProcessorTypes,
+     .written = never("the target tells the debugger what the processor is"),
+     .read = read_proctype,
+     .initial = "as in the design"},
+    {.name = " cpu_version ", .field = &P::cpuVersion, .written = never("the debugger reads it from the processor")},
+    {.name = " odm_version ", .field = &P::odmVersion, .written = never("the debugger reads it from the debug module")},
+    {.name = " nCpu ",
+     .kind = Kind::signedNumber,
+     .field = &P::nCpu,
+     .written = never("the debugger reads it from the debug module")},
 };
 
 }  // namespace
 
-int read_debugdevice(TokenCursor& in, EngineImp& imp) {
-  Reading<R> reading = {*imp.currentProcessor, imp, in.letter_case()};
-  return read_pairs<kKeywords>(in, reading, "UNKNOWN Parameter '%s' for  option '-debugDevice'");
-}
+constinit const Group kDebugdevice = {kKeywords, "UNKNOWN Parameter '%s' for  option '-debugDevice'"};
 
-int QvtOption_Parser::parse_debugdevice(std::string& text, EngineImp& imp) {
-  return on_text<read_debugdevice>(text, imp);
-}
-
-int write_debugdevice(TextOut& out, EngineImp& imp) {
-  if (!any_written<kKeywords>(*imp.currentProcessor)) return kValue;
+void write_debugdevice(TextOut& out, EngineImp& imp) {
+  const Records from = records_of(imp);
+  if (std::ranges::none_of(kKeywords, [&](const Keyword& row) { return is_written(row, from); })) return;
   out.put(" -debugdevice");
-  write_pairs<kKeywords>(out, *imp.currentProcessor);
-  return kValue;
-}
-
-int QvtOption_Parser::write_debugdeviceoptions(std::string& out, EngineImp& imp) {
-  return on_end<write_debugdevice>(out, imp);
+  write_pairs(out, kKeywords, from);
 }
 
 }  // namespace SdkDebugDialog

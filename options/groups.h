@@ -1,58 +1,43 @@
 #pragma once
 
-// The readers of the option groups, on one cursor over the text. QvtOption_Parser offers each of them on a text of
-// its own; results are the same.
+// The readers and writers of the option groups, and of runs of options.
 
 #include <string_view>
 
-#include "options/TokenCursor.h"
+#include "options/syntax.h"
 
 namespace SdkDebugDialog {
 
-class EngineImp;
-class TextOut;
+// --- Reading ---
 
-// After an option that has a group: the kind of token that ended the group.
-int read_cable(TokenCursor& in, EngineImp& imp);
-int read_configdevice(TokenCursor& in, EngineImp& imp);
-int read_debugdevice(TokenCursor& in, EngineImp& imp);
-int read_pfsl(TokenCursor& in, EngineImp& imp);
-int read_modelsim(TokenCursor& in, EngineImp& imp);
+// For Option::read.
+Outcome read_cable(const Option& option, TokenCursor& in, std::string_view typed, EngineImp& imp);
+Outcome read_configdevice(const Option& option, TokenCursor& in, std::string_view typed, EngineImp& imp);
 
-// The argument of an option, which is passed as it was typed: kValue or kError; read_stub_option: or the kind of
-// token found in place of the argument.
-int read_bscan(TokenCursor& in, std::string_view option, EngineImp& imp);
-int read_stub_option(TokenCursor& in, std::string_view option, EngineImp& imp);
+// The value of an option of the stub, of any name; or what is there instead of a value.
+Outcome read_stub_option(std::string_view option, TokenCursor& in, EngineImp& imp);
 
-// The run of general options after a connection keyword: kValue or kError.
-int read_general_options(TokenCursor& in, EngineImp& imp);
+// Reads options up to the end of the text; false for an error.
+bool read_options(TokenCursor& in, EngineImp& imp, const Run& run);
 
-// What follows a target keyword: kValue or kError.
-int read_ov_target(TokenCursor& in, EngineImp& imp);
-int read_odm_target(TokenCursor& in, EngineImp& imp);
-int read_ppc_target(TokenCursor& in, EngineImp& imp);
-int read_ppcsim(TokenCursor& in, EngineImp& imp);
-int read_arm_target(TokenCursor& in, EngineImp& imp);
-int read_r5_target(TokenCursor& in, EngineImp& imp);
-int read_dap_target(TokenCursor& in, EngineImp& imp);
-int read_dcc_target(TokenCursor& in, EngineImp& imp);
-int read_qmtc_target(TokenCursor& in, EngineImp& imp);
-int read_virtual_platform(TokenCursor& in, EngineImp& imp);
+// The option that the word names in this run; null when it names none.
+const Option* find_option(std::string_view word, const Run& run, const LetterCase& letterCase);
 
-// The writers of the option groups, on one collector; QvtOption_Parser offers each of them on a text. kValue, or kError
-// where the group cannot be written.
-int write_cable_section(TextOut& out, EngineImp& imp);  // from " -cable" on; nothing without a cable
-int write_cable_and_chain(TextOut& out, EngineImp& imp);
-int write_chain_and_device(TextOut& out, EngineImp& imp);  // the cable first
-int write_debugdevice(TextOut& out, EngineImp& imp);
-int write_serial_stub(TextOut& out, EngineImp& imp);
-int write_ppcsim(TextOut& out, EngineImp& imp);
-void write_bscan(TextOut& out, const EngineImp& imp);
-void write_comm(TextOut& out, const EngineImp& imp);  // " -comm jtag" or " -comm serial"
+// --- Writing: false where the group cannot be written ---
 
-// The writers of the targets.
-int write_ov_target(TextOut& out, EngineImp& imp);
-int write_ppc_target(TextOut& out, EngineImp& imp);
-int write_virtual_platform(TextOut& out, EngineImp& imp);  // head included
+bool write_cable(TextOut& out, EngineImp& imp);  // nothing without a cable
+void write_cable_keywords(TextOut& out, CableOption& cable,
+                          Engine::CableType type);  // as a cable of this type has them
+bool write_cable_and_chain(TextOut& out, EngineImp& imp);
+bool write_chain_and_device(TextOut& out, EngineImp& imp);  // the cable first
+void write_debugdevice(TextOut& out, EngineImp& imp);
+void write_bscan(TextOut& out, EngineImp& imp);
+bool write_stub(TextOut& out, EngineImp& imp);
+void write_serial_stub(TextOut& out, EngineImp& imp);
+bool write_ppcsim(TextOut& out, EngineImp& imp);
+
+// Gives the cable its type's default frequency, or checks the one it has: false, with an error text for some types,
+// when the type does not accept it.
+bool set_frequency(EngineImp& imp, bool useDefault);
 
 }  // namespace SdkDebugDialog

@@ -1,112 +1,115 @@
-// The JTAG chain: the "-configdevice" option, and texts of cable and chain alone.
+// The JTAG chain: the "-configdevice" option.
 
+#include <algorithm>
 #include <memory>
 #include <string>
 
-#include "SdkDebugDialog/EngineImp.h"
-#include "SdkDebugDialog/JtagOption.h"
-#include "options/QvtOption_Parser.h"
 #include "options/groups.h"
-#include "options/keyword.h"
-#include "options/option_loop.h"
+#include "options/pairs.h"
 
 namespace SdkDebugDialog {
 namespace {
 
-int read_jtagport(const Pair& pair, JtagOption& /*device*/, EngineImp& imp) {
-  imp.cpuJtag = pair.letterCase.same(pair.value, "cpu") ? 1 : 0;
-  return imp.cpuJtag == 1 ? kValue : kError;
+bool read_jtagport(const Keyword& row, const KeywordAndValue& pair, const Records& to) {
+  to.imp->cpuJtag = find_name(row.words, pair.value, pair.letterCase) != nullptr ? 1 : 0;
+  return to.imp->cpuJtag == 1;
 }
 
-int read_hardppc(const Pair& pair, JtagOption& device, EngineImp& /*imp*/) {
-  device.hardppc = pair.letterCase.same(pair.value, "ppc405") ? 1 : 2;
-  return kValue;
+// Any word but ppc405 is another core.
+bool read_hardppc(const Keyword& row, const KeywordAndValue& pair, const Records& to) {
+  to.device->hardppc = find_name(row.words, pair.value, pair.letterCase) != nullptr ? 1 : 2;
+  return true;
 }
 
-using Row = Keyword<JtagOption>;
+constexpr Word kPorts[] = {{"cpu", 1}};
+constexpr Word kHardCores[] = {{"ppc405", 1}};
+constexpr When kNever = never("the debugger finds it out by itself");
 
-constexpr Row kKeywords[] = {
-    {.name = "devicenr", .field = &JtagOption::devicenr, .written = always<JtagOption>},
-    {.name = "partname", .field = &JtagOption::partname, .written = always<JtagOption>},
-    {.name = "irlength", .field = &JtagOption::irlength, .written = always<JtagOption>},
-    {.name = "idcode", .field = &JtagOption::idcode, .hex = true, .written = always<JtagOption>},
-    {.name = "jtagport", .read = read_jtagport},
-    {.name = "isfpga", .field = &JtagOption::isfpga},
-    {.name = "hardppc", .read = read_hardppc},
-    {.name = "nppc", .field = &JtagOption::nppc},
+constexpr Keyword kKeywords[] = {
+    {.name = " devicenr ",
+     .kind = Kind::number,
+     .field = &JtagOption::devicenr,
+     .written = kAlways,
+     .meaning = "position in the chain"},
+    {.name = " partname ", .field = &JtagOption::partname, .written = kAlways},
+    {.name = " irlength ",
+     .kind = Kind::number,
+     .field = &JtagOption::irlength,
+     .written = kAlways,
+     .meaning = "instruction register",
+     .unit = "bits"},
+    {.name = " idcode ",
+     .kind = Kind::hexadecimal,
+     .field = &JtagOption::idcode,
+     .written = kAlways,
+     .meaning = "JTAG IDCODE"},
+    {.name = " isfpga ",
+     .kind = Kind::number,
+     .field = &JtagOption::isfpga,
+     .written = kNever,
+     .meaning = "not 0 for an FPGA"},
+    {.name = " hardppc ",
+     .kind = Kind::word,
+     .field = &JtagOption::hardppc,
+     .words = kHardCores,
+     .written = kNever,
+     .read = read_hardppc,
+     .meaning = "or any other text for another core",
+     .initial = "none"},
+    {.name = " nppc ",
+     .kind = Kind::number,
+     .field = &JtagOption::nppc,
+     .written = kNever,
+     .meaning = "hard PowerPC cores"},
+    {.name = " jtagport ",
+     .kind = Kind::word,
+     .words = kPorts,
+     .written = {kAlways.holds, "as `-configdevice jtagpin cpujtag`"},
+     .read = read_jtagport,
+     .meaning = "the processor is reached through its own JTAG pins",
+     .notReadBack = "the written form is for the debugger; the reader knows `jtagport cpu`"},
 };
+constexpr auto kWritten = std::span(kKeywords).first<4>();
+static_assert(std::ranges::none_of(std::span(kKeywords).subspan<4>(),
+                                   [](const Keyword& row) {
+                                     return row.written.holds != nullptr && row.read == nullptr;
+                                   }),
+              "rows that are written for a device come first");
 
-constexpr Option kCableAndChain[] = {
-    {.name = "-debugdevice", .group = read_debugdevice},
-    {.name = "-cable", .group = read_cable},
-    {.name = "-configdevice", .group = read_configdevice},
-    {.name = "-bscan", .argument = read_bscan},
-};
+constexpr Name kOption = " -configdevice";
 
 }  // namespace
 
-// --- One device ---
+constinit const Group kConfigdevice = {kKeywords, "UNKNOWN Parameter '%s' for option '-configDevice'"};
 
-int read_configdevice(TokenCursor& in, EngineImp& imp) {
+Outcome read_configdevice(const Option& /*option*/, TokenCursor& in, std::string_view /*typed*/, EngineImp& imp) {
   auto device = std::make_unique_for_overwrite<JtagOption>();
-  Reading<JtagOption> reading = {*device, imp, in.letter_case()};
-  const int end = read_pairs<kKeywords>(in, reading, "UNKNOWN Parameter '%s' for option '-configDevice'");
-  if (reading.refused) return kError;
-  // A device whose last key lacks its value joins the chain all the same.
+  const PairsRead read = read_pairs(in, kConfigdevice, records_of(imp, device.get()));
+  if (read.refused) return Outcome::error;
+  // A device whose last keyword lacks its value joins the chain all the same.
   imp.jtagChain.push_back(device.get());
   device.release();  // NOLINT(bugprone-unused-return-value): the chain's holder releases it
-  return end;
+  return read.outcome;
 }
 
-int QvtOption_Parser::parse_configdevice(std::string& text, EngineImp& imp) {
-  return on_text<read_configdevice>(text, imp);
-}
-
-int write_cable_and_chain(TextOut& out, EngineImp& imp) {
-  if (const int refused = write_cable_section(out, imp); refused != kValue) return refused;
+bool write_cable_and_chain(TextOut& out, EngineImp& imp) {
+  if (!write_cable(out, imp)) return false;
   write_bscan(out, imp);
-  // This form is not read back: the reader knows the pair "jtagport cpu".
-  if (imp.cpuJtag == 1) out.put(" -configdevice jtagpin cpujtag");
-  for (const JtagOption* const device : imp.jtagChain) {
-    out.put(" -configdevice");
-    write_pairs<kKeywords>(out, *device);
+  if (imp.cpuJtag == 1) {
+    out.put_name(kOption);
+    out.put(" jtagpin cpujtag");
   }
-  return kValue;
-}
-
-int QvtOption_Parser::write_jtagoptions(std::string& out, EngineImp& imp) {
-  return on_end<write_cable_and_chain>(out, imp);
-}
-
-int write_chain_and_device(TextOut& out, EngineImp& imp) {
-  if (const int refused = write_cable_and_chain(out, imp); refused != kValue) return refused;
-  return write_debugdevice(out, imp);
-}
-
-// --- Cable and chain alone ---
-
-int QvtOption_Parser::ReadJtagCableOptions(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) {
-    const int end = read_options<kCableAndChain>(in, imp, "UNKNOWN Option '%s'", UnknownName::lastToken);
-    return end == kEnd ? kValue : kNotUnderstood;
-  });
-}
-
-namespace {
-
-int write_cable_text(TextOut& out, EngineImp& imp) {
-  if (write_cable_and_chain(out, imp) != kValue) return kCannotBeWritten;
-  if (imp.currentProcessor->debugDevice != 0) {
-    out.put(" -debugdevice deviceNr ");
-    out.put_decimal(imp.currentProcessor->debugDevice);
+  for (JtagOption* const device : imp.jtagChain) {
+    out.put_name(kOption);
+    write_pairs(out, kWritten, {.device = device});
   }
-  return kValue;
+  return true;
 }
 
-}  // namespace
-
-int QvtOption_Parser::WriteJtagCableOptionsString(EngineImp& imp, std::string& out) {
-  return on_end<write_cable_text>(out, imp);
+bool write_chain_and_device(TextOut& out, EngineImp& imp) {
+  if (!write_cable_and_chain(out, imp)) return false;
+  write_debugdevice(out, imp);
+  return true;
 }
 
 }  // namespace SdkDebugDialog

@@ -2,70 +2,68 @@
 
 #include <string>
 
-#include "SdkDebugDialog/Engine.h"
-#include "SdkDebugDialog/EngineImp.h"
-#include "SdkDebugDialog/ProcessorInfo.h"
-#include "options/QvtOption_Parser.h"
+#include "model/error_text.h"
 #include "options/groups.h"
-#include "options/keyword.h"
+#include "options/pairs.h"
 
 namespace SdkDebugDialog {
 namespace {
 
-using R = ProcessorInfoImp;
+using P = ProcessorInfoImp;
 
-constexpr Word kJtag = {"jtag", Engine::STUB_OVER_JTAG};
-constexpr Word kSerial = {"serial", Engine::STUB_OVER_SERIAL};
-constexpr Word kLinks[] = {kJtag, kSerial};
+constexpr Word kLinks[] = {{"jtag", Engine::STUB_OVER_JTAG}, {"serial", Engine::STUB_OVER_SERIAL}};
+constexpr When kSerial = {
+    [](const Keyword&, const Records& r) { return r.processor->stubType != Engine::STUB_OVER_JTAG; }, "serial stub"};
 
-int read_comm(const Pair& pair, R& r, EngineImp& /*imp*/) {
-  const Word* const link = find_row<kLinks>(pair.value, pair.letterCase);
-  if (link == nullptr) return kError;
-  r.stubType = link->value;
-  return kValue;
-}
-
-// The rate has always stood behind two blanks.
-void write_baud(TextOut::Pen& pen, const R& r) {
-  pen.put(" ");
-  pen.put_decimal(r.stubBaudRate);
-}
-
-constexpr Keyword<R> kOptions[] = {
-    {.name = "-comm", .read = read_comm},
-    {.name = "-port", .field = &R::stubSerialPort, .written = always<R>},
-    {.name = "-baud", .field = &R::stubBaudRate, .written = always<R>, .write = write_baud, .gap = "  "},
-    {.name = "-timeout", .field = &R::stubTimeout, .written = always<R>},
+constexpr Keyword kKeywords[] = {
+    {.name = " -comm ",
+     .kind = Kind::word,
+     .field = &P::stubType,
+     .words = kLinks,
+     .written = {kAlways.holds, "connection `stub`"},
+     .read = read_word,
+     .write = write_word},
+    {.name = " -port ", .field = &P::stubSerialPort, .written = kSerial, .meaning = "serial device"},
+    {.name = "  -baud  ",
+     .kind = Kind::number,
+     .field = &P::stubBaudRate,
+     .written = kSerial,
+     .meaning = "rate",
+     .unit = "baud",
+     .initial = "0, not set"},
+    {.name = " -timeout ",
+     .kind = Kind::number,
+     .field = &P::stubTimeout,
+     .written = kSerial,
+     .meaning = "handed to the debugger as it is"},
 };
+constexpr auto kSerialRows = std::span(kKeywords).subspan<1>();
 
 }  // namespace
 
-int read_stub_option(TokenCursor& in, std::string_view option, EngineImp& imp) {
+// The option stands where the text says parameter, and the value where it says option.
+constinit const Group kStub = {kKeywords, "UNKNOWN Parameter '%s' for  option '%s'"};
+
+Outcome read_stub_option(std::string_view option, TokenCursor& in, EngineImp& imp) {
   std::string_view value;
-  if (const int kind = in.next(value); kind != kValue) return kind;
-  Reading<R> reading = {*imp.currentProcessor, imp, in.letter_case()};
-  if (const int result = read_pair<kOptions>(option, value, reading); result != kOtherKey) return result;
-  // The option stands where the text says parameter, and the value where it says option.
-  set_error(imp, "UNKNOWN Parameter '%s' for  option '%s'", std::string(option).c_str(), std::string(value).c_str());
-  return kError;
+  if (const Token found = in.next(value); found != Token::value) {
+    return found == Token::option ? Outcome::option : Outcome::end;
+  }
+  const Keyword* const row = find_name(kStub.keywords, option, in.letter_case());
+  if (row == nullptr) set_error(imp, kStub.unknown, std::string(option).c_str(), std::string(value).c_str());
+  const bool stored = row != nullptr && read_value(*row, {option, value, in.letter_case()}, records_of(imp));
+  return stored ? Outcome::done : Outcome::error;
 }
 
-int QvtOption_Parser::parse_commoptions(std::string& text, std::string option, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return read_stub_option(in, option, imp); });
+bool write_stub(TextOut& out, EngineImp& imp) {
+  write_pair(out, kKeywords[0], records_of(imp));
+  if (imp.currentProcessor->stubType == Engine::STUB_OVER_JTAG) return write_chain_and_device(out, imp);
+  write_serial_stub(out, imp);
+  return true;
 }
 
-void write_comm(TextOut& out, const EngineImp& imp) {
-  out.put(" -comm ");
-  out.put((imp.currentProcessor->stubType == Engine::STUB_OVER_JTAG ? kJtag : kSerial).name);
-}
-
-int write_serial_stub(TextOut& out, EngineImp& imp) {
-  write_pairs<kOptions>(out, *imp.currentProcessor);
-  return kValue;
-}
-
-int QvtOption_Parser::write_commoptions(std::string& out, EngineImp& imp) {
-  return on_end<write_serial_stub>(out, imp);
+void write_serial_stub(TextOut& out, EngineImp& imp) {
+  for (const Keyword& row : kSerialRows) write_pair(out, row, records_of(imp));
 }
 
 }  // namespace SdkDebugDialog

@@ -17,7 +17,7 @@ class HHSMHwManager;
 
 namespace SdkDebugDialog {
 
-class NameIndex;
+struct ProcessorIndex;
 
 // The whole debug configuration of one Engine. The fields are open: readers, writers and queries work on them.
 class SDKDEBUGDIALOG_API EngineImp {
@@ -98,12 +98,9 @@ class SDKDEBUGDIALOG_API EngineImp {
   // Always 0: no processor is reported to reach a stub over JTAG.
   unsigned int IsStubJtagConnect(std::string processor);
 
-  // The first record of processorList with exactly this name; null when there is none. Quick however long the
-  // list is: names are remembered, so that a record that was given another one may still be found by the one before.
-  ProcessorInfoImp* FindProcessor(const std::string& name);
-
  private:
-  std::unique_ptr<NameIndex> m_names;  // of processorList, kept by FindProcessor
+  friend ProcessorInfoImp* find_listed(EngineImp& imp, const std::string& name);
+  std::unique_ptr<ProcessorIndex> m_index;  // of processorList
 };
 
 }  // namespace SdkDebugDialog

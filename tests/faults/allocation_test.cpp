@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "SdkDebugDialog/CableCatalogue.h"
+#include "model/processor_list.h"
 #include "options/QvtOption_Parser.h"
 #include "platform/ComMsgMgr.h"
 #include "platform/DesignFile.h"
@@ -223,7 +224,8 @@ constexpr Operation kOperations[] = {
     {"GetProcessorNr", [](Session& s) { return s.engine.GetProcessorNr(kPowerPC); }, 1, discover},
     {"GetProcessorNrOfAnother", [](Session& s) { return s.engine.GetProcessorNr("a_processor_of_another_design"); }, -1,
      discover},
-    {"FindProcessor", [](Session& s) { return s.imp.FindProcessor(kArm) == s.imp.processorList.back() ? 0 : 1; }, 0,
+    {"find_listed",
+     [](Session& s) { return SdkDebugDialog::find_listed(s.imp, kArm) == s.imp.processorList.back() ? 0 : 1; }, 0,
      discover},
 
     {"ParseOvHardware", parse<kSoft, kOvHardware>, 0, discover},

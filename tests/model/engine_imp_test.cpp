@@ -14,6 +14,7 @@
 
 #include "SdkDebugDialog/EngineImp.h"
 #include "model/error_text.h"
+#include "model/processor_list.h"
 #include "tests/support/DefaultSettings.h"
 #include "tests/support/FakeHardware.h"
 #include "tests/support/SelectedEngine.h"
@@ -117,60 +118,60 @@ TEST(EngineImp, FormatsErrorTextsOfUpTo2047Characters) {
 
 // --- Finding a processor by name ---
 
-TEST(FindProcessor, FindsNothingInAnEmptyList) {
+TEST(ProcessorList, FindsNothingInAnEmptyList) {
   EngineImp imp;
-  EXPECT_EQ(imp.FindProcessor(""), nullptr);
-  EXPECT_EQ(imp.FindProcessor("ovrin_0"), nullptr);
+  EXPECT_EQ(find_listed(imp, ""), nullptr);
+  EXPECT_EQ(find_listed(imp, "ovrin_0"), nullptr);
 }
 
-TEST(FindProcessor, ComparesByteForByte) {
+TEST(ProcessorList, ComparesByteForByte) {
   DiscoveredEngine d;
   const ProcessorInfoImp* const ovrin = &d.list("ovrin_0");
   const ProcessorInfoImp* const zero = &d.list(std::string("ovrin_0\0x", 9));
   const ProcessorInfoImp* const nameless = &d.list("");
   const ProcessorInfoImp* const blank = &d.list(" ovrin_0");
-  EXPECT_EQ(d.imp.FindProcessor("ovrin_0"), ovrin);
-  EXPECT_EQ(d.imp.FindProcessor(std::string("ovrin_0\0x", 9)), zero);
-  EXPECT_EQ(d.imp.FindProcessor(""), nameless);
-  EXPECT_EQ(d.imp.FindProcessor(" ovrin_0"), blank);
+  EXPECT_EQ(find_listed(d.imp, "ovrin_0"), ovrin);
+  EXPECT_EQ(find_listed(d.imp, std::string("ovrin_0\0x", 9)), zero);
+  EXPECT_EQ(find_listed(d.imp, ""), nameless);
+  EXPECT_EQ(find_listed(d.imp, " ovrin_0"), blank);
   for (const char* const name : {"OVRIN_0", "Ovrin_0", "ovrin_0 ", "ovrin_", "ovrin_00", "\tovrin_0"}) {
-    EXPECT_EQ(d.imp.FindProcessor(name), nullptr) << name;
+    EXPECT_EQ(find_listed(d.imp, name), nullptr) << name;
   }
 }
 
-TEST(FindProcessor, TakesTheFirstOfSeveralWithOneName) {
+TEST(ProcessorList, TakesTheFirstOfSeveralWithOneName) {
   DiscoveredEngine d;
   d.list("other");
   const ProcessorInfoImp* const first = &d.list("twice");
   d.list("twice");
-  EXPECT_EQ(d.imp.FindProcessor("twice"), first);
-  EXPECT_EQ(d.imp.FindProcessor("twice"), first);
+  EXPECT_EQ(find_listed(d.imp, "twice"), first);
+  EXPECT_EQ(find_listed(d.imp, "twice"), first);
 }
 
-TEST(FindProcessor, SeesWhatWasAppended) {
+TEST(ProcessorList, SeesWhatWasAppended) {
   DiscoveredEngine d;
   d.list("a");
-  EXPECT_EQ(d.imp.FindProcessor("b"), nullptr);
+  EXPECT_EQ(find_listed(d.imp, "b"), nullptr);
   const ProcessorInfoImp* const b = &d.list("b");
-  EXPECT_EQ(d.imp.FindProcessor("b"), b);
+  EXPECT_EQ(find_listed(d.imp, "b"), b);
 }
 
-TEST(FindProcessor, FindsEveryoneWhileTheListGrows) {
+TEST(ProcessorList, FindsEveryoneWhileTheListGrows) {
   DiscoveredEngine d;
   std::vector<const ProcessorInfoImp*> records;
   for (int i = 0; i < 600; ++i) {
     records.push_back(&d.list("ovrin_" + std::to_string(i)));
     d.list("ovrin_" + std::to_string(i / 2));
-    ASSERT_EQ(d.imp.FindProcessor("ovrin_" + std::to_string(i + 1)), nullptr) << i;
+    ASSERT_EQ(find_listed(d.imp, "ovrin_" + std::to_string(i + 1)), nullptr) << i;
     for (int k = 0; k <= i; k += 7) {
       const std::string name = "ovrin_" + std::to_string(k);
-      ASSERT_EQ(d.imp.FindProcessor(name), records[static_cast<std::size_t>(k)]) << i << ' ' << k;
+      ASSERT_EQ(find_listed(d.imp, name), records[static_cast<std::size_t>(k)]) << i << ' ' << k;
     }
   }
 }
 
 // Names of which the ends alone are the same, or the beginnings, or the lengths.
-TEST(FindProcessor, TellsNamesOfAnyLengthApart) {
+TEST(ProcessorList, TellsNamesOfAnyLengthApart) {
   DiscoveredEngine d;
   std::vector<std::string> names;
   for (std::size_t length = 0; length <= 40; ++length) {
@@ -183,46 +184,25 @@ TEST(FindProcessor, TellsNamesOfAnyLengthApart) {
   std::vector<const ProcessorInfoImp*> records;
   records.reserve(names.size());
   for (const std::string& name : names) records.push_back(&d.list(name));
-  for (std::size_t i = 0; i < names.size(); ++i) EXPECT_EQ(d.imp.FindProcessor(names[i]), records[i]) << names[i];
+  for (std::size_t i = 0; i < names.size(); ++i) EXPECT_EQ(find_listed(d.imp, names[i]), records[i]) << names[i];
   for (std::string name : names) {
     name += 'c';
-    EXPECT_EQ(d.imp.FindProcessor(name), nullptr) << name;
-  }
-}
-
-// Whatever the index makes of a name, two of them are never the same.
-TEST(FindProcessor, TellsNamesOfOneHashApart) {
-  for (const char* const format : {"%07x", "ovrin_%07x", "%07x_ovrin_0", "ovrin_0_%07x_ovrin_0"}) {
-    // Among a hundred thousand names there are likely two whose hashes have the same lowest 32 bits.
-    std::unordered_map<std::uint32_t, std::string> byHash;
-    DiscoveredEngine d;
-    for (unsigned i = 0; d.imp.processorList.empty(); ++i) {
-      char name[32];
-      std::snprintf(name, sizeof name, format, i);
-      const auto hash = static_cast<std::uint32_t>(std::hash<std::string_view>()(name));
-      const auto [other, isNew] = byHash.try_emplace(hash, name);
-      if (isNew) continue;
-      const ProcessorInfoImp* const first = &d.list(other->second);
-      EXPECT_EQ(d.imp.FindProcessor(name), nullptr);
-      const ProcessorInfoImp* const second = &d.list(name);
-      EXPECT_EQ(d.imp.FindProcessor(other->second), first);
-      EXPECT_EQ(d.imp.FindProcessor(name), second);
-    }
+    EXPECT_EQ(find_listed(d.imp, name), nullptr) << name;
   }
 }
 
 // The list is open to its holder, who may change it in any way between two lookups.
-class FindProcessorInAListChangedByHand : public testing::Test {
+class ProcessorListChangedByHand : public testing::Test {
  protected:
-  FindProcessorInAListChangedByHand() {
+  ProcessorListChangedByHand() {
     for (const auto& [record, name] :
          {std::pair(&a, "a"), std::pair(&b, "b"), std::pair(&c, "c"), std::pair(&otherB, "b")}) {
       record->name = name;
     }
     imp.processorList = {&a, &b, &c};
-    EXPECT_EQ(imp.FindProcessor("a"), &a);
-    EXPECT_EQ(imp.FindProcessor("b"), &b);
-    EXPECT_EQ(imp.FindProcessor("c"), &c);
+    EXPECT_EQ(find_listed(imp, "a"), &a);
+    EXPECT_EQ(find_listed(imp, "b"), &b);
+    EXPECT_EQ(find_listed(imp, "c"), &c);
   }
 
   ProcessorInfoImp a;
@@ -232,61 +212,61 @@ class FindProcessorInAListChangedByHand : public testing::Test {
   EngineImp imp;
 };
 
-TEST_F(FindProcessorInAListChangedByHand, FindsNothingAfterItWasEmptied) {
+TEST_F(ProcessorListChangedByHand, FindsNothingAfterItWasEmptied) {
   imp.processorList.clear();
-  EXPECT_EQ(imp.FindProcessor("a"), nullptr);
-  EXPECT_EQ(imp.FindProcessor("b"), nullptr);
+  EXPECT_EQ(find_listed(imp, "a"), nullptr);
+  EXPECT_EQ(find_listed(imp, "b"), nullptr);
 }
 
-TEST_F(FindProcessorInAListChangedByHand, FindsTheRestAfterOneWasTakenOut) {
+TEST_F(ProcessorListChangedByHand, FindsTheRestAfterOneWasTakenOut) {
   imp.processorList.erase(imp.processorList.begin());
-  EXPECT_EQ(imp.FindProcessor("a"), nullptr);
-  EXPECT_EQ(imp.FindProcessor("b"), &b);
-  EXPECT_EQ(imp.FindProcessor("c"), &c);
+  EXPECT_EQ(find_listed(imp, "a"), nullptr);
+  EXPECT_EQ(find_listed(imp, "b"), &b);
+  EXPECT_EQ(find_listed(imp, "c"), &c);
 }
 
-TEST_F(FindProcessorInAListChangedByHand, FindsAllAfterOneWasPutInFront) {
+TEST_F(ProcessorListChangedByHand, FindsAllAfterOneWasPutInFront) {
   imp.processorList.insert(imp.processorList.begin(), &otherB);
-  EXPECT_EQ(imp.FindProcessor("a"), &a);
-  EXPECT_EQ(imp.FindProcessor("b"), &otherB);
-  EXPECT_EQ(imp.FindProcessor("c"), &c);
+  EXPECT_EQ(find_listed(imp, "a"), &a);
+  EXPECT_EQ(find_listed(imp, "b"), &otherB);
+  EXPECT_EQ(find_listed(imp, "c"), &c);
 }
 
-TEST_F(FindProcessorInAListChangedByHand, FindsAllAfterItWasTurnedAround) {
+TEST_F(ProcessorListChangedByHand, FindsAllAfterItWasTurnedAround) {
   imp.processorList = {&c, &b, &a};
-  EXPECT_EQ(imp.FindProcessor("a"), &a);
-  EXPECT_EQ(imp.FindProcessor("b"), &b);
-  EXPECT_EQ(imp.FindProcessor("c"), &c);
+  EXPECT_EQ(find_listed(imp, "a"), &a);
+  EXPECT_EQ(find_listed(imp, "b"), &b);
+  EXPECT_EQ(find_listed(imp, "c"), &c);
 }
 
-TEST_F(FindProcessorInAListChangedByHand, TakesTheFirstAfterItWasTurnedAroundWithTwoOfOneName) {
+TEST_F(ProcessorListChangedByHand, TakesTheFirstAfterItWasTurnedAroundWithTwoOfOneName) {
   imp.processorList = {&a, &b, &otherB};
-  EXPECT_EQ(imp.FindProcessor("b"), &b);
+  EXPECT_EQ(find_listed(imp, "b"), &b);
   imp.processorList = {&otherB, &a, &b};
-  EXPECT_EQ(imp.FindProcessor("b"), &otherB);
+  EXPECT_EQ(find_listed(imp, "b"), &otherB);
 }
 
-TEST_F(FindProcessorInAListChangedByHand, FindsTheRecordThatReplacedAnotherOfTheSameName) {
+TEST_F(ProcessorListChangedByHand, FindsTheRecordThatReplacedAnotherOfTheSameName) {
   imp.processorList[1] = &otherB;
-  EXPECT_EQ(imp.FindProcessor("b"), &otherB);
+  EXPECT_EQ(find_listed(imp, "b"), &otherB);
 }
 
-TEST_F(FindProcessorInAListChangedByHand, FindsTheRecordThatReplacedAnotherOfAnotherName) {
+TEST_F(ProcessorListChangedByHand, FindsTheRecordThatReplacedAnotherOfAnotherName) {
   ProcessorInfoImp d;
   d.name = "d";
   imp.processorList[1] = &d;
-  EXPECT_EQ(imp.FindProcessor("b"), nullptr);
-  EXPECT_EQ(imp.FindProcessor("d"), &d);
-  EXPECT_EQ(imp.FindProcessor("a"), &a);
+  EXPECT_EQ(find_listed(imp, "b"), nullptr);
+  EXPECT_EQ(find_listed(imp, "d"), &d);
+  EXPECT_EQ(find_listed(imp, "a"), &a);
 }
 
-TEST_F(FindProcessorInAListChangedByHand, FindsARecordByTheNameThatItWasGiven) {
+TEST_F(ProcessorListChangedByHand, FindsARecordByTheNameThatItWasGiven) {
   b.name = "a name of more than sixteen characters";
-  EXPECT_EQ(imp.FindProcessor(b.name), &b);
-  EXPECT_EQ(imp.FindProcessor("b"), nullptr);
+  EXPECT_EQ(find_listed(imp, b.name), &b);
+  EXPECT_EQ(find_listed(imp, "b"), nullptr);
 }
 
-TEST(FindProcessor, IsQuickInAListOf100000) {
+TEST(ProcessorList, IsQuickInAListOf100000) {
   constexpr int kCount = 100000;
   const auto records = std::make_unique<ProcessorInfoImp[]>(kCount);
   EngineImp imp;
@@ -296,7 +276,7 @@ TEST(FindProcessor, IsQuickInAListOf100000) {
   }
   // Walking the list for each of these would take minutes.
   for (int i = kCount - 1; i >= 0; --i) {
-    ASSERT_EQ(imp.FindProcessor("ovrin_" + std::to_string(i)), &records[static_cast<std::size_t>(i)]);
+    ASSERT_EQ(find_listed(imp, "ovrin_" + std::to_string(i)), &records[static_cast<std::size_t>(i)]);
   }
 }
 

@@ -14,7 +14,7 @@ using namespace std::string_literals;
 
 TEST(LetterCase, ComparesWholeWordsInAnyCase) {
   const GlobalLocale classic;
-  LetterCase letterCase;
+  const LetterCase letterCase;
   EXPECT_TRUE(letterCase.same("", ""));
   EXPECT_TRUE(letterCase.same("connect", "connect"));
   EXPECT_TRUE(letterCase.same("connect", "CONNECT"));
@@ -30,13 +30,13 @@ TEST(LetterCase, ComparesWholeWordsInAnyCase) {
   EXPECT_FALSE(letterCase.same("\xE4", "\xC4"));
 }
 
-TEST(LetterCase, IsThatOfAsciiInTheClassicLocaleAlone) {
+TEST(LetterCase, KnowsTheClassicLocale) {
   {
     const GlobalLocale classic;
-    EXPECT_TRUE(LetterCase().is_ascii());
+    EXPECT_TRUE(LetterCase().is_classic());
   }
   const GlobalLocale global(std::locale(std::locale::classic(), new std::ctype<char>));
-  EXPECT_FALSE(LetterCase().is_ascii());
+  EXPECT_FALSE(LetterCase().is_classic());
 }
 
 // Any two characters, in the locale of the run and in others.
@@ -47,7 +47,7 @@ TEST(LetterCase, AgreesWithTheLocaleOnEveryPairOfCharacters) {
   const std::locale ofTheRun;
   for (const std::locale& locale : {ofTheRun, std::locale::classic(), std::locale(ofTheRun, new Shouting)}) {
     const GlobalLocale global(locale);
-    LetterCase letterCase;
+    const LetterCase letterCase;
     for (int a = 0; a < 256; ++a) {
       for (int b = 0; b < 256; ++b) {
         const std::string one(1, static_cast<char>(a));

@@ -1,18 +1,20 @@
-#include "options/text_out.h"
-
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <cstdio>
 #include <string>
 
+#include "options/TextOut.h"
+
 namespace SdkDebugDialog {
 namespace {
+
+constexpr Name kOne = " one ";
 
 TEST(TextOut, AppendsPiecesInTheirOrderOnceItIsFlushed) {
   std::string text = "before";
   TextOut out(text);
-  out.put(joined<5>(" ", "one", " "));
+  out.put_name(kOne);
   out.put("two");
   out.put(std::string());
   EXPECT_EQ(text, "before");
@@ -31,17 +33,18 @@ TEST(TextOut, WritesNumbersLikePrintf) {
     std::string text;
     TextOut out(text);
     out.put_decimal(value);
+    out.put_decimal(kOne, value);
     out.flush();
-    EXPECT_EQ(text, expected);
+    EXPECT_EQ(text, std::string(expected) + " one " + expected);
   }
   for (const std::uint32_t value : {0U, 1U, 15U, 16U, 0x0A001093U, 0x70000000U, 0x7FFFFFFFU, 0xFFFFFFFFU}) {
     char expected[32];
     std::snprintf(expected, sizeof expected, "0x%x", value);
     std::string text;
     TextOut out(text);
-    TextOut::Pen(out).put_hex(value);
+    out.put_hex(kOne, value);
     out.flush();
-    EXPECT_EQ(text, expected);
+    EXPECT_EQ(text, std::string(" one ") + expected);
   }
 }
 
@@ -51,29 +54,18 @@ TEST(TextOut, LosesNothingWhereItsBufferEnds) {
     for (std::size_t second : {std::size_t{0}, std::size_t{1}, std::size_t{30}, std::size_t{1024}, std::size_t{5000}}) {
       std::string text;
       TextOut out(text);
-      {
-        TextOut::Pen pen(out);
-        pen.put(std::string(length, 'a'));
-        pen.put_decimal(-2147483647 - 1);
-        pen.put(std::string(second, 'b'));
-        pen.put_hex(0xFFFFFFFFU);
-      }
-      out.put(joined<3>("x", "y", "z"));
+      out.put(std::string(length, 'a'));
+      out.put_decimal(-2147483647 - 1);
+      out.put(kOne, std::string(second, 'b'));
+      out.put_hex(kOne, 0xFFFFFFFFU);
+      out.put(std::string(length, 'c'));
+      out.put_decimal(kOne, 7);
+      out.put_name(kOne);
       out.flush();
-      ASSERT_EQ(text, std::string(length, 'a') + "-2147483648" + std::string(second, 'b') + "0xffffffffxyz");
+      ASSERT_EQ(text, std::string(length, 'a') + "-2147483648 one " + std::string(second, 'b') + " one 0xffffffff" +
+                          std::string(length, 'c') + " one 7 one ");
     }
   }
-}
-
-TEST(TextOut, RunsAWriterOnTheEndOfAText) {
-  std::string text = "before ";
-  constexpr auto kWriter = [](TextOut& out, const int& value) {
-    out.put_decimal(value);
-    return 7;
-  };
-  const int value = 5;
-  EXPECT_EQ((on_end<kWriter>(text, value)), 7);
-  EXPECT_EQ(text, "before 5");
 }
 
 }  // namespace

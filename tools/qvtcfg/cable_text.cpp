@@ -7,6 +7,7 @@
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/JtagOption.h"
 #include "SdkDebugDialog/ProcessorInfo.h"
+#include "SdkDebugDialog/Result.h"
 #include "catalogue.h"
 #include "command_line.h"
 #include "failure.h"
@@ -44,7 +45,8 @@ void read(const GivenText& given, CableText& out) {
   require_text(given);
   char debug_device = 0;
   try {
-    if (Engine::ParseJtagCableInfo(given.text, out.cable, out.chain, out.cpu_jtag, debug_device) != 0) {
+    if (Engine::ParseJtagCableInfo(given.text, out.cable, out.chain, out.cpu_jtag, debug_device) !=
+        SdkDebugDialog::kOk) {
       throw Failure(kNotUnderstood,
                     given.source +
                         " is not understood: it is no run of the options -cable, -configdevice, -debugdevice and "
@@ -120,7 +122,7 @@ std::string written(const CableOption& cable, std::vector<JtagOption>& devices, 
   chain.reserve(devices.size());
   for (JtagOption& device : devices) chain.push_back(&device);
   std::string text;
-  if (Engine::GenerateJtagCableCmdString(text, cable, chain, static_cast<char>(debug_device)) != 0) {
+  if (Engine::GenerateJtagCableCmdString(text, cable, chain, static_cast<char>(debug_device)) != SdkDebugDialog::kOk) {
     throw Failure(kRefused, "no text can be written for cable " + name_of(kCables, cable.type) +
                                 "; choose another --type: none, zarvek_parallel3, zarvek_parallel4, "
                                 "zarvek_platformusb, zarvek_plugin or digilent_plugin");

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "SdkDebugDialog/EngineImp.h"
+#include "SdkDebugDialog/Result.h"
 #include "catalogue.h"
 #include "failure.h"
 #include "output.h"
@@ -30,7 +31,7 @@ struct Key {
 template <auto Set, typename... Values>
 void set(Engine& engine, const Change& change, Values... values) {
   engine.SetErrorStr("");
-  if ((engine.*Set)(values...) == 0) return;
+  if ((engine.*Set)(values...) == SdkDebugDialog::kOk) return;
   std::string text;
   engine.GetErrorStr(text);
   throw refused(change.argument, text.empty() ? "refused" : one_line(text));
@@ -52,7 +53,7 @@ void require_cable_in_use(Engine& engine, const Change& change) {
 
 void require_serial_stub(Engine& engine, const Change& change) {
   Engine::StubType stub = Engine::STUB_OVER_JTAG;
-  if (engine.GetStubType(stub) == 0 && stub == Engine::STUB_OVER_SERIAL) return;
+  if (engine.GetStubType(stub) == SdkDebugDialog::kOk && stub == Engine::STUB_OVER_SERIAL) return;
   throw refused(change.argument, "the processor is not reached through a serial stub; add connection=stub stub=serial");
 }
 
@@ -60,7 +61,7 @@ void require_serial_stub(Engine& engine, const Change& change) {
 
 void apply_connection(Engine& engine, const Change& change) {
   const auto type = static_cast<Engine::ConnectionType>(word(change.argument, change.value, kSelectable));
-  if (engine.SetConnectionType(type) == 0) return;
+  if (engine.SetConnectionType(type) == SdkDebugDialog::kOk) return;
   const auto admitted = names_in_set(kSelectable, engine.imp->currentProcessor->allowedConnections);
   throw refused(change.argument, "the processor does not admit this connection; it admits " + join(admitted));
 }
@@ -70,7 +71,7 @@ void apply_connection(Engine& engine, const Change& change) {
 void apply_stub(Engine& engine, const Change& change) {
   const auto stub = static_cast<Engine::StubType>(word(change.argument, change.value, kStubs));
   Engine::ConnectionType selected = Engine::HARDWARE;
-  if (engine.GetConnectionType(selected) != 0 || selected != Engine::STUB) {
+  if (engine.GetConnectionType(selected) != SdkDebugDialog::kOk || selected != Engine::STUB) {
     throw refused(change.argument, "the connection is no stub; add connection=stub");
   }
   constexpr unsigned int kMarks = Engine::STUB_JTAG_PRESENT | Engine::STUB_UART_PRESENT;

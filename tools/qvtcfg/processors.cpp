@@ -1,5 +1,8 @@
 // qvtcfg processors
 
+#include <string_view>
+#include <unordered_map>
+
 #include "command_line.h"
 #include "output.h"
 #include "session.h"
@@ -12,13 +15,16 @@ namespace {
 using SdkDebugDialog::EngineImp;
 using SdkDebugDialog::ProcessorInfoImp;
 
-// The record of a processor with its FPU, without the settings of its option file; null if it cannot be debugged.
-const ProcessorInfoImp* described(EngineImp& state, const std::string& name) {
-  ProcessorInfoImp* const record = state.FindProcessor(name);
-  if (record == nullptr) return nullptr;
-  state.currentProcessor = record;
-  state.GetFPUType();
-  return record;
+// The records of the processors that can be debugged, by name, with their FPU and without the settings of their option
+// files.
+std::unordered_map<std::string_view, const ProcessorInfoImp*> described(EngineImp& state) {
+  std::unordered_map<std::string_view, const ProcessorInfoImp*> records;
+  for (ProcessorInfoImp* const record : state.processorList) {
+    state.currentProcessor = record;
+    state.GetFPUType();
+    records.emplace(record->name, record);
+  }
+  return records;
 }
 
 std::string cpu_number(const ProcessorInfoImp& p) { return std::to_string(static_cast<std::int8_t>(p.cpuNr)); }
@@ -44,15 +50,19 @@ Json member(const std::string& name, const ProcessorInfoImp* p) {
 
 void run_processors(const Arguments& arguments, Output& out) {
   Session session(arguments);
-  EngineImp& state = *session.engine().imp;
+  const auto records = described(*session.engine().imp);
+  const auto record = [&](const std::string& name) {
+    const auto found = records.find(name);
+    return found != records.end() ? found->second : nullptr;
+  };
   if (arguments.json) {
     Json list = Json::array();
-    for (const std::string& name : session.processors()) list.push_back(member(name, described(state, name)));
+    for (const std::string& name : session.processors()) list.push_back(member(name, record(name)));
     out.json({{"processors", list}});
     return;
   }
   std::vector<std::vector<std::string>> rows = {{"NAME", "FAMILY", "VARIANT", "CPU", "FPU", "CONNECTIONS"}};
-  for (const std::string& name : session.processors()) rows.push_back(row(name, described(state, name)));
+  for (const std::string& name : session.processors()) rows.push_back(row(name, record(name)));
   out.table(rows);
 }
 

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "SdkDebugDialog/Result.h"
 #include "failure.h"
 #include "text.h"
 
@@ -12,9 +13,6 @@ namespace {
 using SdkDebugDialog::Engine;
 using SdkDebugDialog::EngineImp;
 using SdkDebugDialog::ProcessorInfo;
-
-// What Engine's operations answer where this program tells it from success.
-enum Status { kNotListed = 2, kBadCommand = 3, kBadFile = 4 };
 
 constexpr const char* kDefaultDesign = "design.json";
 
@@ -51,14 +49,15 @@ void release_records(EngineImp& state) {
 // Runs one of the engine's readers and explains what goes wrong.
 template <typename Read>
 void understand(Engine& engine, const std::string& source, const std::string& advice, Read read) {
-  int status = 0;
+  int status = SdkDebugDialog::kOk;
   try {
     status = read();
   } catch (const std::out_of_range&) {
     throw Failure(kNotUnderstood, source + ": " + kLoneDash + advice);
   }
-  if (status == kNotListed) throw Failure(kRefused, error_text(engine) + "; 'qvtcfg processors' lists the processors");
-  if (status != kBadCommand) return;
+  if (status == SdkDebugDialog::kNotListed)
+    throw Failure(kRefused, error_text(engine) + "; 'qvtcfg processors' lists the processors");
+  if (status != SdkDebugDialog::kNotUnderstood) return;
   const std::string text = error_text(engine);
   throw Failure(kNotUnderstood,
                 source + ": " + (text.empty() ? "the connect command is not understood" : text) + advice);
@@ -83,7 +82,7 @@ void Session::name_processor(const std::string& name) {
 const OptionFile& Session::read_option_file(Purpose purpose) {
   const std::string advice = "; correct the file, or replace it with 'qvtcfg read " + m_processor + " TEXT --write'";
   // Only the names of listed processors are part of a file's name.
-  if (m_engine.imp->FindProcessor(m_processor) != nullptr) inspect_option_file(purpose, advice);
+  if (m_engine.GetProcessorNr(m_processor) >= 0) inspect_option_file(purpose, advice);
   ProcessorInfo info;
   understand(m_engine, m_shown_path, advice, [&] { return m_engine.SetProcessor(m_processor, info); });
   return m_file;
@@ -114,14 +113,14 @@ void Session::identify(const GivenText& command) {
   require_text(command);
   understand(m_engine, command.source, "; 'qvtcfg command PROC' prints one that is understood", [&] {
     m_identified.reset(m_engine.imp->GetProcessorInfo(command.text));
-    return m_identified != nullptr ? 0 : kBadCommand;
+    return m_identified != nullptr ? SdkDebugDialog::kOk : SdkDebugDialog::kNotUnderstood;
   });
   name_processor(m_identified->name);
 }
 
 std::string Session::command() {
   std::string text;
-  if (m_engine.GenerateCmdString(text) == 0) return text;
+  if (m_engine.GenerateCmdString(text) == SdkDebugDialog::kOk) return text;
   throw Failure(kRefused, m_processor + ": " + error_text(m_engine) +
                               "; no connect command can be written for these settings: change the connection or the "
                               "cable");
@@ -129,8 +128,7 @@ std::string Session::command() {
 
 void Session::write_option_file() {
   const std::string text = command();
-  const int status = m_engine.Generate();
-  if (status == kBadFile) {
+  if (m_engine.Generate() == SdkDebugDialog::kFileNotWritten) {
     throw Failure(kFile, m_shown_path + ": " + error_text(m_engine) + "; " + why_not_written(m_path, m_shown_path));
   }
   warn_unless_readable(text);

@@ -11,12 +11,11 @@
 #include "SdkDebugDialog/EngineImp.h"
 #include "SdkDebugDialog/JtagOption.h"
 #include "SdkDebugDialog/ProcessorInfo.h"
-#include "model/NameIndex.h"
+#include "SdkDebugDialog/Result.h"
 #include "model/error_text.h"
 #include "model/processor_kind.h"
-#include "model/result.h"
+#include "model/processor_list.h"
 #include "options/QvtOption_Parser.h"
-#include "options/status.h"
 #include "platform/ComMsgMgr.h"
 #include "platform/HHSMHwManager.h"
 
@@ -30,12 +29,6 @@ void forget_failed_read(EngineImp& imp) {
   std::string reason = std::move(imp.errorStr);
   imp.EngineImpInit();
   imp.errorStr = std::move(reason);
-}
-
-// The first listed processor that has this name. FindProcessor may know a record by a name that it had before.
-ProcessorInfoImp* find_listed(EngineImp& imp, const std::string& name) {
-  ProcessorInfoImp* const processor = imp.FindProcessor(name);
-  return processor == nullptr || processor->name == name ? processor : find_by_name(imp.processorList, name);
 }
 
 // Selects a listed processor and fills it by read. The text notListed has the name as its %s.

@@ -1,0 +1,143 @@
+// Which options there are, where each may stand, and the reading of a run of them.
+
+#include <string>
+
+#include "model/error_text.h"
+#include "options/groups.h"
+#include "options/pairs.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+// --- How options are read ---
+
+Outcome read_group(const Option& option, TokenCursor& in, std::string_view /*typed*/, EngineImp& imp) {
+  return read_pairs(in, option.group, records_of(imp)).outcome;
+}
+
+// The value of an option, which the row of its name describes.
+Outcome store(const Option& option, const KeywordAndValue& pair, EngineImp& imp) {
+  const Keyword* row = option.group.keywords.data();
+  while (row->name.text() != option.name.text()) ++row;
+  return read_value(*row, pair, records_of(imp)) ? Outcome::done : Outcome::error;
+}
+
+Outcome read_one(const Option& option, TokenCursor& in, std::string_view typed, EngineImp& imp) {
+  const bool orNone = option.takes == Option::valueOrNone || option.takes == Option::tokenOrNone;
+  const bool any = option.takes == Option::token || option.takes == Option::tokenOrNone;
+  std::string_view value;
+  const Token found = in.next(value);
+  if (found == Token::value || (any && found == Token::option)) {
+    return store(option, {typed, value, in.letter_case()}, imp);
+  }
+  if (!orNone) return Outcome::error;
+  return found == Token::option ? Outcome::option : Outcome::end;
+}
+
+Outcome read_flag(const Option& option, TokenCursor& in, std::string_view typed, EngineImp& imp) {
+  return store(option, {typed, "1", in.letter_case()}, imp);
+}
+
+// The simulator takes all options that follow, so that the run around it ends with it.
+Outcome read_sim(const Option& option, TokenCursor& in, std::string_view typed, EngineImp& imp) {
+  read_flag(option, in, typed, imp);
+  return read_options(in, imp, kHdlSimOptions) ? Outcome::end : Outcome::error;
+}
+
+// --- Options that are on or off ---
+
+constexpr When kForgotten = never("accepted and forgotten");
+
+constexpr Keyword kFlagKeywords[] = {
+    {.name = "-quiet", .kind = Kind::flag, .written = kForgotten},
+    {.name = "-noattach", .kind = Kind::flag, .written = kForgotten},
+    {.name = "-writeonly", .kind = Kind::flag, .written = kForgotten},
+    {.name = "-uart",
+     .kind = Kind::flag,
+     .field = &ProcessorInfoImp::uartEnabled,
+     .written = never("the targets that have a UART are not written")},
+    {.name = "-sim",
+     .kind = Kind::flag,
+     .field = &ProcessorInfoImp::modelSimEnabled,
+     .written = never("there is no text for the hardware simulator")},
+};
+
+// --- All options ---
+
+constexpr unsigned kGeneral = kGeneralOptions.bit;
+constexpr unsigned kOdm = kOdmOptions.bit;
+constexpr unsigned kDcc = kDccOptions.bit;
+constexpr unsigned kQmtc = kQmtcOptions.bit;
+constexpr unsigned kInSoftSim = kSoftSimOptions.bit;
+constexpr unsigned kInPpcSim = kPpcSimOptions.bit;
+constexpr unsigned kInHdlSim = kHdlSimOptions.bit;
+constexpr unsigned kPlatform = kPlatformOptions.bit;
+constexpr unsigned kCableText = kCableTextOptions.bit;
+
+using enum Option::Takes;
+
+constexpr Option kOptions[] = {
+    {"-cable", kGeneral | kOdm | kDcc | kQmtc | kCableText, pairs, kCable, read_cable, "download cable"},
+    {"-configdevice", kGeneral | kOdm | kQmtc | kInHdlSim | kCableText, pairs, kConfigdevice, read_configdevice,
+     "a device of the JTAG chain"},
+    {"-debugdevice", kGeneral | kOdm | kDcc | kQmtc | kInPpcSim | kCableText, pairs, kDebugdevice, read_group,
+     "debug device, processor, memories"},
+    {"-bscan", kGeneral | kOdm | kCableText, value, kBscan, read_one, "JTAG user register of the debug module"},
+    {"-comm", kGeneral, valueOrNone, kStub, read_one, "how the stub is reached"},
+    {"-port", kGeneral, valueOrNone, kStub, read_one, "serial stub: device"},
+    {"-baud", kGeneral, valueOrNone, kStub, read_one, "serial stub: rate"},
+    {"-timeout", kGeneral, valueOrNone, kStub, read_one, "stub: time-out"},
+    {"-uart", kOdm | kDcc, nothing, kFlags, read_flag, "UART of the target"},
+    {"-pfsl", kGeneral, pairs, kPfsl, read_group, "checked, no effect"},
+    {"-quiet", kGeneral, nothing, kFlags, read_flag, "accepted, no effect"},
+    {"-noattach", kGeneral, nothing, kFlags, read_flag, "accepted, no effect"},
+    {"-writeonly", kGeneral, nothing, kFlags, read_flag, "accepted, no effect"},
+    {"-sim", kGeneral, Option::options, kFlags, read_sim, "hardware-description-language simulator"},
+    {"-ipcport", kInHdlSim, tokenOrNone, kHdlSim, read_one, "host and port of the hardware simulator"},
+    {"-memsize", kInSoftSim, token, kSoftSim, read_one, "soft-processor simulator: memory"},
+    {"-icf", kInPpcSim, tokenOrNone, kPpcSim, read_one, "PowerPC simulator: configuration file"},
+    {"-ipcport", kInPpcSim, tokenOrNone, kPpcSim, read_one, "host and port of the PowerPC simulator"},
+    {"-config", kPlatform, value, kVirtualPlatform, read_one, "virtual platform: accuracy"},
+    {"-ipcport", kPlatform, value, kVirtualPlatform, read_one, "host and port of the virtual platform"},
+};
+
+}  // namespace
+
+constinit const Group kFlags = {kFlagKeywords};
+
+std::span<const Option> options() { return kOptions; }
+
+// --- Reading ---
+
+const Option* find_option(std::string_view word, const Run& run, const LetterCase& letterCase) {
+  const Bytes bytes = bytes_of(word);
+  for (const Option& option : kOptions) {
+    if ((option.runs & run.bit) != 0 && option.name.is(word, bytes, letterCase)) return &option;
+  }
+  return nullptr;
+}
+
+bool read_options(TokenCursor& in, EngineImp& imp, const Run& run) {
+  std::string_view token;
+  std::string_view lastToken;
+  Token found = in.next(token);
+  while (found == Token::option) {
+    // The name of the option, whoever read it.
+    const std::string_view typed = in.option();
+    const Option* const option = find_option(typed, run, in.letter_case());
+    if (option == nullptr) {
+      set_error(imp, run.unknown, std::string(run.naming == Run::byName ? typed : lastToken).c_str());
+      return false;
+    }
+    const Outcome outcome = option->read(*option, in, typed, imp);
+    if (outcome == Outcome::error) return false;
+    if (option->takes == pairs || option->takes == Option::options) {
+      found = outcome == Outcome::option ? Token::option : Token::end;
+    } else {
+      found = in.next(lastToken);
+    }
+  }
+  return found == Token::end;
+}
+
+}  // namespace SdkDebugDialog
