@@ -1,11 +1,6 @@
 #include "platform/DesignFile.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <cstddef>
 #include <iterator>
 #include <nlohmann/json.hpp>
@@ -16,9 +11,11 @@
 #include <unordered_set>
 #include <utility>
 
+#include "util/regular_file.h"
+
 namespace {
 
-constexpr off_t kMaxFileSize = off_t{128} << 20;  // far above any design, far below what a machine holds
+constexpr std::size_t kMaxFileSize = std::size_t{128} << 20;  // far above any design, far below what a machine holds
 constexpr std::size_t kMaxNameLength = 200;       // leaves room in a file name of 255 bytes
 constexpr std::size_t kMaxEcho = 60;
 
@@ -114,51 +111,22 @@ std::string line_and_column(std::string_view text, std::size_t offset) {
 
 // --- The file ---
 
-[[noreturn]] void fail_to_read(const std::string& file, int error) {
-  throw DesignFileError(file + ": cannot be read: " + std::generic_category().message(error));
-}
-
-void check_regular(const std::string& file, const struct stat& status) {
-  constexpr std::pair<mode_t, const char*> kOthers[] = {{S_IFDIR, "a directory"},
-                                                        {S_IFIFO, "a pipe"},
-                                                        {S_IFSOCK, "a socket"},
-                                                        {S_IFCHR, "a character device"},
-                                                        {S_IFBLK, "a block device"}};
-  for (const auto& [type, words] : kOthers) {
-    if ((status.st_mode & S_IFMT) == type) fail(file, words, "a regular file");
-  }
-  if (status.st_size > kMaxFileSize) fail(file, std::to_string(status.st_size) + " bytes", "at most 128 MiB");
-}
-
-struct Descriptor {
-  int number;
-  explicit Descriptor(int opened) : number(opened) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() {
-    if (number >= 0) ::close(number);
-  }
-};
-
-// Looks before opening, since opening alone may block or act on a device; and again after, for what was put in its
-// place meanwhile.
 std::string contents(const std::string& path, const std::string& file) {
-  struct stat status {};
-  if (::stat(path.c_str(), &status) != 0) fail_to_read(file, errno);
-  check_regular(file, status);
-  const Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-  if (descriptor.number < 0 || ::fstat(descriptor.number, &status) != 0) fail_to_read(file, errno);
-  check_regular(file, status);
-
-  std::string text(static_cast<std::size_t>(status.st_size), '\0');
+  const auto check = [&](const SdkDebugDialog::RegularFile& opened) {
+    if (opened.other_kind() != nullptr) fail(file, opened.other_kind(), "a regular file");
+    if (opened.error() == 0) return;
+    throw DesignFileError(file + ": cannot be read: " + std::generic_category().message(opened.error()));
+  };
+  SdkDebugDialog::RegularFile opened(path);
+  check(opened);
+  if (opened.size() > kMaxFileSize) fail(file, std::to_string(opened.size()) + " bytes", "at most 128 MiB");
+  std::string text(opened.size(), '\0');
   std::size_t length = 0;
-  while (length < text.size()) {
-    const ssize_t count = ::read(descriptor.number, text.data() + length, text.size() - length);
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) fail_to_read(file, errno);
-    if (count == 0) break;
+  std::ptrdiff_t count = 0;
+  while ((count = opened.read(text.data() + length, text.size() - length)) > 0) {
     length += static_cast<std::size_t>(count);
   }
+  check(opened);
   text.resize(length);
   return text;
 }

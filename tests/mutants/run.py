@@ -25,7 +25,7 @@ WORK = ROOT / "build/mutants"
 BASE = WORK / "base"
 RESULTS = WORK / "results"
 
-FOLDERS = ["model", "options", "hwquery"]
+FOLDERS = ["model", "options", "hwquery", "util"]
 HELPER = "faults_helper"
 CORE = "CMakeFiles/core.dir/"  # the library's objects
 # Broken code that runs as root can do anything to the machine, so that nothing but these folders may be written.
@@ -79,8 +79,8 @@ def programs(source):
     """The tests to run, the nearest first."""
     folder = source.split("/")[0]
     names = sorted(FOLDERS, key=lambda name: name != folder)
-    # Failing disks and killed writers matter to one file, and take long.
-    return names + ["faults"] if source == "options/option_file.cpp" else names
+    # Failing disks and killed writers matter to files alone, and take long.
+    return names + ["faults"] if folder == "util" or source == "options/option_file.cpp" else names
 
 
 def plain(name):
