@@ -1,41 +1,36 @@
 #include "platform/DesignFile.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstddef>
+#include <cstdint>
+#include <functional>
 #include <iterator>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <span>
 #include <string_view>
 #include <system_error>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
+#include "platform/json_text.h"
 #include "util/regular_file.h"
+
+using SdkDebugDialog::escaped;
+using SdkDebugDialog::in_quotes;
+using SdkDebugDialog::JsonKind;
 
 namespace {
 
 constexpr std::size_t kMaxFileSize = std::size_t{128} << 20;  // far above any design, far below what a machine holds
-constexpr std::size_t kMaxNameLength = 200;       // leaves room in a file name of 255 bytes
-constexpr std::size_t kMaxEcho = 60;
+constexpr std::size_t kMaxNameLength = 200;                   // leaves room in a file name of 255 bytes
 
-// Text of the file for use in a message: printable, bounded, on one line.
-std::string escaped(std::string_view text) {
-  constexpr const char* kHex = "0123456789ABCDEF";
-  std::string out;
-  for (const char c : text.substr(0, kMaxEcho)) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x20 || byte > 0x7E) {
-      out.append("\\x").append(1, kHex[byte >> 4U]).append(1, kHex[byte & 0xFU]);
-      continue;
-    }
-    if (c == '"' || c == '\\') out += '\\';
-    out += c;
-  }
-  return text.size() > kMaxEcho ? out + "..." : out;
+// --- Messages ---
+
+[[noreturn]] void fail(const std::string& where, const std::string& found, const std::string& expected) {
+  throw DesignFileError(where + ": found " + found + ", expected " + expected);
 }
-
-std::string in_quotes(std::string_view text) { return '"' + escaped(text) + '"'; }
 
 // A file's name for use in a message: as it is, but on one line.
 std::string one_line(std::string name) {
@@ -62,46 +57,6 @@ std::string choice(const Words& words) {
   return out;
 }
 
-constexpr std::string_view kIdentifier = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
-
-bool is_identifier(std::string_view text) {
-  return !text.empty() && text.size() <= kMaxNameLength && text.find_first_not_of(kIdentifier) == text.npos;
-}
-
-[[noreturn]] void fail(const std::string& where, const std::string& found, const std::string& expected) {
-  throw DesignFileError(where + ": found " + found + ", expected " + expected);
-}
-
-// --- Broken JSON: the parser's sentences, in our words ---
-
-struct Phrase {
-  std::string_view theirs;
-  const char* ours;
-};
-
-// What was expected. The first that occurs counts; the last always does.
-constexpr Phrase kExpectations[] = {
-    {"ill-formed UTF-8", "UTF-8"},
-    {"missing closing quote", "a closing quote"},
-    {"control character", "control characters written as escapes such as \\n"},
-    {"hex digits", "four hexadecimal digits after \\u"},
-    {"surrogate", "a pair of surrogates"},
-    {"after backslash", "an escape such as \\n or \\u000A"},
-    {"invalid number", "a digit"},
-    {"parsing object key", "a member name in double quotes"},
-    {"parsing object separator", "':'"},
-    {"parsing array", "',' or ']'"},
-    {"parsing object", "',' or '}'"},
-    {"", "a value"},
-};
-
-std::string expectation(std::string_view sentence) {
-  const auto* phrase = std::find_if(std::begin(kExpectations), std::end(kExpectations), [&](const Phrase& candidate) {
-    return sentence.find(candidate.theirs) != sentence.npos;
-  });
-  return phrase->ours;
-}
-
 std::string line_and_column(std::string_view text, std::size_t offset) {
   const std::string_view before = text.substr(0, offset);
   const auto line = std::count(before.begin(), before.end(), '\n') + 1;
@@ -109,7 +64,16 @@ std::string line_and_column(std::string_view text, std::size_t offset) {
   return "line " + std::to_string(line) + ", column " + std::to_string(column);
 }
 
+const char* words(JsonKind kind) {
+  constexpr const char* kKinds[] = {"an object", "an array", "a text", "a number", "true or false", "null"};
+  return kKinds[static_cast<std::size_t>(kind)];
+}
+
 // --- The file ---
+
+void check_size(std::uint64_t size, const std::string& file) {
+  if (size > kMaxFileSize) fail(file, std::to_string(size) + " bytes", "at most 128 MiB");
+}
 
 std::string contents(const std::string& path, const std::string& file) {
   const auto check = [&](const SdkDebugDialog::RegularFile& opened) {
@@ -119,7 +83,7 @@ std::string contents(const std::string& path, const std::string& file) {
   };
   SdkDebugDialog::RegularFile opened(path);
   check(opened);
-  if (opened.size() > kMaxFileSize) fail(file, std::to_string(opened.size()) + " bytes", "at most 128 MiB");
+  check_size(opened.size(), file);
   std::string text(opened.size(), '\0');
   std::size_t length = 0;
   std::ptrdiff_t count = 0;
@@ -131,47 +95,221 @@ std::string contents(const std::string& path, const std::string& file) {
   return text;
 }
 
-}  // namespace
+// --- Names ---
 
-// Takes in a design as the parser meets it. Every value is checked against what may stand at its place before
-// anything in it is read, so nesting never goes deeper than a design does.
-class DesignFile::Reader final : public nlohmann::json_sax<nlohmann::json> {
+enum class Class : std::uint8_t { processor, debug, peripheral, memory, other };
+constexpr std::string_view kClasses[] = {"processor", "debug", "peripheral", "memory", "other"};  // in this order
+std::string word(Class ipClass) { return std::string(kClasses[static_cast<std::size_t>(ipClass)]); }
+
+bool is_identifier(std::string_view text) {
+  return !text.empty() && text.size() <= kMaxNameLength &&
+         std::ranges::all_of(text, SdkDebugDialog::is_letter_or_digit);
+}
+
+// Names that must differ.
+class DifferentNames {
  public:
-  Reader(std::string_view text, std::string file) : m_text(text), m_file(std::move(file)) {}
-
-  DesignFile read() {
-    if (m_text.empty()) fail(m_file, "nothing", "a JSON object");
-    const std::size_t nul = m_text.find('\0');  // which the parser takes for the end
-    if (nul != m_text.npos) broken(nul, in_quotes(m_text.substr(nul, 1)), "JSON text");
-    nlohmann::json::sax_parse(m_text, this);
-    check_references("processors", &Instance::processors, {Class::processor});
-    check_references("peripherals", &Instance::peripherals, {Class::peripheral, Class::memory, Class::other});
-    return std::move(m_design);
+  void clear() {
+    m_few.clear();
+    if (!m_many.empty()) m_many = {};
+  }
+  // False when the name is there already.
+  bool insert(std::string_view name) {
+    if (!m_many.empty()) return m_many.insert(name).second;
+    if (std::ranges::find(m_few, name) != m_few.end()) return false;
+    m_few.push_back(name);
+    if (m_few.size() > kFew) m_many.insert(m_few.begin(), m_few.end());
+    return true;
   }
 
-  // The parser's events. What is wrong is thrown, so all of them ask for more.
-  bool null() override { return scalar(Kind::null); }
-  bool boolean(bool) override { return scalar(Kind::boolean); }
-  bool number_integer(number_integer_t) override { return scalar(Kind::number); }
-  bool number_unsigned(number_unsigned_t) override { return scalar(Kind::number); }
-  bool number_float(number_float_t, const string_t&) override { return scalar(Kind::number); }
-  bool binary(binary_t&) override { return false; }  // no such value in JSON text
-  bool string(string_t& text) override;
-  bool start_object(std::size_t) override { return open(Kind::object); }
-  bool key(string_t& name) override;
-  bool end_object() override;
-  bool start_array(std::size_t) override { return open(Kind::array); }
-  bool end_array() override;
-  bool parse_error(std::size_t position, const std::string& token, const nlohmann::detail::exception& error) override;
+ private:
+  static constexpr std::size_t kFew = 16;  // are quickest compared one by one
+  std::vector<std::string_view> m_few;
+  std::unordered_set<std::string_view> m_many;
+};
+
+}  // namespace
+
+// A design as it was read. Texts stay where they are in the file; all else is numbers in a few flat lists.
+class DesignFile::Content {
+ public:
+  struct Text {
+    std::uint32_t offset = 0;
+    std::uint32_t size = 0;
+  };
+  struct Parameter {
+    Text name;
+    Text value;
+  };
+  struct IpType {
+    std::string_view name;
+    std::vector<std::uint32_t> instances;
+  };
+  // Positions in a list.
+  struct Range {
+    std::uint32_t begin = 0;
+    std::uint32_t end = 0;
+  };
+  struct Instance {
+    Text name;
+    Range parameters;
+    Range names;  // of the processors that a debug IP reaches, or of a processor's peripherals
+    std::uint32_t ipType = 0;
+    Class ipClass = Class::other;
+  };
+
+  // Room that is not used costs no memory; to move lists again and again costs time.
+  explicit Content(std::string file) : m_file(std::move(file)) {
+    const std::size_t instanceCount = m_file.size() / 128;
+    instances.reserve(instanceCount);
+    parameters.reserve(2 * instanceCount);
+    names.reserve(2 * instanceCount);
+    m_slots.resize(std::bit_ceil(instanceCount + instanceCount / 2 + 2));
+  }
+
+  const std::string& file() const { return m_file; }
+
+  std::string_view view(Text text) const {
+    return text.offset < m_file.size() ? std::string_view(m_file).substr(text.offset, text.size)
+                                       : std::string_view(m_decoded).substr(text.offset - m_file.size(), text.size);
+  }
+  // A text is copied unless it is a part of the file.
+  Text keep(std::string_view text) {
+    std::size_t offset = static_cast<std::size_t>(text.data() - m_file.data());
+    if (std::less<>()(text.data(), m_file.data()) || std::less<>()(m_file.data() + m_file.size(), text.data())) {
+      m_decoded.reserve(m_file.size());  // enough for all, so that texts stay where they are
+      offset = m_file.size() + m_decoded.size();
+      m_decoded += text;
+    }
+    return {static_cast<std::uint32_t>(offset), static_cast<std::uint32_t>(text.size())};
+  }
+
+  template <class Element>
+  static std::span<const Element> part(const std::vector<Element>& list, Range range) {
+    return std::span(list).subspan(range.begin, range.end - range.begin);
+  }
+
+  // Null when no instance has this name.
+  const Instance* find(std::string_view name) const {
+    const Slot& found = m_slots[slot(hash_of(name), name)];
+    return found.position != kFree ? &instances[found.position] : nullptr;
+  }
+
+  // Enters the name of the last instance, which are entered one after the other. The answer is the instance that has
+  // the name already, or null.
+  const Instance* enter_last_name() {
+    if (2 * instances.size() > m_slots.size()) make_room();
+    const std::string_view name = view(instances.back().name);
+    const std::uint32_t hash = hash_of(name);
+    Slot& found = m_slots[slot(hash, name)];
+    if (found.position != kFree) return &instances[found.position];
+    found = {hash, static_cast<std::uint32_t>(instances.size() - 1)};
+    return nullptr;
+  }
+
+  // Makes the last instance one of this type.
+  void enter_last_type(Text text) {
+    const std::string_view name = view(text);
+    const auto [found, isNew] = m_typesByName.try_emplace(name, static_cast<std::uint32_t>(ipTypes.size()));
+    if (isNew) ipTypes.push_back({name, {}});
+    instances.back().ipType = found->second;
+    ipTypes[found->second].instances.push_back(static_cast<std::uint32_t>(instances.size() - 1));
+  }
+
+  // The answers: names of instances.
+
+  void append_class(std::vector<std::string>& out, Class ipClass) const {
+    for (const Instance& instance : instances) {
+      if (instance.ipClass == ipClass) out.emplace_back(view(instance.name));
+    }
+  }
+
+  void append_type(std::vector<std::string>& out, std::string_view ipType) const {
+    const auto found = m_typesByName.find(ipType);
+    if (found == m_typesByName.end()) return;
+    for (const std::uint32_t i : ipTypes[found->second].instances) out.emplace_back(view(instances[i].name));
+  }
+
+  // Those that an instance lists, if it is of that class.
+  void append_list(std::vector<std::string>& out, std::string_view instance, Class ipClass) const {
+    const Instance* const found = find(instance);
+    if (found == nullptr || found->ipClass != ipClass) return;
+    const std::span<const Text> list = part(names, found->names);
+    if (out.empty()) out.reserve(list.size());
+    for (const Text& name : list) out.emplace_back(view(name));
+  }
+
+  std::vector<Instance> instances;
+  std::vector<Parameter> parameters;
+  std::vector<Text> names;
+  std::vector<IpType> ipTypes;
 
  private:
-  // The words stand in the order of the enumerations.
-  enum class Kind { object, array, text, number, boolean, null };
-  static constexpr const char* kKinds[] = {"an object", "an array", "a text", "a number", "true or false", "null"};
-  static const char* words(Kind kind) { return kKinds[static_cast<std::size_t>(kind)]; }
+  static constexpr std::uint32_t kFree = UINT32_MAX;
 
-  static constexpr std::string_view kClasses[] = {"processor", "debug", "peripheral", "memory", "other"};
-  static std::string word(Class ipClass) { return std::string(kClasses[static_cast<std::size_t>(ipClass)]); }
+  struct Slot {
+    std::uint32_t hash = 0;
+    std::uint32_t position = kFree;  // of an instance
+  };
+
+  // Names that differ in their last character alone are neighbours: they are asked for one after the other.
+  static std::uint32_t hash_of(std::string_view name) {
+    if (name.empty()) return 0;
+    const std::size_t hash = std::hash<std::string_view>()(name.substr(0, name.size() - 1));
+    return static_cast<std::uint32_t>(hash + static_cast<unsigned char>(name.back()));
+  }
+
+  // Where a name is, or where it belongs: the first free slot from that of its hash on.
+  std::size_t slot(std::uint32_t hash, std::string_view name) const {
+    const std::size_t last = m_slots.size() - 1;
+    for (std::size_t i = hash & last;; i = (i + 1) & last) {
+      const Slot& here = m_slots[i];
+      if (here.position == kFree || (here.hash == hash && view(instances[here.position].name) == name)) return i;
+    }
+  }
+
+  void make_room() {
+    std::vector<Slot> slots(2 * m_slots.size());
+    const std::size_t last = slots.size() - 1;
+    for (const Slot& moved : m_slots) {
+      if (moved.position == kFree) continue;
+      std::size_t i = moved.hash & last;
+      while (slots[i].position != kFree) i = (i + 1) & last;
+      slots[i] = moved;
+    }
+    m_slots.swap(slots);
+  }
+
+  std::string m_file;
+  std::string m_decoded;                                              // texts that had escapes
+  std::unordered_map<std::string_view, std::uint32_t> m_typesByName;  // positions in ipTypes
+  std::vector<Slot> m_slots;                                          // a power of two of them, half of them free
+};
+
+// Takes in a design as it is told. Every value is checked against what may stand at its place before anything in it is
+// read, so nesting never goes deeper than a design does.
+class DesignFile::Reader final : public SdkDebugDialog::JsonListener {
+ public:
+  Reader(Content& design, std::string file) : m_design(design), m_file(std::move(file)) {}
+
+  void read() {
+    const std::string& text = m_design.file();
+    if (text.empty()) fail(m_file, "nothing", "a JSON object");
+    if (const auto fault = SdkDebugDialog::read_json(text, *this)) {
+      fail(m_file + ": " + line_and_column(text, fault->offset), fault->found, fault->expected);
+    }
+    check_references("processors", Class::debug, {Class::processor});
+    check_references("peripherals", Class::processor, {Class::peripheral, Class::memory, Class::other});
+  }
+
+  void text(std::string_view text) override;
+  void key(std::string_view name) override;
+  void scalar(JsonKind kind) override { value(kind); }
+  void start(JsonKind kind) override;
+  void end(JsonKind kind) override;
+
+ private:
+  using Text = Content::Text;
 
   struct Node;
   struct Member {
@@ -183,79 +321,76 @@ class DesignFile::Reader final : public nlohmann::json_sax<nlohmann::json> {
 
   // What may stand at a place of the file.
   struct Node {
-    Kind kind;
-    std::span<const Member> members = {};               // of an object with fixed members
-    const Node* element = nullptr;                      // of an array, or of an object with free members
-    void (Reader::*start)() = nullptr;                  // of an object or array
-    void (Reader::*take)(std::string& text) = nullptr;  // of a text
+    JsonKind kind;
+    std::span<const Member> members = {};                   // of an object with fixed members
+    const Node* element = nullptr;                          // of an array, or of an object with free members
+    void (Reader::*start)() = nullptr;                      // of an object or array
+    void (Reader::*take)(std::string_view text) = nullptr;  // of a text
   };
   static const Node& root();
 
   // An object or array that has begun.
   struct Frame {
     const Node* node;
-    const Node* next;                      // what the next value may be
-    std::string key;                       // of the current member
-    std::size_t count = 0;                 // of elements begun
-    std::unordered_set<std::string> seen;  // member names, or names in a list
+    const Node* next;        // what the next value may be
+    std::string_view key;    // of the current member
+    std::size_t count = 0;   // of elements begun
+    std::uint32_t seen = 0;  // fixed members, as bits in the order of the node
   };
 
-  const Node& value(Kind found);
-  bool scalar(Kind found);
-  bool open(Kind kind);
+  const Node& value(JsonKind found);
+  void fixed_key(Frame& object, std::string_view name);
+  void free_key(Frame& object, std::string_view name);
+  void check_members(Frame& object);
   std::string place() const;
   [[noreturn]] void wrong(const std::string& found, const std::string& expected) const {
     fail(m_file + ": " + place(), found, expected);
   }
-  [[noreturn]] void broken(std::size_t offset, const std::string& found, const std::string& expected) const {
-    fail(m_file + ": " + line_and_column(m_text, offset), found, expected);
-  }
 
-  Instance& instance() { return m_design.m_instances.back(); }
-  void start_instance() { m_design.m_instances.emplace_back(); }
-  void take_name(std::string& text);
-  void take_type(std::string& text);
-  void take_class(std::string& text);
-  void take_parameter(std::string& text) { instance().parameters[m_open.back().key] = std::move(text); }
-  void take_processor(std::string& text) { take_reference(text, instance().processors); }
-  void take_peripheral(std::string& text) { take_reference(text, instance().peripherals); }
-  void take_reference(std::string& text, std::vector<std::string>& list);
-  void check_identifier(const std::string& text) const;
-  void check_references(std::string_view key, std::vector<std::string> Instance::*list,
-                        const std::vector<Class>& allowed) const;
+  Content::Instance& instance() { return m_design.instances.back(); }
+  void start_instance() { m_design.instances.emplace_back(); }
+  void start_parameters();
+  void start_names();
+  void take_name(std::string_view text);
+  void take_type(std::string_view text);
+  void take_class(std::string_view text);
+  void take_parameter(std::string_view text) { m_design.parameters.back().value = m_design.keep(text); }
+  void take_reference(std::string_view text);
+  void check_identifier(std::string_view text) const;
+  void check_references(std::string_view key, Class user, const std::vector<Class>& allowed) const;
 
-  std::string_view m_text;
+  Content& m_design;
   std::string m_file;
-  DesignFile m_design;
   std::vector<Frame> m_open;
+  DifferentNames m_seen;  // in the parameters or the list that has begun last
 };
 
 const DesignFile::Reader::Node& DesignFile::Reader::root() {
-  static constexpr Node kText{.kind = Kind::text};
-  static constexpr Node kName{.kind = Kind::text, .take = &Reader::take_name};
-  static constexpr Node kType{.kind = Kind::text, .take = &Reader::take_type};
-  static constexpr Node kClass{.kind = Kind::text, .take = &Reader::take_class};
-  static constexpr Node kParameter{.kind = Kind::text, .take = &Reader::take_parameter};
-  static constexpr Node kProcessor{.kind = Kind::text, .take = &Reader::take_processor};
-  static constexpr Node kPeripheral{.kind = Kind::text, .take = &Reader::take_peripheral};
-  static constexpr Node kParameters{.kind = Kind::object, .element = &kParameter};
-  static constexpr Node kProcessors{.kind = Kind::array, .element = &kProcessor};
-  static constexpr Node kPeripherals{.kind = Kind::array, .element = &kPeripheral};
+  static constexpr Node kText{.kind = JsonKind::text};
+  static constexpr Node kName{.kind = JsonKind::text, .take = &Reader::take_name};
+  static constexpr Node kType{.kind = JsonKind::text, .take = &Reader::take_type};
+  static constexpr Node kClass{.kind = JsonKind::text, .take = &Reader::take_class};
+  static constexpr Node kParameter{.kind = JsonKind::text, .take = &Reader::take_parameter};
+  static constexpr Node kReference{.kind = JsonKind::text, .take = &Reader::take_reference};
+  static constexpr Node kParameters{
+      .kind = JsonKind::object, .element = &kParameter, .start = &Reader::start_parameters};
+  static constexpr Node kNames{.kind = JsonKind::array, .element = &kReference, .start = &Reader::start_names};
   static constexpr Member kInstanceMembers[] = {
       {.key = "name", .value = &kName, .required = true},
       {.key = "type", .value = &kType, .required = true},
       {.key = "class", .value = &kClass, .required = true},
       {.key = "parameters", .value = &kParameters},
-      {.key = "processors", .value = &kProcessors, .onlyIn = Class::debug},
-      {.key = "peripherals", .value = &kPeripherals, .onlyIn = Class::processor},
+      {.key = "processors", .value = &kNames, .onlyIn = Class::debug},
+      {.key = "peripherals", .value = &kNames, .onlyIn = Class::processor},
   };
-  static constexpr Node kInstance{.kind = Kind::object, .members = kInstanceMembers, .start = &Reader::start_instance};
-  static constexpr Node kInstances{.kind = Kind::array, .element = &kInstance};
+  static constexpr Node kInstance{
+      .kind = JsonKind::object, .members = kInstanceMembers, .start = &Reader::start_instance};
+  static constexpr Node kInstances{.kind = JsonKind::array, .element = &kInstance};
   static constexpr Member kDesignMembers[] = {
       {.key = "name", .value = &kText},
       {.key = "instances", .value = &kInstances, .required = true},
   };
-  static constexpr Node kDesign{.kind = Kind::object, .members = kDesignMembers};
+  static constexpr Node kDesign{.kind = JsonKind::object, .members = kDesignMembers};
   return kDesign;
 }
 
@@ -263,13 +398,13 @@ std::string DesignFile::Reader::place() const {
   if (m_open.empty()) return "top level";
   std::string out;
   for (const Frame& frame : m_open) {
-    out += frame.node->kind == Kind::array ? '/' + std::to_string(frame.count - 1) : step(frame.key);
+    out += frame.node->kind == JsonKind::array ? '/' + std::to_string(frame.count - 1) : step(frame.key);
   }
   return out;
 }
 
 // A value begins; the answer is what stands there.
-const DesignFile::Reader::Node& DesignFile::Reader::value(Kind found) {
+const DesignFile::Reader::Node& DesignFile::Reader::value(JsonKind found) {
   const Node* expected = &root();
   if (!m_open.empty()) {
     ++m_open.back().count;
@@ -279,192 +414,178 @@ const DesignFile::Reader::Node& DesignFile::Reader::value(Kind found) {
   return *expected;
 }
 
-bool DesignFile::Reader::scalar(Kind found) {
-  value(found);
-  return true;
-}
-
-bool DesignFile::Reader::open(Kind kind) {
-  const Node& node = value(kind);
-  m_open.push_back({.node = &node, .next = node.element, .key = {}, .seen = {}});
-  if (node.start != nullptr) (this->*node.start)();
-  return true;
-}
-
-bool DesignFile::Reader::string(string_t& text) {
-  const Node& node = value(Kind::text);
+void DesignFile::Reader::text(std::string_view text) {
+  const Node& node = value(JsonKind::text);
   if (node.take != nullptr) (this->*node.take)(text);
-  return true;
 }
 
-bool DesignFile::Reader::key(string_t& name) {
+void DesignFile::Reader::start(JsonKind kind) {
+  const Node& node = value(kind);
+  m_open.push_back({.node = &node, .next = node.element, .key = {}});
+  if (node.start != nullptr) (this->*node.start)();
+}
+
+void DesignFile::Reader::key(std::string_view name) {
   Frame& object = m_open.back();
   object.key = name;
-  if (object.node->element == nullptr) {
-    const std::span<const Member> members = object.node->members;
-    const auto member = std::ranges::find(members, std::string_view(name), &Member::key);
-    if (member == members.end()) {
-      std::vector<std::string_view> known;
-      for (const Member& candidate : members) known.push_back(candidate.key);
-      wrong("an unknown member", choice(known));
-    }
-    object.next = member->value;
-  }
-  if (!object.seen.insert(name).second) wrong("a second member of this name", "one");
-  return true;
+  object.node->element != nullptr ? free_key(object, name) : fixed_key(object, name);
 }
 
-bool DesignFile::Reader::end_object() {
-  Frame& object = m_open.back();
+void DesignFile::Reader::fixed_key(Frame& object, std::string_view name) {
+  const std::span<const Member> members = object.node->members;
+  const auto member = std::ranges::find(members, name, &Member::key);
+  if (member == members.end()) {
+    std::vector<std::string_view> known;
+    for (const Member& candidate : members) known.push_back(candidate.key);
+    wrong("an unknown member", choice(known));
+  }
+  const std::uint32_t bit = 1U << static_cast<unsigned>(member - members.begin());
+  if ((object.seen & bit) != 0) wrong("a second member of this name", "one");
+  object.seen |= bit;
+  object.key = member->key;
+  object.next = member->value;
+}
+
+// The name of a parameter.
+void DesignFile::Reader::free_key(Frame& object, std::string_view name) {
+  const Text kept = m_design.keep(name);
+  object.key = m_design.view(kept);
+  if (!m_seen.insert(object.key)) wrong("a second member of this name", "one");
+  m_design.parameters.push_back({.name = kept, .value = {}});
+  instance().parameters.end = static_cast<std::uint32_t>(m_design.parameters.size());
+}
+
+void DesignFile::Reader::end(JsonKind kind) {
+  if (kind == JsonKind::object) check_members(m_open.back());
+  m_open.pop_back();
+}
+
+void DesignFile::Reader::check_members(Frame& object) {
+  std::uint32_t seen = object.seen;
   for (const Member& member : object.node->members) {
     object.key = member.key;
-    const bool seen = object.seen.contains(object.key);
-    if (member.required && !seen) wrong("nothing", words(member.value->kind));
-    if (member.onlyIn && seen && instance().ipClass != *member.onlyIn) {
+    if (member.required && (seen & 1U) == 0) wrong("nothing", words(member.value->kind));
+    if (member.onlyIn && (seen & 1U) != 0 && instance().ipClass != *member.onlyIn) {
       wrong("it in class " + word(instance().ipClass), "it in class " + word(*member.onlyIn) + " only");
     }
+    seen >>= 1U;
   }
-  m_open.pop_back();
-  return true;
 }
 
-bool DesignFile::Reader::end_array() {
-  m_open.pop_back();
-  return true;
-}
-
-bool DesignFile::Reader::parse_error(std::size_t position, const std::string& /*token*/,
-                                     const nlohmann::detail::exception& error) {
-  constexpr int kNumberTooLarge = 406;
-  if (error.id == kNumberTooLarge) return scalar(Kind::number);
-  const std::string_view what = error.what();
-  const std::string_view sentence = what.substr(0, what.find("; last read: "));  // the rest repeats the file
-  const std::size_t offset = position - 1;
-  if (offset >= m_text.size()) broken(m_text.size(), "the end of the file", expectation(sentence));
-
-  const bool complete = what.ends_with("; expected end of input");
-  const std::string expected = complete ? "the end of the file" : expectation(sentence);
-  constexpr std::string_view kUnexpected = " - unexpected ";
-  if (const std::size_t token = sentence.find(kUnexpected); token != sentence.npos) {
-    const std::string_view rest = sentence.substr(token + kUnexpected.size());
-    const std::string name(rest.substr(0, rest.find("; ")));
-    broken(offset, name.front() == '\'' ? name : "a " + name, expected);
-  }
-  if (sentence.ends_with("invalid literal")) {
-    // The whole word.
-    const std::size_t begin = m_text.substr(0, offset).find_last_not_of(kIdentifier) + 1;  // npos + 1 is 0
-    const std::size_t end = std::max(m_text.find_first_not_of(kIdentifier, begin), offset + 1);
-    broken(begin, in_quotes(m_text.substr(begin, end - begin)), expected);
-  }
-  broken(offset, in_quotes(m_text.substr(offset, 1)), expected);
-}
-
-void DesignFile::Reader::check_identifier(const std::string& text) const {
+void DesignFile::Reader::check_identifier(std::string_view text) const {
   if (!is_identifier(text)) {
     wrong(in_quotes(text), "1 to " + std::to_string(kMaxNameLength) + " letters, digits or underscores");
   }
 }
 
-void DesignFile::Reader::take_name(std::string& text) {
-  check_identifier(text);
-  const std::size_t position = m_design.m_instances.size() - 1;
-  const auto [first, isNew] = m_design.m_byName.try_emplace(text, position);
-  if (!isNew) wrong(in_quotes(text), "another name than that of /instances/" + std::to_string(first->second));
-  instance().name = std::move(text);
+void DesignFile::Reader::start_parameters() {
+  m_seen.clear();
+  const auto begin = static_cast<std::uint32_t>(m_design.parameters.size());
+  instance().parameters = {begin, begin};
 }
 
-void DesignFile::Reader::take_type(std::string& text) {
-  check_identifier(text);
-  m_design.m_byIpType[text].push_back(m_design.m_instances.size() - 1);
-  instance().ipType = std::move(text);
+void DesignFile::Reader::start_names() {
+  m_seen.clear();
+  const auto begin = static_cast<std::uint32_t>(m_design.names.size());
+  instance().names = {begin, begin};
 }
 
-void DesignFile::Reader::take_class(std::string& text) {
+void DesignFile::Reader::take_name(std::string_view text) {
+  check_identifier(text);
+  instance().name = m_design.keep(text);
+  if (const Content::Instance* const first = m_design.enter_last_name()) {
+    const auto other = first - m_design.instances.data();
+    wrong(in_quotes(text), "another name than that of /instances/" + std::to_string(other));
+  }
+}
+
+void DesignFile::Reader::take_type(std::string_view text) {
+  check_identifier(text);
+  m_design.enter_last_type(m_design.keep(text));
+}
+
+void DesignFile::Reader::take_class(std::string_view text) {
   const auto* found = std::ranges::find(kClasses, text);
   if (found == std::end(kClasses)) wrong(in_quotes(text), choice(kClasses));
   instance().ipClass = static_cast<Class>(found - std::begin(kClasses));
-  m_design.m_byClass[instance().ipClass].push_back(m_design.m_instances.size() - 1);
 }
 
-void DesignFile::Reader::take_reference(std::string& text, std::vector<std::string>& list) {
-  if (!m_open.back().seen.insert(text).second) wrong(in_quotes(text) + " again", "each name once");
-  list.push_back(std::move(text));
+void DesignFile::Reader::take_reference(std::string_view text) {
+  const Text kept = m_design.keep(text);
+  if (!m_seen.insert(m_design.view(kept))) wrong(in_quotes(text) + " again", "each name once");
+  m_design.names.push_back(kept);
+  instance().names.end = static_cast<std::uint32_t>(m_design.names.size());
 }
 
-// The names in one list of every instance are those of instances of the classes allowed.
-void DesignFile::Reader::check_references(std::string_view key, std::vector<std::string> Instance::*list,
-                                          const std::vector<Class>& allowed) const {
-  std::vector<std::string> words;
-  std::ranges::transform(allowed, std::back_inserter(words), word);
-  const std::string expected = "an instance of class " + choice(words);
-  for (const Instance& user : m_design.m_instances) {
-    for (const std::string& name : user.*list) {
-      const Instance* used = m_design.find(name);
+// The names in one list of every instance of a class are those of instances of the classes allowed.
+void DesignFile::Reader::check_references(std::string_view key, Class user, const std::vector<Class>& allowed) const {
+  for (const Content::Instance& instance : m_design.instances) {
+    if (instance.ipClass != user) continue;
+    const std::span<const Text> names = Content::part(m_design.names, instance.names);
+    for (const Text& text : names) {
+      const std::string_view name = m_design.view(text);
+      const Content::Instance* const used = m_design.find(name);
       if (used != nullptr && std::ranges::find(allowed, used->ipClass) != allowed.end()) continue;
-      const auto user_position = &user - m_design.m_instances.data();
-      const auto name_position = &name - (user.*list).data();
-      fail(m_file + ": /instances/" + std::to_string(user_position) + step(key) + '/' + std::to_string(name_position),
+      const auto position = &instance - m_design.instances.data();
+      const auto place = &text - names.data();
+      std::vector<std::string> classes;
+      std::ranges::transform(allowed, std::back_inserter(classes), word);
+      fail(m_file + ": /instances/" + std::to_string(position) + step(key) + '/' + std::to_string(place),
            in_quotes(name) + (used != nullptr ? " of class " + word(used->ipClass) : ", which is no instance"),
-           expected);
+           "an instance of class " + choice(classes));
     }
   }
 }
 
 // --- The answers ---
 
+DesignFile::DesignFile(std::string text, const std::string& file) {
+  const auto content = std::make_shared<Content>(std::move(text));
+  Reader(*content, file).read();
+  m_content = content;
+}
+
 DesignFile DesignFile::load(const std::string& path) {
   const std::string file = one_line(path);
-  return Reader(contents(path, file), file).read();
+  return {contents(path, file), file};
 }
 
 DesignFile DesignFile::parse(const std::string& text, const std::string& name) {
-  return Reader(text, one_line(name)).read();
-}
-
-const DesignFile::Instance* DesignFile::find(const std::string& name) const {
-  const auto found = m_byName.find(name);
-  return found != m_byName.end() ? &m_instances[found->second] : nullptr;
-}
-
-// The names of the instances under a key.
-template <typename Key>
-void DesignFile::append(std::vector<std::string>& out, const std::unordered_map<Key, std::vector<std::size_t>>& index,
-                        const Key& key) const {
-  const auto found = index.find(key);
-  if (found == index.end()) return;
-  for (const std::size_t position : found->second) out.push_back(m_instances[position].name);
+  const std::string file = one_line(name);
+  check_size(text.size(), file);
+  return {text, file};
 }
 
 void DesignFile::getProcessorInstances(std::vector<std::string>& out, bool /*flag*/) {
-  append(out, m_byClass, Class::processor);
+  m_content->append_class(out, Class::processor);
 }
 
 void DesignFile::getIpInstances(std::vector<std::string>& out, const HwIpType& ipClass) {
-  if (ipClass == HW_IP_DEBUG) append(out, m_byClass, Class::debug);
+  if (ipClass == HW_IP_DEBUG) m_content->append_class(out, Class::debug);
 }
 
 void DesignFile::getIpInstances(std::vector<std::string>& out, const std::string& ipType, bool /*flag*/) {
-  append(out, m_byIpType, ipType);
+  m_content->append_type(out, ipType);
 }
 
 std::string DesignFile::getIpName(const std::string& instance) {
-  const Instance* found = find(instance);
-  return found != nullptr ? found->ipType : std::string();
+  const Content::Instance* const found = m_content->find(instance);
+  return found != nullptr ? std::string(m_content->ipTypes[found->ipType].name) : std::string();
 }
 
 void DesignFile::getOdmConnectedProcessorList(std::vector<std::string>& out, const std::string& debugInstance) {
-  const Instance* found = find(debugInstance);
-  if (found != nullptr) out.insert(out.end(), found->processors.begin(), found->processors.end());
+  m_content->append_list(out, debugInstance, Class::debug);
 }
 
 void DesignFile::getPeripherals(const std::string& processor, std::vector<std::string>& out) {
-  const Instance* found = find(processor);
-  if (found != nullptr) out.insert(out.end(), found->peripherals.begin(), found->peripherals.end());
+  m_content->append_list(out, processor, Class::processor);
 }
 
 std::string DesignFile::getParameterValue(const std::string& instance, const std::string& parameter) {
-  const Instance* found = find(instance);
+  const Content::Instance* const found = m_content->find(instance);
   if (found == nullptr) return {};
-  const auto value = found->parameters.find(parameter);
-  return value != found->parameters.end() ? value->second : std::string();
+  for (const Content::Parameter& candidate : Content::part(m_content->parameters, found->parameters)) {
+    if (m_content->view(candidate.name) == parameter) return std::string(m_content->view(candidate.value));
+  }
+  return {};
 }

@@ -2,10 +2,9 @@
 
 // A hardware design kept in a JSON file (docs/design-file.md).
 
-#include <cstddef>
+#include <memory>
 #include <stdexcept>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 #include "platform/HHSMHwManager.h"
@@ -17,7 +16,7 @@ class DesignFileError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// Answers every question in the order of the file.
+// Answers every question in the order of the file. Copies share what was read.
 class DesignFile : public HHSMHwManager {
  public:
   // Reads a design whole; throws DesignFileError for anything that is not a complete and consistent one. Nothing
@@ -26,6 +25,11 @@ class DesignFile : public HHSMHwManager {
 
   // The same for text in memory; name stands for the file in error texts.
   static DesignFile parse(const std::string& text, const std::string& name);
+
+  // There is no move, which would leave an object without answers.
+  DesignFile(const DesignFile&) = default;
+  DesignFile& operator=(const DesignFile&) = default;
+  ~DesignFile() override = default;
 
   void getProcessorInstances(std::vector<std::string>& out, bool flag) override;
   void getIpInstances(std::vector<std::string>& out, const HwIpType& ipClass) override;
@@ -36,27 +40,10 @@ class DesignFile : public HHSMHwManager {
   std::string getParameterValue(const std::string& instance, const std::string& parameter) override;
 
  private:
+  class Content;
   class Reader;
-  enum class Class { processor, debug, peripheral, memory, other };
 
-  struct Instance {
-    std::string name;
-    std::string ipType;
-    Class ipClass = Class::other;
-    std::unordered_map<std::string, std::string> parameters;
-    std::vector<std::string> processors;   // that a debug IP reaches
-    std::vector<std::string> peripherals;  // of a processor
-  };
+  DesignFile(std::string text, const std::string& file);
 
-  DesignFile() = default;
-  const Instance* find(const std::string& name) const;
-  template <typename Key>
-  void append(std::vector<std::string>& out, const std::unordered_map<Key, std::vector<std::size_t>>& index,
-              const Key& key) const;
-
-  std::vector<Instance> m_instances;
-  // Positions in m_instances, in order.
-  std::unordered_map<std::string, std::size_t> m_byName;
-  std::unordered_map<std::string, std::vector<std::size_t>> m_byIpType;
-  std::unordered_map<Class, std::vector<std::size_t>> m_byClass;
+  std::shared_ptr<const Content> m_content;
 };

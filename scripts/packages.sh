@@ -2,7 +2,8 @@
 # Sourced by the other scripts: installs Debian packages that are missing.
 
 # What every build needs; the scripts add what else they use.
-build_packages="g++ cmake ninja-build libboost-dev libboost-filesystem-dev libcli11-dev nlohmann-json3-dev"
+build_packages="g++ cmake ninja-build libboost-dev libboost-filesystem-dev libcli11-dev nlohmann-json3-dev \
+  rapidjson-dev"
 
 missing_packages() {
   for package in "$@"; do

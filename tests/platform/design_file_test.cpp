@@ -109,9 +109,13 @@ std::string load_error(const std::string& path) {
 
 TEST(DesignFile, IsAHardwareManagerThatCanBeMovedAndCopied) {
   static_assert(std::is_base_of_v<HHSMHwManager, DesignFile>);
-  DesignFile design = example("small");
-  DesignFile copy = design;
-  DesignFile moved = std::move(design);
+  DesignFile copy = example("large");
+  {
+    const DesignFile design = example("small");
+    copy = design;
+  }
+  DesignFile second = copy;
+  DesignFile moved = std::move(second);
   EXPECT_THAT(processors(copy), ElementsAre("ovrin_0"));
   EXPECT_THAT(processors(moved), ElementsAre("ovrin_0"));
 }
@@ -181,6 +185,37 @@ TEST(DesignFile, GivesParametersByteForByte) {
   EXPECT_EQ(design.getParameterValue("a", "C_X"), "");
   EXPECT_EQ(design.getParameterValue("a", "c_x"), " 1 ");
   EXPECT_EQ(design.getParameterValue("a", "\xC3\xA4"), std::string("\0\"\n\xE2\x82\xAC", 6));
+}
+
+TEST(DesignFile, KnowsNamesHoweverTheyAreWritten) {
+  DesignFile design = DesignFile::parse(
+      R"({"instances": [{"name": "\u0070", "type": "ov\u0072in", "class": "pr\u006fcessor", "peripherals": ["\u006D"],
+                         "p\u0061rameters": {"\u0041": "\ud83d\uDE00"}},
+                        {"name": "\u006d", "type": "t", "class": "memory"}]})",
+      "x.json");
+  EXPECT_THAT(processors(design), ElementsAre("p"));
+  EXPECT_THAT(of_type(design, "ovrin"), ElementsAre("p"));
+  EXPECT_THAT(peripherals(design, "p"), ElementsAre("m"));
+  EXPECT_EQ(design.getIpName("p"), "ovrin");
+  EXPECT_EQ(design.getParameterValue("p", "A"), "\xF0\x9F\x98\x80");
+  EXPECT_EQ(parse_error(design_with(R"({"parameters": {"A": "", "\u0041": ""}})")),
+            "x.json: /instances/3/parameters/A: found a second member of this name, expected one");
+}
+
+TEST(DesignFile, KnowsEachNameOfALongList) {
+  std::string parameters;
+  for (int i = 0; i < 40; ++i) parameters += "\"P" + std::to_string(i) + "\": \"" + std::to_string(i) + "\", ";
+  DesignFile design = DesignFile::parse(
+      R"({"instances": [{"name": "a", "type": "t", "class": "other", "parameters": {)" + parameters + R"("P": ""}}]})",
+      "x.json");
+  for (int i = 0; i < 40; ++i) {
+    EXPECT_EQ(design.getParameterValue("a", "P" + std::to_string(i)), std::to_string(i));
+  }
+  for (const char* const name : {"P0", "P15", "P16", "P39"}) {
+    EXPECT_EQ(
+        parse_error(design_with("{\"parameters\": {" + parameters + '"' + name + "\": \"\"}}")),
+        std::string("x.json: /instances/3/parameters/") + name + ": found a second member of this name, expected one");
+  }
 }
 
 TEST(DesignFile, AcceptsTheSmallestDesign) {
@@ -341,6 +376,32 @@ TEST(DesignFile, NamesThePlaceInBrokenJson) {
       {"{\"instances\": []}]", "line 1, column 18: found ']', expected the end of the file"},
       {"{\"instances\": []} \"; expected ':'",
        "line 1, column 34: found the end of the file, expected a closing quote"},
+      {"\xEF", "line 1, column 2: found the end of the file, expected a value"},
+      {"\xEF\xBB\xBF{", "line 1, column 5: found the end of the file, expected a member name in double quotes"},
+      {"{\"name\" nul", "line 1, column 12: found the end of the file, expected ':'"},
+      {"{\"instances\": []} nul", "line 1, column 22: found the end of the file, expected a value"},
+      {"{\"name\" 1e999}", "line 1, column 13: found a number literal, expected ':'"},
+      {"{\"name\" null}", "line 1, column 12: found a null literal, expected ':'"},
+      {"{\"name\" false}", "line 1, column 13: found a false literal, expected ':'"},
+      {"{\"name\" -}", "line 1, column 10: found \"}\", expected a digit"},
+      {"{\"name\" \"\\udc00\"}", "line 1, column 15: found \"0\", expected a pair of surrogates"},
+      {"{\"name\": \"\\udc00\xFF\"}", "line 1, column 16: found \"0\", expected a pair of surrogates"},
+      {"{\"name\": \"\\\\udc00\xFF\"}", "line 1, column 18: found \"\\xFF\", expected UTF-8"},
+      {"{\"name\": \"\\ud83d\\uDE00\xFF\"}", "line 1, column 23: found \"\\xFF\", expected UTF-8"},
+      {"{\"name\": \"\\ud800", "line 1, column 17: found the end of the file, expected a pair of surrogates"},
+      {"{\"name\": \"\\ud800\\n\"}", "line 1, column 18: found \"n\", expected a pair of surrogates"},
+      {"{\"name\": \"\\ud800\\u0041\"}", "line 1, column 22: found \"1\", expected a pair of surrogates"},
+      {"{\"name\": \"\\ud800\\u00g1\"}", "line 1, column 21: found \"g\", expected four hexadecimal digits after \\u"},
+      {"{\"name\": \"\\u00",
+       "line 1, column 15: found the end of the file, expected four hexadecimal digits after \\u"},
+      {"{\"name\": \"\\", "line 1, column 12: found the end of the file, expected an escape such as \\n or \\u000A"},
+      {"{\"name\": \"\xE2\x82\"}", "line 1, column 13: found \"\\\"\", expected UTF-8"},
+      {"{\"name\": \"\xF0\x9F\x98", "line 1, column 14: found the end of the file, expected UTF-8"},
+      {"{\"name\": \"\xF4\x90\x80\x80\"}", "line 1, column 12: found \"\\x90\", expected UTF-8"},
+      {"{\"name\": \"\xE0\x9F\x80\"}", "line 1, column 12: found \"\\x9F\", expected UTF-8"},
+      {"{\"name\": NaN}", "line 1, column 10: found \"NaN\", expected a value"},
+      {"{\"name\": -Infinity}", "line 1, column 11: found \"I\", expected a digit"},
+      {"{\"name\": /**/ \"a\"}", "line 1, column 10: found \"/\", expected a value"},
       {std::string_view("{\"instances\": []}\0x", 19), "line 1, column 18: found \"\\x00\", expected JSON text"},
       {std::string_view("\0", 1), "line 1, column 1: found \"\\x00\", expected JSON text"},
   };
