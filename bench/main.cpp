@@ -25,6 +25,7 @@ int main(int argc, char** argv) {
   bench::add_lookup();
   bench::add_selection();
   bench::add_process();
+  bench::add_large_design();
   bench::Collector times;
   benchmark::RunSpecifiedBenchmarks(&times);
   bench::print_table(times);

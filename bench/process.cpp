@@ -1,4 +1,5 @@
-// The whole "qvtcfg command", beside the start of a program that does nothing with the same library.
+// The whole "qvtcfg command": on a design of usual size beside the start of a program that does nothing with the same
+// library, on a very large one beside a program that does no more than parse the file.
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -6,9 +7,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdlib>
+#include <filesystem>
 #include <string>
 #include <vector>
 
+#include "bench/design_file.h"
 #include "bench/folder.h"
 #include "bench/suite.h"
 #include "bench/texts.h"
@@ -18,7 +22,9 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-Words qvtcfg() { return {QVTCFG, "-C", work_folder(), "--design", example_design("large.json"), "command", "ovrin_0"}; }
+Words qvtcfg(const std::filesystem::path& design) {
+  return {QVTCFG, "-C", work_folder(), "--design", design, "command", "ovrin_0"};
+}
 
 // Starts a program with its output going nowhere and waits for its end. Whether it went well.
 bool run(const Words& words) {
@@ -56,9 +62,26 @@ void add_program(const Work& work, const char* who, const Words& words) {
 
 void add_process() {
   const Work work = {"qvtcfg command"};
-  expect(output(qvtcfg()) == hardware_text() + "\n", work, kOurs);
-  add_program(work, kOurs, qvtcfg());
+  const Words ours = qvtcfg(example_design("large.json"));
+  expect(output(ours) == hardware_text() + "\n", work, kOurs);
+  add_program(work, kOurs, ours);
   add_program(work, "empty program", {EMPTY_PROGRAM});
+}
+
+void add_large_design() {
+  const Work work = {"qvtcfg command, 100,000"};
+  const std::filesystem::path design = work_folder() / "design.json";
+  write_design_file(design, 100000);
+  const Words ours = qvtcfg(design);
+  expect(output(ours) == hardware_text() + "\n", work, kOurs);
+  add_program(work, kOurs, ours);
+  add_program(work, "nlohmann::json document", {PARSE_JSON, design});
+
+  Words measured = ours;
+  measured.insert(measured.begin(), PEAK);
+  const double peak = std::strtod(output(measured).c_str(), nullptr);
+  expect(peak > 0, {"peak memory"}, kOurs);
+  footprints().push_back({"peak memory of that", peak, "the file", static_cast<double>(file_size(design)), 4});
 }
 
 }  // namespace bench

@@ -32,6 +32,7 @@ constexpr Goal kGoals[] = {
     {"discovery", "the same questions", 2, 100},
     {"look-up in 100,000", "std::unordered_map", 3},
     {"qvtcfg command", "empty program", 2},
+    {"qvtcfg command, 100,000", "nlohmann::json document", 0.5},
 };
 constexpr double kHighestExponent = 1.1;
 constexpr std::size_t kSmallestFitted = 100;
@@ -142,6 +143,14 @@ void print_memory() {
   pclose(pipe);
 }
 
+void print_footprints() {
+  for (const Footprint& f : footprints()) {
+    const double ratio = f.ours / f.theirs;
+    print_row(f.work, bytes(f.ours), "", f.what, bytes(f.theirs), format("%.3f", ratio), limit(f.atMost),
+              verdict(ratio, f.atMost));
+  }
+}
+
 }  // namespace
 
 bool Collector::ReportContext(const Context& /*context*/) { return true; }
@@ -170,6 +179,7 @@ void print_table(const Collector& times) {
   }
   print_exponents(times);
   print_memory();
+  print_footprints();
 }
 
 }  // namespace bench

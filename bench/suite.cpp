@@ -12,6 +12,11 @@ std::vector<Case>& cases() {
   return all;
 }
 
+std::vector<Footprint>& footprints() {
+  static std::vector<Footprint> all;
+  return all;
+}
+
 void expect(bool right, const Work& work, const std::string& who) {
   if (right) return;
   std::fprintf(stderr, "%s by %s: the result is not what it should be\n", work.label().c_str(), who.c_str());

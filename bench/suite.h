@@ -26,6 +26,16 @@ struct Work {
 
 enum class Clock { cpu, wall };
 
+// Memory beside a size that it is compared with, in bytes.
+struct Footprint {
+  std::string work;
+  double ours;
+  std::string what;
+  double theirs;
+  double atMost;  // the ratio
+};
+std::vector<Footprint>& footprints();
+
 struct Case {
   Work work;
   std::string who;
@@ -56,5 +66,6 @@ void add_discovery();
 void add_lookup();
 void add_selection();
 void add_process();
+void add_large_design();
 
 }  // namespace bench

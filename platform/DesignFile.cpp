@@ -207,7 +207,11 @@ class DesignFile::Content {
     return nullptr;
   }
 
-  // Makes the last instance one of this type.
+  void enter_last_class(Class ipClass) {
+    instances.back().ipClass = ipClass;
+    m_byClass[static_cast<std::size_t>(ipClass)].push_back(static_cast<std::uint32_t>(instances.size() - 1));
+  }
+
   void enter_last_type(Text text) {
     const std::string_view name = view(text);
     const auto [found, isNew] = m_typesByName.try_emplace(name, static_cast<std::uint32_t>(ipTypes.size()));
@@ -219,15 +223,12 @@ class DesignFile::Content {
   // The answers: names of instances.
 
   void append_class(std::vector<std::string>& out, Class ipClass) const {
-    for (const Instance& instance : instances) {
-      if (instance.ipClass == ipClass) out.emplace_back(view(instance.name));
-    }
+    append(out, m_byClass[static_cast<std::size_t>(ipClass)]);
   }
 
   void append_type(std::vector<std::string>& out, std::string_view ipType) const {
     const auto found = m_typesByName.find(ipType);
-    if (found == m_typesByName.end()) return;
-    for (const std::uint32_t i : ipTypes[found->second].instances) out.emplace_back(view(instances[i].name));
+    if (found != m_typesByName.end()) append(out, ipTypes[found->second].instances);
   }
 
   // Those that an instance lists, if it is of that class.
@@ -252,7 +253,8 @@ class DesignFile::Content {
     std::uint32_t position = kFree;  // of an instance
   };
 
-  // Names that differ in their last character alone are neighbours: they are asked for one after the other.
+  // Names that differ in their last character alone are neighbours: names are numbered, and are asked for one after the
+  // other.
   static std::uint32_t hash_of(std::string_view name) {
     if (name.empty()) return 0;
     const std::size_t hash = std::hash<std::string_view>()(name.substr(0, name.size() - 1));
@@ -266,6 +268,11 @@ class DesignFile::Content {
       const Slot& here = m_slots[i];
       if (here.position == kFree || (here.hash == hash && view(instances[here.position].name) == name)) return i;
     }
+  }
+
+  void append(std::vector<std::string>& out, const std::vector<std::uint32_t>& positions) const {
+    if (out.empty()) out.reserve(positions.size());
+    for (const std::uint32_t i : positions) out.emplace_back(view(instances[i].name));
   }
 
   void make_room() {
@@ -282,6 +289,7 @@ class DesignFile::Content {
 
   std::string m_file;
   std::string m_decoded;                                              // texts that had escapes
+  std::vector<std::uint32_t> m_byClass[std::size(kClasses)];          // positions in instances
   std::unordered_map<std::string_view, std::uint32_t> m_typesByName;  // positions in ipTypes
   std::vector<Slot> m_slots;                                          // a power of two of them, half of them free
 };
@@ -507,7 +515,7 @@ void DesignFile::Reader::take_type(std::string_view text) {
 void DesignFile::Reader::take_class(std::string_view text) {
   const auto* found = std::ranges::find(kClasses, text);
   if (found == std::end(kClasses)) wrong(in_quotes(text), choice(kClasses));
-  instance().ipClass = static_cast<Class>(found - std::begin(kClasses));
+  m_design.enter_last_class(static_cast<Class>(found - std::begin(kClasses)));
 }
 
 void DesignFile::Reader::take_reference(std::string_view text) {

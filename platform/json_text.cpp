@@ -38,7 +38,7 @@ class Stream {
  public:
   using Ch = char;
 
-  explicit Stream(const std::string& text, std::size_t offset = 0) : m_text(text), m_next(text.data() + offset) {}
+  explicit Stream(const std::string& text, std::size_t offset = 0) : m_text(text.c_str()), m_next(m_text + offset) {}
 
   // The text ends with NUL, which is never passed.
   char Peek() const { return *m_next; }
@@ -47,23 +47,27 @@ class Stream {
     m_next += taken != '\0' ? 1 : 0;
     return taken;
   }
-  std::size_t Tell() const { return static_cast<std::size_t>(m_next - m_text.data()); }
+  std::size_t Tell() const { return static_cast<std::size_t>(m_next - m_text); }
 
+  // A string begins. Most are plain to their end, which needs no look from the parser.
   char* PutBegin() {
     m_string = m_next;
-    m_written = 0;
+    while (is_plain(*m_next)) ++m_next;
+    m_written = static_cast<std::size_t>(m_next - m_string);
     return nullptr;
   }
   void Put(char) { ++m_written; }
   std::size_t PutEnd(char*) { return m_written; }
 
   // Where the last string begins, behind its quote.
-  std::size_t string_begin() const { return static_cast<std::size_t>(m_string - m_text.data()); }
+  std::size_t string_begin() const { return static_cast<std::size_t>(m_string - m_text); }
   // The string that has just ended, without quotes, as it stands in the text.
   std::string_view string() const { return {m_string, static_cast<std::size_t>(m_next - m_string) - 1}; }
 
  private:
-  const std::string& m_text;
+  static bool is_plain(char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; }
+
+  const char* m_text;
   const char* m_next;
   const char* m_string = m_next;
   std::size_t m_written = 0;

@@ -74,12 +74,16 @@ TEST_F(ARegularFile, ThatIsNotThereIsAnErrorOfTheSystem) {
 
 TEST_F(ARegularFile, ThatCannotBeOpenedIsAnErrorOfTheSystem) {
   WorkFolder::write(path("file"), "");
+  const std::string file = path("file");
   rlimit before = {};
   ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
   const rlimit none = {0, before.rlim_max};
   ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
-  expect_failure(path("file"), nullptr, EMFILE);
+  const RegularFile opened(file);
   ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
+  EXPECT_FALSE(opened);
+  EXPECT_EQ(opened.other_kind(), nullptr);
+  EXPECT_EQ(opened.error(), EMFILE);
 }
 
 TEST_F(ARegularFile, ThatCannotBeReadIsAnErrorOfTheSystem) {
