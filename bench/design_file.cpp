@@ -34,9 +34,8 @@ std::string instance(std::string_view name, std::size_t number, std::string_view
 std::string processor(const Place& place, std::size_t number) {
   const std::string n = std::to_string(number);
   return instance(place.type, number, place.type, "processor") +
-         R"(, "parameters": {"USE_FPU": "0", "DEBUG": "1"}, "peripherals": ["bram_)" +
-         std::to_string(number / kBlockSize) + R"(", "uart_)" + n + "\"]},\n" +
-         instance("uart", number, "tfb_serial_lite", "peripheral") +
+         R"(, "parameters": {"FPU": "0", "DEBUG": "1"}, "peripherals": ["bram_)" + std::to_string(number / kBlockSize) +
+         R"(", "uart_)" + n + "\"]},\n" + instance("uart", number, "tfb_serial_lite", "peripheral") +
          R"(, "parameters": {"BASE": "0x84000000", "BAUD": "115200"}},)" + "\n";
 }
 

@@ -324,7 +324,7 @@ std::optional<JsonFault> read_json(const std::string& text, JsonListener& listen
   const rapidjson::ParseResult result = Parser().Parse<kCheckingFlags>(stream, handler);
   if (!result.IsError()) return {};
   if (result.Code() == rapidjson::kParseErrorNumberTooBig) listener.scalar(JsonKind::number);
-  if (const auto surrogate = surrogate_fault(text, stream, result.Offset())) return surrogate;
+  if (auto surrogate = surrogate_fault(text, stream, result.Offset())) return surrogate;
   return fault(text, result.Code(), result.Offset(), expectation(result.Code()));
 }
 

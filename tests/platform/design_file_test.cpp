@@ -166,24 +166,24 @@ TEST(DesignFile, AnswersNothingForWhatTheDesignDoesNotHave) {
   EXPECT_THAT(of_type(design, ""), IsEmpty());
   for (const char* name : {"", "nobody", "OVRIN_0", "ovrin_0 "}) {
     EXPECT_EQ(design.getIpName(name), "") << name;
-    EXPECT_EQ(design.getParameterValue(name, "C_USE_FPU"), "") << name;
+    EXPECT_EQ(design.getParameterValue(name, "FPU"), "") << name;
     EXPECT_THAT(connected(design, name), IsEmpty()) << name;
     EXPECT_THAT(peripherals(design, name), IsEmpty()) << name;
   }
   EXPECT_THAT(connected(design, "ovrin_0"), IsEmpty());
   EXPECT_THAT(peripherals(design, "odm_0"), IsEmpty());
-  EXPECT_EQ(design.getParameterValue("ovrin_0", "C_USE"), "");
-  EXPECT_EQ(design.getParameterValue("bram_0", "C_USE_FPU"), "");
+  EXPECT_EQ(design.getParameterValue("ovrin_0", "FP"), "");
+  EXPECT_EQ(design.getParameterValue("bram_0", "FPU"), "");
 }
 
 TEST(DesignFile, GivesParametersByteForByte) {
   DesignFile design = DesignFile::parse(
       R"({"instances": [{"name": "a", "type": "t", "class": "other",
-          "parameters": {"": "empty name", "C_X": "", "c_x": " 1 ", "\u00E4": "\u0000\"\n\u20ac"}}]})",
+          "parameters": {"": "empty name", "PX": "", "px": " 1 ", "\u00E4": "\u0000\"\n\u20ac"}}]})",
       "x.json");
   EXPECT_EQ(design.getParameterValue("a", ""), "empty name");
-  EXPECT_EQ(design.getParameterValue("a", "C_X"), "");
-  EXPECT_EQ(design.getParameterValue("a", "c_x"), " 1 ");
+  EXPECT_EQ(design.getParameterValue("a", "PX"), "");
+  EXPECT_EQ(design.getParameterValue("a", "px"), " 1 ");
   EXPECT_EQ(design.getParameterValue("a", "\xC3\xA4"), std::string("\0\"\n\xE2\x82\xAC", 6));
 }
 
@@ -259,7 +259,7 @@ TEST(DesignFile, AnswersForTheSmallExample) {
   EXPECT_EQ(design.getIpName("odm_0"), "odm");
   EXPECT_EQ(design.getIpName("bram_0"), "lmb_ocram_port");
   EXPECT_EQ(design.getIpName("uart_0"), "tfb_serial_lite");
-  EXPECT_EQ(design.getParameterValue("uart_0", "C_BAUDRATE"), "115200");
+  EXPECT_EQ(design.getParameterValue("uart_0", "BAUD"), "115200");
 }
 
 TEST(DesignFile, AnswersForTheLargeExample) {
@@ -479,11 +479,11 @@ TEST(DesignFile, NamesThePlaceInAWrongInstance) {
        R"(/instances/3/class: found "Debug", expected processor, debug, peripheral, memory or other)"},
       // Parameters.
       {R"({"parameters": []})", "/instances/3/parameters: found an array, expected an object"},
-      {R"({"parameters": {"C_X": 1}})", "/instances/3/parameters/C_X: found a number, expected a text"},
-      {R"({"parameters": {"C_X": true}})", "/instances/3/parameters/C_X: found true or false, expected a text"},
-      {R"({"parameters": {"C/X": {}}})", "/instances/3/parameters/C~1X: found an object, expected a text"},
-      {R"({"parameters": {"C_X": "1", "C_Y": "", "C_X": "1"}})",
-       "/instances/3/parameters/C_X: found a second member of this name, expected one"},
+      {R"({"parameters": {"PX": 1}})", "/instances/3/parameters/PX: found a number, expected a text"},
+      {R"({"parameters": {"PX": true}})", "/instances/3/parameters/PX: found true or false, expected a text"},
+      {R"({"parameters": {"P/X": {}}})", "/instances/3/parameters/P~1X: found an object, expected a text"},
+      {R"({"parameters": {"PX": "1", "PY": "", "PX": "1"}})",
+       "/instances/3/parameters/PX: found a second member of this name, expected one"},
       // Lists that another class has.
       {R"({"name": "a", "type": "t", "class": "processor", "processors": ["ovrin_0"]})",
        "/instances/3/processors: found it in class processor, expected it in class debug only"},
@@ -525,8 +525,8 @@ TEST(DesignFile, EndsNestingAtOnceHoweverDeep) {
   EXPECT_EQ(parse_error(R"({"instances": )" + nesting), "x.json: /instances/0: found an array, expected an object");
   EXPECT_EQ(parse_error(R"({"colour": )" + nesting),
             "x.json: /colour: found an unknown member, expected name or instances");
-  EXPECT_EQ(parse_error(design_with(R"({"parameters": {"C_X": )" + nesting)),
-            "x.json: /instances/3/parameters/C_X: found an array, expected a text");
+  EXPECT_EQ(parse_error(design_with(R"({"parameters": {"PX": )" + nesting)),
+            "x.json: /instances/3/parameters/PX: found an array, expected a text");
 }
 
 TEST(DesignFile, KeepsTheMessageShortHoweverLongTheFaultyText) {
