@@ -113,6 +113,13 @@ TEST_F(Fpu, IsNoneWithoutHardware) {
   EXPECT_EQ(s.processor.fpuType, 0U);
 }
 
+TEST_F(Fpu, IsNoneForASoftProcessorWithoutHardwareAndThatIsNoFailure) {
+  s.imp.hwManager = nullptr;
+  s.processor.procFamily = 0;
+  EXPECT_EQ(s.imp.GetFPUType(), 0);
+  EXPECT_EQ(s.processor.fpuType, 0U);
+}
+
 TEST_F(Fpu, IsNotLookedForWithoutASelectedProcessor) {
   s.imp.currentProcessor = nullptr;
   EXPECT_EQ(s.imp.GetFPUType(), 1);
