@@ -80,7 +80,7 @@ def is_equivalent(mutant, equivalent):
     text = text_of(mutant.source)
     for same in equivalent:
         if same.source == mutant.source:
-            table_end = text.index(";\n", same.start)
+            table_end = text.find(";\n", same.start)
             if mutant.broken(text) == same.broken(text) or (
                     mutant.kind == "rows" and not same.new and same.start <= mutant.start < table_end):
                 return True
