@@ -55,14 +55,14 @@ constexpr Target kTargets[] = {
      .connections = kArm,
      .family = kFamilyArm,
      .variant = kVariantCortexA9,
-     .read = read_arm_target,
+     .read = read_by_connection,
      .write = write_as_powerpc},
     {.name = " r5",
      .meaning = "R5",
      .connections = kArm,
      .family = kFamilyArm,
      .variant = kVariantR5,
-     .read = read_arm_target,
+     .read = read_by_connection,
      .write = write_as_powerpc},
     {.name = " dap",
      .meaning = "ARM debug access port",
@@ -138,6 +138,15 @@ void learn_processor(const Target& target, EngineImp& imp) {
 
 void learn_connection(std::uint32_t connection, EngineImp& imp) {
   if (imp.hwManager == nullptr) imp.currentProcessor->allowedConnections |= connection;
+}
+
+bool read_by_connection(const Target& target, TokenCursor& in, EngineImp& imp) {
+  const Connection* const connection = read_connection(target, in, imp);
+  if (connection == nullptr || !read_options(in, imp, connection->options)) return false;
+  imp.currentProcessor->connectionType = connection->type;
+  learn_processor(target, imp);
+  learn_connection(connection->type, imp);
+  return true;
 }
 
 // --- Writing ---

@@ -10,9 +10,10 @@ namespace SdkDebugDialog {
 
 // --- For Target::read: what follows the target's name. False for an error. ---
 
+// A connection keyword and its options; nothing is stored of a connection that fails. The others differ from it.
+bool read_by_connection(const Target& target, TokenCursor& in, EngineImp& imp);
 bool read_ov_target(const Target& target, TokenCursor& in, EngineImp& imp);
 bool read_ppc_target(const Target& target, TokenCursor& in, EngineImp& imp);
-bool read_arm_target(const Target& target, TokenCursor& in, EngineImp& imp);
 bool read_dap_target(const Target& target, TokenCursor& in, EngineImp& imp);
 bool read_bare_target(const Target& target, TokenCursor& in, EngineImp& imp);
 bool read_virtual_platform(const Target& target, TokenCursor& in, EngineImp& imp);

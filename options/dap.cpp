@@ -1,18 +1,9 @@
-// Reads the ARM targets "arm", "r5" and "dap".
+// Reads the debug access port of an ARM ("dap").
 
 #include "options/groups.h"
 #include "options/target.h"
 
 namespace SdkDebugDialog {
-
-bool read_arm_target(const Target& target, TokenCursor& in, EngineImp& imp) {
-  const Connection* const connection = read_connection(target, in, imp);
-  if (connection == nullptr || !read_options(in, imp, connection->options)) return false;
-  imp.currentProcessor->connectionType = connection->type;
-  learn_processor(target, imp);
-  learn_connection(connection->type, imp);
-  return true;
-}
 
 // The access port is no processor of the design: the hardware description is not asked.
 bool read_dap_target(const Target& target, TokenCursor& in, EngineImp& imp) {
