@@ -11,6 +11,7 @@
 #include "fuzz/input.h"
 #include "fuzz/lone_dash.h"
 #include "model/processor_kind.h"
+#include "model/processor_list.h"
 #include "options/QvtOption_Parser.h"
 #include "tests/support/DesignedEngine.h"
 
@@ -245,7 +246,7 @@ bool check_writing(EngineImp& imp, Way way) {
     check_second({imp, way, text, nullptr}, status, second);
     return true;
   }
-  fresh.imp.currentProcessor = fresh.imp.FindProcessor(name);
+  fresh.imp.currentProcessor = find_listed(fresh.imp, name);
   fresh.imp.GetFPUType();
   const ProcessorInfoImp listed = *fresh.imp.currentProcessor;
   ProcessorInfo info;

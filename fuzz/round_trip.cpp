@@ -13,6 +13,7 @@
 #include "SdkDebugDialog/ProcessorInfo.h"
 #include "fuzz/again.h"
 #include "fuzz/check.h"
+#include "model/processor_list.h"
 #include "tests/support/SelectedEngine.h"
 
 using namespace SdkDebugDialog;
@@ -210,7 +211,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     set_and_write({bytes, selected.imp, false});
   } else {
     DiscoveredEngine engine(known_design());
-    engine.imp.currentProcessor = engine.imp.FindProcessor(name);
+    engine.imp.currentProcessor = find_listed(engine.imp, name);
     engine.imp.EngineImpInit();
     set_and_write({bytes, engine.imp, true});
   }
