@@ -48,9 +48,10 @@ class Name {
  public:
   static constexpr std::size_t kRoom = 24;
 
-  // Not explicit, so that a row of a table names itself by a plain text. A longer text does not compile.
+  // Not explicit, so that a row of a table names itself by a plain text. One of more than 24 bytes does not compile.
   consteval Name(const char* written) {
     std::string_view text = written;
+    if (text.size() > kRoom) throw "the name is too long";
     m_writtenSize = static_cast<std::uint8_t>(text.copy(m_written.data(), kRoom));
     m_begin = static_cast<std::uint8_t>(std::min(text.find_first_not_of(' '), text.size()));
     m_size = static_cast<std::uint8_t>(text.find_last_not_of(' ') + 1 - m_begin);

@@ -57,7 +57,8 @@ void keep_option(const TokenCursor& in) {
   if (!in.option().empty()) newoption_token.assign(in.option());
 }
 
-// Runs a reader; newoption_token holds the last option that it read then, however it ended.
+// Runs a reader; newoption_token holds the last option that it read then, however it ended. Without memory for it, the
+// exception that ended the reader gives way to std::bad_alloc.
 template <class Read>
 auto read_and_keep_option(TokenCursor& in, Read read) {
   try {
@@ -96,7 +97,7 @@ int read_run(std::string& text, EngineImp& imp, const Run& run) {
   return read_front(text, [&](TokenCursor& in) { return read_options(in, imp, run); });
 }
 
-int read_target(std::string& text, EngineImp& imp, std::string_view name) {
+int read_named_target(std::string& text, EngineImp& imp, std::string_view name) {
   const Target& named = target(name);
   return read_front(text, [&](TokenCursor& in) { return named.read(named, in, imp); });
 }
@@ -203,17 +204,31 @@ int QvtOption_Parser::WriteJtagCableOptionsString(EngineImp& imp, std::string& o
 
 // --- Targets ---
 
-int QvtOption_Parser::parse_ovoptions(std::string& text, EngineImp& imp) { return read_target(text, imp, "ov"); }
-int QvtOption_Parser::parse_odmoptions(std::string& text, EngineImp& imp) { return read_target(text, imp, "odm"); }
-int QvtOption_Parser::parse_ppcoptions(std::string& text, EngineImp& imp) { return read_target(text, imp, "ppc"); }
-int QvtOption_Parser::parse_armoptions(std::string& text, EngineImp& imp) { return read_target(text, imp, "arm"); }
-int QvtOption_Parser::parse_armr5options(std::string& text, EngineImp& imp) { return read_target(text, imp, "r5"); }
-int QvtOption_Parser::parse_dapoptions(std::string& text, EngineImp& imp) { return read_target(text, imp, "dap"); }
-int QvtOption_Parser::parse_dccoptions(std::string& text, EngineImp& imp) { return read_target(text, imp, "dcc"); }
-int QvtOption_Parser::parse_qmtcoptions(std::string& text, EngineImp& imp) { return read_target(text, imp, "qmtc"); }
+int QvtOption_Parser::parse_ovoptions(std::string& text, EngineImp& imp) { return read_named_target(text, imp, "ov"); }
+int QvtOption_Parser::parse_odmoptions(std::string& text, EngineImp& imp) {
+  return read_named_target(text, imp, "odm");
+}
+int QvtOption_Parser::parse_ppcoptions(std::string& text, EngineImp& imp) {
+  return read_named_target(text, imp, "ppc");
+}
+int QvtOption_Parser::parse_armoptions(std::string& text, EngineImp& imp) {
+  return read_named_target(text, imp, "arm");
+}
+int QvtOption_Parser::parse_armr5options(std::string& text, EngineImp& imp) {
+  return read_named_target(text, imp, "r5");
+}
+int QvtOption_Parser::parse_dapoptions(std::string& text, EngineImp& imp) {
+  return read_named_target(text, imp, "dap");
+}
+int QvtOption_Parser::parse_dccoptions(std::string& text, EngineImp& imp) {
+  return read_named_target(text, imp, "dcc");
+}
+int QvtOption_Parser::parse_qmtcoptions(std::string& text, EngineImp& imp) {
+  return read_named_target(text, imp, "qmtc");
+}
 
 int QvtOption_Parser::parse_vpoptions(std::string& text, EngineImp& imp) {
-  return read_front(text, [&](TokenCursor& in) { return SdkDebugDialog::read_target(in, imp, Source::command, true); });
+  return read_front(text, [&](TokenCursor& in) { return read_target(in, imp, Source::command, true); });
 }
 
 int QvtOption_Parser::parse_ppcsim_options(std::string& text, EngineImp& imp) {

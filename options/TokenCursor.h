@@ -51,9 +51,11 @@ class TokenCursor {
   [[noreturn]] static void throw_lone_dash();
 
   std::string_view m_text;
-  std::size_t m_end = 0;             // of the last token
-  std::size_t m_block = 1 - kBlock;  // the characters that were looked at last begin here
-  std::uint64_t m_blanks = 0;        // a bit for each blank among them that no token has ended at
+  std::size_t m_end = 0;  // of the last token: the blank behind it, if one follows
+  // The block of characters that was looked at last begins here; the next one begins 64 characters on. Before anything
+  // was looked at, that is the character behind m_end.
+  std::size_t m_block = 1 - kBlock;
+  std::uint64_t m_blanks = 0;  // a bit for each blank of the block that no token has ended at
   std::string_view m_option;
   LetterCase m_letterCase;
 };

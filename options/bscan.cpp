@@ -15,9 +15,7 @@ constexpr Keyword kKeywords[] = {
      .kind = Kind::word,
      .field = &ProcessorInfoImp::bscanPort,
      .words = kRegisters,
-     .written = kUser1,
-     .read = read_word,
-     .write = write_word},
+     .written = kUser1},
 };
 
 }  // namespace

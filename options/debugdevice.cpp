@@ -140,7 +140,6 @@ constexpr Keyword kKeywords[] = {
      .words = kFpuTypes,
      .written = kFpu,
      .read = read_fputype,
-     .write = write_word,
      .meaning = "single or double precision",
      .initial = "no FPU"},
     {.name = " proctype ",

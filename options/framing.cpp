@@ -19,7 +19,7 @@ const Target& target_of(const ProcessorInfoImp& processor) {
   const bool virtualPlatform = processor.connectionType == Engine::VIRTUAL_PLATFORM;
   if (virtualPlatform) return target("ov", virtualPlatform);
   const auto found = std::ranges::find_if(
-      targets(), [&](const Target& t) { return t.write != nullptr && t.family == processor.procFamily; });
+      targets(), [&](const Target& t) { return t.family != kNoKind && t.family == processor.procFamily; });
   return found != targets().end() ? *found : target("ppc");
 }
 

@@ -9,33 +9,35 @@
 namespace SdkDebugDialog {
 namespace {
 
+using Takes = Option::Takes;
+
 // --- How options are read ---
 
 Outcome read_group(const Option& option, TokenCursor& in, std::string_view /*typed*/, EngineImp& imp) {
   return read_pairs(in, option.group, records_of(imp)).outcome;
 }
 
-// The value of an option, which the row of its name describes.
-Outcome store(const Option& option, const KeywordAndValue& pair, EngineImp& imp) {
+// Stores the value of an option, which the row of its name describes; syntax_test sees to it that there is one.
+Outcome store_value(const Option& option, const KeywordAndValue& pair, EngineImp& imp) {
   const Keyword* row = option.group.keywords.data();
   while (row->name.text() != option.name.text()) ++row;
   return read_value(*row, pair, records_of(imp)) ? Outcome::done : Outcome::error;
 }
 
 Outcome read_one(const Option& option, TokenCursor& in, std::string_view typed, EngineImp& imp) {
-  const bool orNone = option.takes == Option::valueOrNone || option.takes == Option::tokenOrNone;
-  const bool any = option.takes == Option::token || option.takes == Option::tokenOrNone;
+  const bool orNone = option.takes == Takes::valueOrNone || option.takes == Takes::tokenOrNone;
+  const bool any = option.takes == Takes::token || option.takes == Takes::tokenOrNone;
   std::string_view value;
   const Token found = in.next(value);
   if (found == Token::value || (any && found == Token::option)) {
-    return store(option, {typed, value, in.letter_case()}, imp);
+    return store_value(option, {typed, value, in.letter_case()}, imp);
   }
   if (!orNone) return Outcome::error;
   return found == Token::option ? Outcome::option : Outcome::end;
 }
 
 Outcome read_flag(const Option& option, TokenCursor& in, std::string_view typed, EngineImp& imp) {
-  return store(option, {typed, "1", in.letter_case()}, imp);
+  return store_value(option, {typed, "1", in.letter_case()}, imp);
 }
 
 // The simulator takes all options that follow, so that the run around it ends with it.
@@ -74,31 +76,29 @@ constexpr unsigned kInHdlSim = kHdlSimOptions.bit;
 constexpr unsigned kPlatform = kPlatformOptions.bit;
 constexpr unsigned kCableText = kCableTextOptions.bit;
 
-using enum Option::Takes;
-
 constexpr Option kOptions[] = {
-    {"-cable", kGeneral | kOdm | kDcc | kQmtc | kCableText, pairs, kCable, read_cable, "download cable"},
-    {"-configdevice", kGeneral | kOdm | kQmtc | kInHdlSim | kCableText, pairs, kConfigdevice, read_configdevice,
+    {"-cable", kGeneral | kOdm | kDcc | kQmtc | kCableText, Takes::pairs, kCable, read_cable, "download cable"},
+    {"-configdevice", kGeneral | kOdm | kQmtc | kInHdlSim | kCableText, Takes::pairs, kConfigdevice, read_configdevice,
      "a device of the JTAG chain"},
-    {"-debugdevice", kGeneral | kOdm | kDcc | kQmtc | kInPpcSim | kCableText, pairs, kDebugdevice, read_group,
+    {"-debugdevice", kGeneral | kOdm | kDcc | kQmtc | kInPpcSim | kCableText, Takes::pairs, kDebugdevice, read_group,
      "debug device, processor, memories"},
-    {"-bscan", kGeneral | kOdm | kCableText, value, kBscan, read_one, "JTAG user register of the debug module"},
-    {"-comm", kGeneral, valueOrNone, kStub, read_one, "how the stub is reached"},
-    {"-port", kGeneral, valueOrNone, kStub, read_one, "serial stub: device"},
-    {"-baud", kGeneral, valueOrNone, kStub, read_one, "serial stub: rate"},
-    {"-timeout", kGeneral, valueOrNone, kStub, read_one, "stub: time-out"},
-    {"-uart", kOdm | kDcc, nothing, kFlags, read_flag, "UART of the target"},
-    {"-pfsl", kGeneral, pairs, kPfsl, read_group, "checked, no effect"},
-    {"-quiet", kGeneral, nothing, kFlags, read_flag, "accepted, no effect"},
-    {"-noattach", kGeneral, nothing, kFlags, read_flag, "accepted, no effect"},
-    {"-writeonly", kGeneral, nothing, kFlags, read_flag, "accepted, no effect"},
-    {"-sim", kGeneral, Option::options, kFlags, read_sim, "hardware-description-language simulator"},
-    {"-ipcport", kInHdlSim, tokenOrNone, kHdlSim, read_one, "host and port of the hardware simulator"},
-    {"-memsize", kInSoftSim, token, kSoftSim, read_one, "soft-processor simulator: memory"},
-    {"-icf", kInPpcSim, tokenOrNone, kPpcSim, read_one, "PowerPC simulator: configuration file"},
-    {"-ipcport", kInPpcSim, tokenOrNone, kPpcSim, read_one, "host and port of the PowerPC simulator"},
-    {"-config", kPlatform, value, kVirtualPlatform, read_one, "virtual platform: accuracy"},
-    {"-ipcport", kPlatform, value, kVirtualPlatform, read_one, "host and port of the virtual platform"},
+    {"-bscan", kGeneral | kOdm | kCableText, Takes::value, kBscan, read_one, "JTAG user register of the debug module"},
+    {"-comm", kGeneral, Takes::valueOrNone, kStub, read_one, "how the stub is reached"},
+    {"-port", kGeneral, Takes::valueOrNone, kStub, read_one, "serial stub: device"},
+    {"-baud", kGeneral, Takes::valueOrNone, kStub, read_one, "serial stub: rate"},
+    {"-timeout", kGeneral, Takes::valueOrNone, kStub, read_one, "stub: time-out"},
+    {"-uart", kOdm | kDcc, Takes::nothing, kFlags, read_flag, "UART of the target"},
+    {"-pfsl", kGeneral, Takes::pairs, kPfsl, read_group, "checked, no effect"},
+    {"-quiet", kGeneral, Takes::nothing, kFlags, read_flag, "accepted, no effect"},
+    {"-noattach", kGeneral, Takes::nothing, kFlags, read_flag, "accepted, no effect"},
+    {"-writeonly", kGeneral, Takes::nothing, kFlags, read_flag, "accepted, no effect"},
+    {"-sim", kGeneral, Takes::ownRun, kFlags, read_sim, "hardware-description-language simulator"},
+    {"-ipcport", kInHdlSim, Takes::tokenOrNone, kHdlSim, read_one, "host and port of the hardware simulator"},
+    {"-memsize", kInSoftSim, Takes::token, kSoftSim, read_one, "soft-processor simulator: memory"},
+    {"-icf", kInPpcSim, Takes::tokenOrNone, kPpcSim, read_one, "PowerPC simulator: configuration file"},
+    {"-ipcport", kInPpcSim, Takes::tokenOrNone, kPpcSim, read_one, "host and port of the PowerPC simulator"},
+    {"-config", kPlatform, Takes::value, kVirtualPlatform, read_one, "virtual platform: accuracy"},
+    {"-ipcport", kPlatform, Takes::value, kVirtualPlatform, read_one, "host and port of the virtual platform"},
 };
 
 }  // namespace
@@ -131,7 +131,7 @@ bool read_options(TokenCursor& in, EngineImp& imp, const Run& run) {
     }
     const Outcome outcome = option->read(*option, in, typed, imp);
     if (outcome == Outcome::error) return false;
-    if (option->takes == pairs || option->takes == Option::options) {
+    if (option->takes == Takes::pairs || option->takes == Takes::ownRun) {
       found = outcome == Outcome::option ? Token::option : Token::end;
     } else {
       found = in.next(lastToken);

@@ -10,15 +10,15 @@ namespace SdkDebugDialog {
 namespace {
 
 template <class Value>
-Value& in(const Records& records, Value ProcessorInfoImp::*field) {
+Value& field_of(const Records& records, Value ProcessorInfoImp::*field) {
   return records.processor->*field;
 }
 template <class Value>
-Value& in(const Records& records, Value CableOption::*field) {
+Value& field_of(const Records& records, Value CableOption::*field) {
   return records.cable->*field;
 }
 template <class Value>
-Value& in(const Records& records, Value JtagOption::*field) {
+Value& field_of(const Records& records, Value JtagOption::*field) {
   return records.device->*field;
 }
 
@@ -27,7 +27,7 @@ template <class Use>
 void with_field(const Keyword& row, const Records& records, Use use) {
   std::visit(
       [&](auto field) {
-        if constexpr (!std::is_same_v<decltype(field), std::monostate>) use(in(records, field));
+        if constexpr (!std::is_same_v<decltype(field), std::monostate>) use(field_of(records, field));
       },
       row.field);
 }
@@ -45,6 +45,7 @@ void store(const Keyword& row, std::uint64_t number, const Records& to) {
 
 bool read_value(const Keyword& row, const KeywordAndValue& pair, const Records& to) {
   if (row.read != nullptr) return row.read(row, pair, to);
+  if (row.kind == Kind::word) return read_word(row, pair, to);
   with_field(row, to, [&]<class Value>(Value& value) {
     if constexpr (std::is_same_v<Value, std::string>) {
       value = pair.value;
@@ -94,22 +95,13 @@ PairsRead read_pairs(TokenCursor& in, const Group& group, const Records& to) {
 // --- Writing ---
 
 bool is_written(const Keyword& row, const Records& from) {
+  // Most rows are always written; they are spared the call.
   return row.written.holds != nullptr && (row.written.holds == kAlways.holds || row.written.holds(row, from));
 }
 
-void write_pair(TextOut& out, const Keyword& row, const Records& from) {
-  if (row.write != nullptr) return row.write(row, out, from);
-  with_field(row, from, [&]<class Value>(const Value& value) {
-    if constexpr (std::is_same_v<Value, std::string>) {
-      out.put(row.name, value);
-    } else if (row.kind == Kind::hexadecimal || row.kind == Kind::address) {
-      out.put_hex(row.name, static_cast<std::uint32_t>(value));
-    } else {
-      out.put_decimal(row.name, static_cast<std::int32_t>(value));
-    }
-  });
-}
+namespace {
 
+// The word that the value stands for; the last word for any other value.
 void write_word(const Keyword& row, TextOut& out, const Records& from) {
   const Word* word = row.words.data();
   const Word* const last = &row.words.back();
@@ -120,6 +112,22 @@ void write_word(const Keyword& row, TextOut& out, const Records& from) {
   });
   out.put_name(row.name);
   out.put_name(word->name);
+}
+
+}  // namespace
+
+void write_pair(TextOut& out, const Keyword& row, const Records& from) {
+  if (row.write != nullptr) return row.write(row, out, from);
+  if (row.kind == Kind::word) return write_word(row, out, from);
+  with_field(row, from, [&]<class Value>(const Value& value) {
+    if constexpr (std::is_same_v<Value, std::string>) {
+      out.put(row.name, value);
+    } else if (row.kind == Kind::hexadecimal || row.kind == Kind::address) {
+      out.put_hex(row.name, static_cast<std::uint32_t>(value));
+    } else {
+      out.put_decimal(row.name, static_cast<std::int32_t>(value));
+    }
+  });
 }
 
 void write_pairs(TextOut& out, std::span<const Keyword> rows, const Records& from) {

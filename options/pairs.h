@@ -14,7 +14,7 @@ namespace SdkDebugDialog {
 struct PairsRead {
   Outcome outcome;         // never done
   bool refused = false;    // a complete pair was the error
-  std::uint32_t seen = 0;  // a bit for each row of the group whose pair was read without an error
+  std::uint32_t seen = 0;  // a bit for each row of the group (at most 32) whose pair was read without an error
 };
 
 // Reads pairs until something else comes.
@@ -23,11 +23,8 @@ PairsRead read_pairs(TokenCursor& in, const Group& group, const Records& to);
 // Reads one value; false for an error.
 bool read_value(const Keyword& row, const KeywordAndValue& pair, const Records& to);
 
-// For Keyword::read: the value is one of the words of the row, and is stored.
+// Stores the value of a word of the row; false for any other word.
 bool read_word(const Keyword& row, const KeywordAndValue& pair, const Records& to);
-
-// For Keyword::write: the word that the value stands for; the last word for any other value.
-void write_word(const Keyword& row, TextOut& out, const Records& from);
 
 bool is_written(const Keyword& row, const Records& from);
 

@@ -88,7 +88,7 @@ constexpr Keyword kHdlSimKeywords[] = {
 // --- Virtual platform ---
 
 constexpr std::uint32_t kDefaultPlatformPort = 2340;
-constexpr Word kAccuracies[] = {{"cycle_approximate", 1}};
+constexpr Word kAccuracies[] = {{" cycle_approximate", 1}};
 
 bool read_accuracy(const Keyword& row, const KeywordAndValue& pair, const Records& to) {
   if (!read_word(row, pair, to)) return false;
@@ -97,11 +97,8 @@ bool read_accuracy(const Keyword& row, const KeywordAndValue& pair, const Record
 }
 
 void write_accuracy(const Keyword& row, TextOut& out, const Records& from) {
-  out.put(" ");
-  out.put(row.name.text());
-  if (from.processor->vpCycleApproximate == 0) return;
-  out.put(" ");
-  out.put_name(kAccuracies[0].name);
+  out.put_name(row.name);
+  if (from.processor->vpCycleApproximate != 0) out.put_name(kAccuracies[0].name);
 }
 
 bool read_platform_address(const Keyword& /*row*/, const KeywordAndValue& pair, const Records& to) {

@@ -8,10 +8,10 @@ namespace {
 
 // "-memsize" with its value is all that may follow the simulator; a plain word is passed over, and nothing after it is
 // looked at.
-bool read_simulator(TokenCursor& in, EngineImp& imp) {
+bool read_simulator(TokenCursor& in, EngineImp& imp, const Run& options) {
   std::string_view token;
   if (in.next(token) != Token::option) return true;
-  const Option* const option = find_option(token, kSoftSimOptions, in.letter_case());
+  const Option* const option = find_option(token, options, in.letter_case());
   return option != nullptr && option->read(*option, in, token, imp) != Outcome::error;
 }
 
@@ -23,7 +23,7 @@ bool read_ov_target(const Target& target, TokenCursor& in, EngineImp& imp) {
   // The simulator is selected before its option is read, the others after theirs.
   if (connection->type == Engine::SIMULATOR) {
     imp.currentProcessor->connectionType = Engine::SIMULATOR;
-    if (!read_simulator(in, imp)) return false;
+    if (!read_simulator(in, imp, connection->options)) return false;
   } else {
     if (!read_options(in, imp, connection->options)) return false;
     imp.currentProcessor->connectionType = connection->type;

@@ -20,9 +20,7 @@ constexpr Keyword kKeywords[] = {
      .kind = Kind::word,
      .field = &P::stubType,
      .words = kLinks,
-     .written = {kAlways.holds, "connection `stub`"},
-     .read = read_word,
-     .write = write_word},
+     .written = {kAlways.holds, "connection `stub`"}},
     {.name = " -port ", .field = &P::stubSerialPort, .written = kSerial, .meaning = "serial device"},
     {.name = "  -baud  ",
      .kind = Kind::number,
@@ -37,7 +35,6 @@ constexpr Keyword kKeywords[] = {
      .written = kSerial,
      .meaning = "handed to the debugger as it is"},
 };
-constexpr auto kSerialRows = std::span(kKeywords).subspan<1>();
 
 }  // namespace
 
@@ -56,14 +53,12 @@ Outcome read_stub_option(std::string_view option, TokenCursor& in, EngineImp& im
 }
 
 bool write_stub(TextOut& out, EngineImp& imp) {
-  write_pair(out, kKeywords[0], records_of(imp));
-  if (imp.currentProcessor->stubType == Engine::STUB_OVER_JTAG) return write_chain_and_device(out, imp);
-  write_serial_stub(out, imp);
-  return true;
+  write_pairs(out, kKeywords, records_of(imp));
+  return imp.currentProcessor->stubType != Engine::STUB_OVER_JTAG || write_chain_and_device(out, imp);
 }
 
 void write_serial_stub(TextOut& out, EngineImp& imp) {
-  for (const Keyword& row : kSerialRows) write_pair(out, row, records_of(imp));
+  for (const Keyword& row : std::span(kKeywords).subspan<1>()) write_pair(out, row, records_of(imp));
 }
 
 }  // namespace SdkDebugDialog

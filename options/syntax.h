@@ -45,7 +45,7 @@ enum class Kind {
   number,  // as unsigned; decimal, written as a signed number
   signedNumber,
   hexadecimal,
-  address,  // hexadecimal; kAddressNotSet is not written
+  address,  // hexadecimal; kAddressNotSet stands for "not set"
   text,
   word,         // one of the words of the row
   hostAndPort,  // "host:port"
@@ -83,7 +83,7 @@ struct Keyword {
   std::span<const Word> words = {};
   When written;
 
-  // Where a value is more than stored, or written otherwise than its kind tells. read answers whether it is accepted.
+  // Only where a value is not simply stored, or not written as its kind tells. read answers whether it is accepted.
   bool (*read)(const Keyword& row, const KeywordAndValue& pair, const Records& to) = nullptr;
   void (*write)(const Keyword& row, TextOut& out, const Records& from) = nullptr;
 
@@ -140,14 +140,14 @@ inline constexpr Run kCableTextOptions = {1U << 8, "cable and chain alone", kUnk
 
 struct Option {
   // What follows the option, and what it means if that is missing.
-  enum Takes {
+  enum class Takes {
     nothing,
     value,        // a value; an error without it
     valueOrNone,  // a value; what stands in its place is skipped with the option
     token,        // the next token, an option too; an error without it
     tokenOrNone,  // the next token, an option too; nothing is stored without it
     pairs,
-    options,  // a run of its own up to the end of the text
+    ownRun,  // options of its own up to the end of the text
   };
 
   Name name;
@@ -194,7 +194,8 @@ struct Target {
 
   // What follows the target's name. False for an error.
   bool (*read)(const Target& target, TokenCursor& in, EngineImp& imp);
-  // Writes the processors of this family, or the virtual platform, target name included. False for an error.
+  // Writes the processors of this family, or the virtual platform, target name included. False for an error. Of several
+  // targets of one family the first one counts.
   bool (*write)(const Target& target, TextOut& out, EngineImp& imp) = nullptr;
   const char* invalidConnection = "";  // error text for a connection that is not listed
 };

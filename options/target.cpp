@@ -62,8 +62,7 @@ constexpr Target kTargets[] = {
      .connections = kArm,
      .family = kFamilyArm,
      .variant = kVariantR5,
-     .read = read_by_connection,
-     .write = write_as_powerpc},
+     .read = read_by_connection},
     {.name = " dap",
      .meaning = "ARM debug access port",
      .inFile = false,
@@ -71,8 +70,7 @@ constexpr Target kTargets[] = {
      .admits = Engine::DAP_TARGET,
      .family = kFamilyArm,
      .variant = kVariantCortexA9,
-     .read = read_dap_target,
-     .write = write_as_powerpc},
+     .read = read_dap_target},
     {.name = " odm",
      .meaning = "the debug module itself",
      .inFile = false,
@@ -86,8 +84,7 @@ constexpr Target kTargets[] = {
      .admits = Engine::DCC_TARGET,
      .family = kFamilyArm,
      .variant = kVariantCortexA9,
-     .read = read_bare_target,
-     .write = write_as_powerpc},
+     .read = read_bare_target},
     {.name = " qmtc",
      .meaning = "multi-threaded C target",
      .inFile = false,
@@ -104,9 +101,19 @@ constexpr Target kTargets[] = {
      .write = write_virtual_platform},
 };
 
-// Processors that a target makes those of a family are written by somebody.
-static_assert(std::ranges::all_of(kTargets, [](const Target& t) { return t.family == kNoKind || t.write != nullptr; }),
-              "a target that names a family needs a writer");
+constexpr const Target* first_of(std::uint32_t family) { return std::ranges::find(kTargets, family, &Target::family); }
+static_assert(std::ranges::all_of(kTargets,
+                                  [](const Target& t) {
+                                    return t.family == kNoKind || first_of(t.family)->write != nullptr;
+                                  }),
+              "the processors of a family that a target names are written by its first target");
+static_assert(std::ranges::all_of(kTargets,
+                                  [](const Target& t) {
+                                    return t.write != write_target ||
+                                           std::ranges::all_of(t.connections,
+                                                               [](const Connection& c) { return c.write != nullptr; });
+                                  }),
+              "a target that is written needs a writer for each connection");
 
 }  // namespace
 

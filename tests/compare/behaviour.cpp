@@ -288,7 +288,8 @@ bool observe_group(Random& random, Observation& seen, bool stub) {
   for (Design* const known : {static_cast<Design*>(nullptr), &design}) {
     Subject subject(known);
     EngineImp& imp = subject.imp;
-    if (known != nullptr) imp.currentProcessor = *std::ranges::find(imp.processorList, processor, &ProcessorInfoImp::name);
+    if (known != nullptr)
+      imp.currentProcessor = *std::ranges::find(imp.processorList, processor, &ProcessorInfoImp::name);
     if (Random again = state; changed) change_state(again, imp);
     std::string rest = text;
     const int status = watch(stub ? "parse_commoptions" : group.name,

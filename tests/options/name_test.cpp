@@ -51,6 +51,9 @@ TEST(Name, IsWrittenWithTheBlanksAroundIt) {
   EXPECT_EQ(kName.text(), "deviceNr");
   EXPECT_EQ(kName.written(), "  deviceNr ");
   EXPECT_EQ(std::string(kName.padded().data()), "  deviceNr ");
+  constexpr Name kLongest = "  aB-dE_gHiJ1mNo@PqR{St ";
+  EXPECT_EQ(kLongest.text(), "aB-dE_gHiJ1mNo@PqR{St");
+  EXPECT_EQ(kLongest.written(), "  aB-dE_gHiJ1mNo@PqR{St ");
   constexpr Name kNothing = "";
   EXPECT_EQ(kNothing.text(), "");
   EXPECT_EQ(kNothing.written(), "");
