@@ -8,7 +8,7 @@ namespace {
 
 constexpr Word kRegisters[] = {{"USER1", 2}, {"USER2", 3}, {"USER3", 34}, {"USER4", 35}};
 constexpr When kUser1 = {[](const Keyword&, const Records& r) { return r.processor->bscanPort == kRegisters[0].value; },
-                         "`USER1` only; a `USER3` or `USER4` is lost"};
+                         "`USER1` only; `USER3` and `USER4` are lost"};
 
 constexpr Keyword kKeywords[] = {
     {.name = " -bscan ",

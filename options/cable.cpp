@@ -36,27 +36,32 @@ void write_modulearg(const Keyword& row, TextOut& out, const Records& from) {
 }
 
 constexpr When kWithoutEsn = {[](const Keyword&, const Records& r) { return r.cable->esn.empty(); },
-                              "parallel and USB cables without ESN"};
+                              "for some types, unless `esn` is set"};
 constexpr When kWithEsn = {[](const Keyword&, const Records& r) { return !r.cable->esn.empty(); },
-                           "parallel and USB cables"};
-constexpr When kPlugin = {kAlways.holds, "plug-in cable"};
+                           "for some types, when set"};
+constexpr When kPlugin = {kAlways.holds, "for some types"};
 constexpr When kWithArguments = {[](const Keyword&, const Records& r) { return !r.cable->modulearg.empty(); },
-                                 "plug-in cable; one `modulearg` for each"};
+                                 "for some types, when set; one `modulearg` for each"};
 
 constexpr Keyword kKeywords[] = {
     {.name = " type ",
      .kind = Kind::word,
-     .written = {kAlways.holds, "except `zarvek_tcf`"},
+     .written = {kAlways.holds, "if the type can be written"},
      .read = read_type,
-     .meaning = "below",
+     .meaning = "type of the cable",
      .initial = "no cable"},
-    {.name = " port ", .field = &CableOption::port, .written = kWithoutEsn, .initial = "that of the type"},
+    {.name = " port ",
+     .field = &CableOption::port,
+     .written = kWithoutEsn,
+     .meaning = "where the cable is plugged in",
+     .initial = "that of the type"},
     {.name = " frequency ",
      .kind = Kind::number,
      .field = &CableOption::frequency,
      .written = kWithoutEsn,
+     .meaning = "JTAG clock",
      .unit = "Hz",
-     .initial = "that of the type, see below"},
+     .initial = "that of the type"},
     {.name = " esn ",
      .field = &CableOption::esn,
      .written = kWithEsn,
@@ -73,10 +78,10 @@ constexpr Keyword kKeywords[] = {
      .meaning = "an argument of the module; may come several times"},
     {.name = " fname ",
      .field = &CableOption::fname,
-     .written = never("no cable with an output file can be written"),
+     .written = never("no type is written with it"),
      .read = read_fname,
      .meaning = "output file"},
-    {.name = " url ", .field = &CableOption::url, .written = never("the debugger has no use for it")},
+    {.name = " url ", .field = &CableOption::url, .written = never("no type is written with it")},
 };
 
 // A row by its name; what names none does not compile.
@@ -141,13 +146,13 @@ constexpr CableType kTypes[] = {
      .refusal = "UnSupported Zarvek TCF Cable Frequency - %d\n"
                 "Supported Frequencies: 750000, 1500000, 3000000, 6000000, 10000000, 12000000, 15000000, 20000000, "
                 "24000000, 30000000",
-     .notWritten = "the debugger is not told how to use this cable"},
+     .notWritten = "the writer has no text for this type"},
     {.type = Engine::ZARVEK_PLUGIN, .names = kPluginNames, .writes = kPluginWrites},
     {.type = Engine::DIGILENT_PLUGIN, .names = kDigilentNames},
     {.type = Engine::ZARVEK_SVFFILE,
      .names = kSvfFileNames,
      .notRead = "Cable Type zarvek_svffile is not supported in this release\n",
-     .notWritten = "not supported in this release"},
+     .notWritten = "the type is not supported"},
 };
 
 constexpr CableType kNoCable = {.notWritten = "there is no such type"};

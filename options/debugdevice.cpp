@@ -85,6 +85,7 @@ constexpr When kBaseSet = {[](const Keyword& row, const Records& r) {
                                     p.*std::get<std::uint32_t P::*>(row.field) != kAddressNotSet;
                            },
                            "PowerPC, when set"};
+constexpr When kNever = never("kept for programs");
 
 // --- Keywords ---
 
@@ -109,20 +110,30 @@ constexpr Keyword kKeywords[] = {
      .written = kOnLink,
      .read = read_cpunr,
      .write = write_cpunr,
-     .meaning = "processor on its debug link",
+     .meaning = "number of the processor on its debug link",
      .initial = "1, or as in the design"},
     {.name = " romemStartAdr ",
      .kind = Kind::address,
      .field = &P::romemStartAddr,
      .written = kRomemSet,
      .meaning = "read-only memory"},
-    {.name = " romemSize ", .kind = Kind::number, .field = &P::romemSize, .written = kRomemSet, .unit = "bytes"},
+    {.name = " romemSize ",
+     .kind = Kind::number,
+     .field = &P::romemSize,
+     .written = kRomemSet,
+     .meaning = "its size",
+     .unit = "bytes"},
     {.name = " isocmStartAdr ",
      .kind = Kind::address,
      .field = &P::isocmStartAddr,
      .written = kIsocmSet,
      .meaning = "on-chip instruction memory"},
-    {.name = " isocmSize ", .kind = Kind::number, .field = &P::isocmSize, .written = kIsocmSet, .unit = "bytes"},
+    {.name = " isocmSize ",
+     .kind = Kind::number,
+     .field = &P::isocmSize,
+     .written = kIsocmSet,
+     .meaning = "its size",
+     .unit = "bytes"},
     {.name = "  isocmDcrStartAdr ",
      .kind = Kind::address,
      .field = &P::isocmDcrStartAddr,
@@ -146,15 +157,17 @@ constexpr Keyword kKeywords[] = {
      .kind = Kind::word,
      .field = &P::procVariant,
      .words = kProcessorTypes,
-     .written = never("the target tells the debugger what the processor is"),
+     .written = never("the target alone tells what the processor is"),
      .read = read_proctype,
+     .meaning = "kind of PowerPC",
      .initial = "as in the design"},
-    {.name = " cpu_version ", .field = &P::cpuVersion, .written = never("the debugger reads it from the processor")},
-    {.name = " odm_version ", .field = &P::odmVersion, .written = never("the debugger reads it from the debug module")},
+    {.name = " cpu_version ", .field = &P::cpuVersion, .written = kNever, .meaning = "version of the processor"},
+    {.name = " odm_version ", .field = &P::odmVersion, .written = kNever, .meaning = "version of the debug module"},
     {.name = " nCpu ",
      .kind = Kind::signedNumber,
      .field = &P::nCpu,
-     .written = never("the debugger reads it from the debug module")},
+     .written = kNever,
+     .meaning = "number of processors"},
 };
 
 }  // namespace

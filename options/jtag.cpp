@@ -23,7 +23,7 @@ bool read_hardppc(const Keyword& row, const KeywordAndValue& pair, const Records
 
 constexpr Word kPorts[] = {{"cpu", 1}};
 constexpr Word kHardCores[] = {{"ppc405", 1}};
-constexpr When kNever = never("the debugger finds it out by itself");
+constexpr When kNever = never("kept for programs");
 
 constexpr Keyword kKeywords[] = {
     {.name = " devicenr ",
@@ -36,7 +36,7 @@ constexpr Keyword kKeywords[] = {
      .kind = Kind::number,
      .field = &JtagOption::irlength,
      .written = kAlways,
-     .meaning = "instruction register",
+     .meaning = "length of the instruction register",
      .unit = "bits"},
     {.name = " idcode ",
      .kind = Kind::hexadecimal,
@@ -54,20 +54,20 @@ constexpr Keyword kKeywords[] = {
      .words = kHardCores,
      .written = kNever,
      .read = read_hardppc,
-     .meaning = "or any other text for another core",
-     .initial = "none"},
+     .meaning = "hard PowerPC core; any other text stands for another core"},
     {.name = " nppc ",
      .kind = Kind::number,
      .field = &JtagOption::nppc,
      .written = kNever,
-     .meaning = "hard PowerPC cores"},
+     .meaning = "number of hard PowerPC cores"},
     {.name = " jtagport ",
      .kind = Kind::word,
      .words = kPorts,
-     .written = {kAlways.holds, "as `-configdevice jtagpin cpujtag`"},
+     .written = {kAlways.holds, "when set, as `-configdevice jtagpin cpujtag`"},
      .read = read_jtagport,
      .meaning = "the processor is reached through its own JTAG pins",
-     .notReadBack = "the written form is for the debugger; the reader knows `jtagport cpu`"},
+     .initial = "not set",
+     .notReadBack = "written as `jtagpin cpujtag`, which the reader does not know"},
 };
 // "jtagport" is written once for the chain, not for a device.
 constexpr auto kOfDevice = std::span(kKeywords).first<std::size(kKeywords) - 1>();

@@ -57,11 +57,11 @@ constexpr Keyword kFlagKeywords[] = {
     {.name = "-uart",
      .kind = Kind::flag,
      .field = &ProcessorInfoImp::uartEnabled,
-     .written = never("the targets that have a UART are not written")},
+     .written = never("`odm` and `dcc` are written as other targets, which do not take it")},
     {.name = "-sim",
      .kind = Kind::flag,
      .field = &ProcessorInfoImp::modelSimEnabled,
-     .written = never("there is no text for the hardware simulator")},
+     .written = never("the writer has no text for it")},
 };
 
 // --- All options ---

@@ -17,7 +17,7 @@ bool read_link_type(const Keyword& row, const KeywordAndValue& pair, const Recor
   return false;
 }
 
-constexpr When kNever = never("the link is checked and forgotten");
+constexpr When kNever = never("checked and forgotten");
 
 constexpr Keyword kKeywords[] = {
     {.name = " port ", .written = kNever},

@@ -28,8 +28,8 @@ constexpr Keyword kSoftSimKeywords[] = {
     {.name = " -memsize ",
      .kind = Kind::number,
      .field = &P::memSize,
-     .written = never("the simulator is written without its memory"),
-     .meaning = "memory, handed to the debugger as it is"},
+     .written = never("`ov sim` is written alone"),
+     .meaning = "memory"},
 };
 
 // --- PowerPC ---
@@ -79,7 +79,7 @@ constexpr Keyword kHdlSimKeywords[] = {
     {.name = " -ipcport ",
      .kind = Kind::hostAndPort,
      .field = &P::modelSimHost,
-     .written = never("the hardware simulator is written by nobody"),
+     .written = never("`-sim` is not written"),
      .read = read_hdlsim_address,
      .meaning = "without a colon nothing changes",
      .initial = "`localhost:9998`"},

@@ -87,7 +87,7 @@ struct Keyword {
   bool (*read)(const Keyword& row, const KeywordAndValue& pair, const Records& to) = nullptr;
   void (*write)(const Keyword& row, TextOut& out, const Records& from) = nullptr;
 
-  // For people.
+  // For people, with `text` as in Markdown; so are the words of When.
   const char* meaning = "";
   const char* unit = "";
   const char* initial = "";      // the default, where a new record does not tell
@@ -123,20 +123,24 @@ struct Run {
   };
 
   unsigned bit;
-  const char* where;    // for people
+  const char* where;    // for people, with `text` as in Markdown
   const char* unknown;  // error text for an option that is not known there, which is its %s
   Naming naming = byName;
 };
 inline constexpr const char* kUnknownOption = "UNKNOWN Option '%s'";
 inline constexpr Run kGeneralOptions = {1U << 0, "general", kUnknownOption, Run::byLastToken};
-inline constexpr Run kOdmOptions = {1U << 1, "odm", kUnknownOption};
-inline constexpr Run kDccOptions = {1U << 2, "dcc", kUnknownOption};
-inline constexpr Run kQmtcOptions = {1U << 3, "qmtc", kUnknownOption};
-inline constexpr Run kSoftSimOptions = {1U << 4, "ov sim", ""};  // a single one, and no text
-inline constexpr Run kPpcSimOptions = {1U << 5, "ppc sim", "UNKNOWN  PowerPC Sim Option '%s'"};
-inline constexpr Run kHdlSimOptions = {1U << 6, "after -sim", "UNKNOWN  ModelSim Option '%s'"};
-inline constexpr Run kPlatformOptions = {1U << 7, "vpconnect ov", "UNKNOWN virtual platform Option '%s'"};
+inline constexpr Run kOdmOptions = {1U << 1, "`odm`", kUnknownOption};
+inline constexpr Run kDccOptions = {1U << 2, "`dcc`", kUnknownOption};
+inline constexpr Run kQmtcOptions = {1U << 3, "`qmtc`", kUnknownOption};
+inline constexpr Run kSoftSimOptions = {1U << 4, "`ov sim`", ""};  // a single one, and no text
+inline constexpr Run kPpcSimOptions = {1U << 5, "`ppc sim`", "UNKNOWN  PowerPC Sim Option '%s'"};
+inline constexpr Run kHdlSimOptions = {1U << 6, "after `-sim`", "UNKNOWN  ModelSim Option '%s'"};
+inline constexpr Run kPlatformOptions = {1U << 7, "`vpconnect ov`", "UNKNOWN virtual platform Option '%s'"};
 inline constexpr Run kCableTextOptions = {1U << 8, "cable and chain alone", kUnknownOption, Run::byLastToken};
+inline constexpr const Run* kRuns[] = {
+    &kGeneralOptions, &kOdmOptions,    &kDccOptions,      &kQmtcOptions,      &kSoftSimOptions,
+    &kPpcSimOptions,  &kHdlSimOptions, &kPlatformOptions, &kCableTextOptions,
+};
 
 struct Option {
   // What follows the option, and what it means if that is missing.
@@ -177,6 +181,7 @@ struct Connection {
   Engine::ConnectionType type;
   const Run& options;  // that follow
   bool (*write)(TextOut& out, EngineImp& imp);
+  const char* meaning;  // for people
 };
 
 inline constexpr std::uint32_t kNoKind = 0xFFFFFFFFU;

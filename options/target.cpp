@@ -21,16 +21,16 @@ bool write_as_powerpc(const Target& /*target*/, TextOut& out, EngineImp& imp) {
 }
 
 constexpr Connection kSoft[] = {
-    {" sim", Engine::SIMULATOR, kSoftSimOptions, write_nothing},
-    {" stub", Engine::STUB, kGeneralOptions, write_stub},
-    {" odm", Engine::HARDWARE, kGeneralOptions, write_chain_and_device},
+    {" sim", Engine::SIMULATOR, kSoftSimOptions, write_nothing, "simulator"},
+    {" stub", Engine::STUB, kGeneralOptions, write_stub, "software stub"},
+    {" odm", Engine::HARDWARE, kGeneralOptions, write_chain_and_device, "hardware"},
 };
 constexpr Connection kPowerPC[] = {
-    {" sim", Engine::SIMULATOR, kPpcSimOptions, write_ppcsim},
-    {" hw", Engine::HARDWARE, kGeneralOptions, write_chain_and_device},
+    {" sim", Engine::SIMULATOR, kPpcSimOptions, write_ppcsim, "simulator"},
+    {" hw", Engine::HARDWARE, kGeneralOptions, write_chain_and_device, "hardware"},
 };
 constexpr Connection kArm[] = {
-    {" hw", Engine::HARDWARE, kGeneralOptions, nullptr},
+    {" hw", Engine::HARDWARE, kGeneralOptions, nullptr, "hardware"},
 };
 
 constexpr Target kTargets[] = {
