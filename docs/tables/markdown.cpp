@@ -1,0 +1,51 @@
+#include "docs/tables/markdown.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace markdown {
+
+std::string code(std::string_view text) { return '`' + std::string(text) + '`'; }
+
+std::string joined(const std::vector<std::string>& texts, std::string_view separator) {
+  std::string all;
+  for (const std::string& text : texts) {
+    if (text.empty()) continue;
+    if (!all.empty()) all += separator;
+    all += text;
+  }
+  return all;
+}
+
+std::string table(const Row& head, const std::vector<Row>& rows) {
+  const auto line = [&](const Row& cells) {
+    std::string text = "|";
+    for (std::size_t column = 0; column < head.size(); ++column) {
+      if (std::ranges::all_of(rows, [&](const Row& row) { return row[column].empty(); })) continue;
+      text += cells[column].empty() ? " |" : ' ' + cells[column] + " |";
+    }
+    return text + '\n';
+  };
+  std::string rule = line(Row(head.size(), "---"));
+  std::erase(rule, ' ');
+  std::string text = line(head) + rule;
+  for (const Row& row : rows) text += line(row);
+  return text;
+}
+
+std::string link_to(std::string_view heading) {
+  heading.remove_prefix(std::min(heading.find_first_not_of("# "), heading.size()));
+  std::string link = "#";
+  for (const char c : heading) {
+    if (c >= 'A' && c <= 'Z') {
+      link += static_cast<char>(c - 'A' + 'a');
+    } else if (c == ' ') {
+      link += '-';
+    } else if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '_') {
+      link += c;
+    }
+  }
+  return link;
+}
+
+}  // namespace markdown

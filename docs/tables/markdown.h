@@ -1,0 +1,24 @@
+#pragma once
+
+// Text in Markdown.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace markdown {
+
+std::string code(std::string_view text);
+
+// The texts that are not empty.
+std::string joined(const std::vector<std::string>& texts, std::string_view separator = ", ");
+
+using Row = std::vector<std::string>;
+
+// A column that is empty in every row is left out.
+std::string table(const Row& head, const std::vector<Row>& rows);
+
+// What a link to the heading leads to: "#-comm--port" for "### -comm, -port".
+std::string link_to(std::string_view heading);
+
+}  // namespace markdown

@@ -1,0 +1,94 @@
+#include "docs/tables/parts.h"
+
+#include <cstddef>
+#include <optional>
+#include <sstream>
+#include <stdexcept>
+#include <string_view>
+#include <vector>
+
+#include "docs/tables/markdown.h"
+#include "docs/tables/print.h"
+#include "options/groups.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+// The name of the part that begins with this line.
+std::optional<std::string> part_of(std::string_view line) {
+  constexpr std::string_view kMark = " printed from the syntax: ";
+  constexpr std::string_view kCommentEnd = " -->";
+  const std::size_t mark = line.find(kMark);
+  if (mark == std::string_view::npos) return {};
+  line.remove_prefix(mark + kMark.size());
+  if (line.ends_with(kCommentEnd)) line.remove_suffix(kCommentEnd.size());
+  return std::string(line);
+}
+
+bool is_end(std::string_view line) { return line == "<!-- end -->" || line == "# end"; }
+
+// The options of "general: -comm -port"; none if the part is none of options.
+std::vector<const Option*> options_of(const std::string& part) {
+  const std::size_t colon = part.find(':');
+  if (colon == std::string::npos) return {};
+  const std::string where = part.substr(0, colon);
+  for (const Run* const run : kRuns) {
+    if (run->where != where) continue;
+    std::vector<const Option*> found;
+    std::istringstream names(part.substr(colon + 1));
+    for (std::string name; names >> name;) {
+      found.push_back(find_option(name, *run, LetterCase{}));
+      if (found.back() == nullptr) throw std::runtime_error("an option does not stand there: " + part);
+    }
+    return found;
+  }
+  throw std::runtime_error("options stand nowhere like that: " + part);
+}
+
+// Where the document describes each option: the heading above the part that does.
+Links links_of(const std::string& document) {
+  Links links;
+  std::istringstream lines(document);
+  std::string heading;
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with('#')) heading = line;
+    const std::optional<std::string> part = part_of(line);
+    if (!part) continue;
+    for (const Option* const option : options_of(*part)) links[option] = markdown::link_to(heading);
+  }
+  return links;
+}
+
+std::string print(const std::string& part, const Links& links) {
+  if (part == "option index") return print_option_index(links);
+  if (part == "heads") return print_heads();
+  if (part == "targets") return print_targets();
+  if (part == "cable types") return print_cable_types();
+  if (part == "never written") return print_never_written();
+  if (part == "not read back") return print_not_read_back();
+  if (part == "all words") return print_dictionary();
+  const std::vector<const Option*> options = options_of(part);
+  if (options.empty()) throw std::runtime_error("there is no part of this name: " + part);
+  return options.front()->takes == Option::pairs ? print_keywords(*options.front()) : print_options(options);
+}
+
+}  // namespace
+
+std::string with_parts(const std::string& document) {
+  const Links links = links_of(document);
+  std::string text;
+  std::istringstream lines(document);
+  for (std::string line; std::getline(lines, line);) {
+    text += line + '\n';
+    const std::optional<std::string> part = part_of(line);
+    if (!part) continue;
+    text += print(*part, links);
+    do {
+      if (!std::getline(lines, line)) throw std::runtime_error("this part has no end: " + *part);
+    } while (!is_end(line));
+    text += line + '\n';
+  }
+  return text;
+}
+
+}  // namespace SdkDebugDialog

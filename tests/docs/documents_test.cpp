@@ -1,0 +1,136 @@
+// The documents say what the tables of the syntax say, and their examples and links are right.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "docs/tables/markdown.h"
+#include "docs/tables/parts.h"
+#include "options/QvtOption_Parser.h"
+#include "options/syntax.h"
+#include "tests/support/SelectedEngine.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+std::string content(const std::string& document) {
+  std::ifstream in(PROJECT_SOURCE_DIR "/" + document, std::ios::binary);
+  EXPECT_TRUE(in) << document;
+  return {std::istreambuf_iterator<char>(in), {}};
+}
+
+std::vector<std::string> lines_of(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  return lines;
+}
+
+TEST(Documents, SayWhatTheTablesOfTheSyntaxSay) {
+  for (const char* const document : kDocuments) {
+    const std::string text = content(document);
+    EXPECT_EQ(text, with_parts(text)) << document << " is not up to date: run scripts/docs";
+  }
+}
+
+TEST(Documents, PrintAPartBetweenItsLinesAndLeaveTheRest) {
+  EXPECT_EQ(with_parts("before\n"
+                       "# printed from the syntax: `ov sim`: -memsize\n"
+                       "an older table\n"
+                       "# end\n"
+                       "after\n"),
+            "before\n"
+            "# printed from the syntax: `ov sim`: -memsize\n"
+            "| option | value | default | without a value | written |\n"
+            "|---|---|---|---|---|\n"
+            "| `-memsize` | number: memory | 16 | error; an option in its place is its value | no: `ov sim` is written "
+            "alone |\n"
+            "# end\n"
+            "after\n");
+}
+
+TEST(Documents, RefuseAPartThatThereIsNot) {
+  for (const char* const part :
+       {"foo\n# end\n", "heads\n", "nowhere: -cable\n# end\n", "general: -foo\n# end\n", "option index\n# end\n"}) {
+    EXPECT_THROW(with_parts(std::string("# printed from the syntax: ") + part), std::runtime_error) << part;
+  }
+}
+
+// --- Examples ---
+
+struct Example {
+  std::string read;
+  std::string written;
+};
+
+// Those of the code blocks that are marked: pairs of lines with an empty line between them.
+std::vector<Example> examples() {
+  const std::vector<std::string> lines = lines_of(content("docs/connect-command.md"));
+  std::vector<Example> found;
+  for (auto line = lines.begin();
+       (line = std::find(line, lines.end(), "<!-- examples: read, written -->")) != lines.end();) {
+    const auto first = std::find(line, lines.end(), "```");
+    if (first == lines.end()) break;
+    const auto last = std::find(first + 1, lines.end(), "```");
+    for (line = first + 1; last - line >= 2; line += std::min<std::ptrdiff_t>(3, last - line)) {
+      EXPECT_TRUE(last - line == 2 || line[2].empty()) << "no empty line after " << line[1];
+      found.push_back({line[0], line[1]});
+    }
+  }
+  return found;
+}
+
+TEST(Documents, ShowWhatIsWrittenAfterReading) {
+  for (const Example& example : examples()) {
+    SCOPED_TRACE(example.read);
+    SelectedEngine e;
+    EXPECT_EQ(QvtOption_Parser::ReadQvtCommand(example.read, e.imp), 0) << e.error();
+    std::string written;
+    EXPECT_EQ(QvtOption_Parser::WriteQvtCmdString(e.imp, written), 0) << e.error();
+    EXPECT_EQ(written, example.written);
+  }
+}
+
+TEST(Documents, HaveAnExampleForEveryTargetAndConnection) {
+  const std::vector<Example> all = examples();
+  const auto expect_example = [&](const std::string& begin) {
+    EXPECT_TRUE(std::ranges::any_of(all, [&](const Example& e) { return e.read.starts_with(begin + ' '); })) << begin;
+  };
+  for (const Target& target : targets()) {
+    const std::string begin = (target.virtualPlatform ? "vpconnect " : "connect ") + std::string(target.name.text());
+    if (target.connections.empty()) expect_example(begin);
+    for (const Connection& connection : target.connections) {
+      expect_example(begin + ' ' + std::string(connection.name.text()));
+    }
+  }
+}
+
+// --- Links ---
+
+TEST(Documents, LinkToHeadings) {
+  EXPECT_EQ(markdown::link_to("### -comm, -port"), "#-comm--port");
+  EXPECT_EQ(markdown::link_to("### Virtual platform: `vpconnect ov`"), "#virtual-platform-vpconnect-ov");
+
+  const std::string text = content("docs/connect-command.md");
+  std::set<std::string> headings;
+  for (const std::string& line : lines_of(text)) {
+    if (line.starts_with('#')) headings.insert(markdown::link_to(line));
+  }
+  const std::regex link(R"(\]\((#[^)]*)\))");
+  std::size_t count = 0;
+  for (std::sregex_iterator found(text.begin(), text.end(), link), end; found != end; ++found, ++count) {
+    EXPECT_TRUE(headings.contains((*found)[1])) << (*found)[1];
+  }
+  EXPECT_NE(count, 0U);
+}
+
+}  // namespace
+}  // namespace SdkDebugDialog
