@@ -10,7 +10,7 @@
 
 namespace SdkDebugDialog {
 
-// Plain data; the engine owns one (EngineImp::cable). Copies are independent.
+// Plain data; each engine owns one (EngineImp::cable). Copies are independent.
 struct SDKDEBUGDIALOG_API CableOption {
   Engine::CableType type = Engine::CABLE_NONE;
   std::uint32_t frequency = 0;  // Hz; 0 counts as not set
@@ -18,11 +18,10 @@ struct SDKDEBUGDIALOG_API CableOption {
   std::string esn;              // electronic serial number that selects one cable
   std::string fname;            // output file of an SVF-file cable; read, never written
   std::string modulename;       // module of a plug-in cable
-  std::string modulearg;        // its arguments, joined by ";"
+  std::string modulearg;        // arguments of the module, separated by ";"
   std::string url;              // read, never written
 
-  // Makes this a cable of type t with the frequency and port that the type defaults to; all other texts are
-  // emptied.
+  // Sets the type, and the frequency and port to the defaults of the type; clears all other fields.
   void CableOptionInit(Engine::CableType t);
 };
 

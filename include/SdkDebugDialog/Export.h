@@ -1,6 +1,6 @@
 #pragma once
 
-// Marks what the shared library exports; everything else stays hidden.
+// Marks the symbols that the shared library exports; all others are hidden.
 #if defined(__GNUC__)
 #define SDKDEBUGDIALOG_API __attribute__((visibility("default")))
 #else

@@ -7,10 +7,10 @@
 
 namespace SdkDebugDialog {
 
-// Records are created by the option reader, one per device, and belong to whoever takes the chain
-// (EngineImp::jtagChain, Engine::GetJtagChainOptions, Engine::ParseJtagCableInfo). Chains are vectors of plain pointers
-// and may share records. The engine destroys none that a caller may hold; those of a read that failed as a whole, which
-// nobody was given, it does.
+// The option reader creates one record per device. The caller that takes the chain (EngineImp::jtagChain,
+// Engine::GetJtagChainOptions, Engine::ParseJtagCableInfo) owns the records. Chains are vectors of plain pointers and
+// may share records. The engine deletes no record that a caller may hold; it deletes only those of a failed read that
+// were never handed out.
 struct JtagOption {
   std::string partname = "UNKNOWN";
   std::uint32_t idcode = 0;  // JTAG IDCODE
