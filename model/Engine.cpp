@@ -39,7 +39,7 @@ int Engine::GetConnectionType(ConnectionType& t) {
 int Engine::SetStubType(StubType s) {
   ProcessorInfoImp* const p = imp->currentProcessor;
   if (p == nullptr) return kRefused;
-  // It is the selected connection that must carry the mark, not what the processor admits.
+  // The flag must be in the selected connection; allowedConnections does not count.
   if (s == STUB_OVER_SERIAL && (p->connectionType & STUB_UART_PRESENT) == 0) {
     SetErrorStr("UART device not present in system");
     return kRefused;

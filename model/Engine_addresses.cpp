@@ -1,4 +1,4 @@
-// The PowerPC debug address map and the memories.
+// Addresses: the PowerPC debug address map and the memories.
 
 #include <algorithm>
 
@@ -19,8 +19,8 @@ constexpr std::uint32_t kBlock = 0x10000;
 // The bases of the debug address map, in the order in which it is laid out.
 struct MapBase {
   Address field;
-  const char* what;       // what the error text calls it
-  Address map = nullptr;  // follows the base once that is accepted
+  const char* what;       // name in the error text
+  Address map = nullptr;  // a second field that is set to the same address
 };
 
 constexpr MapBase kMapBases[] = {

@@ -11,7 +11,7 @@
 namespace SdkDebugDialog {
 namespace {
 
-// kOk when the selected connection goes through a cable.
+// kOk when the selected connection uses a cable.
 int check_cable_in_use(const EngineImp& imp) {
   const ProcessorInfoImp* const p = imp.currentProcessor;
   if (p == nullptr) return kNotSet;
@@ -89,7 +89,7 @@ int Engine::SetDigilentCableOptions(CableOption& c, CableType t, unsigned int /*
 }
 
 int Engine::SetJtagChainOptions(std::vector<JtagOption*>& v) {
-  // The engine's own chain as the argument has always come out empty.
+  // With the engine's own chain as the argument, the result is an empty chain (see Engine.h).
   if (&v == &imp->jtagChain) {
     v.clear();
   } else {

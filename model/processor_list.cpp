@@ -14,7 +14,7 @@ ProcessorInfoImp* find_listed(EngineImp& imp, const std::string& name) {
 
   const auto found = index.places.find(name);
   if (found != index.places.end() && list[found->second]->name == name) return list[found->second];
-  // The records are open: one may have another name by now.
+  // The index can be out of date: callers may have renamed a record.
   const auto renamed = std::ranges::find(list, name, &ProcessorInfoImp::name);
   return renamed != list.end() ? *renamed : nullptr;
 }

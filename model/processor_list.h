@@ -9,14 +9,14 @@ namespace SdkDebugDialog {
 class EngineImp;
 struct ProcessorInfoImp;
 
-// Where the records of EngineImp::processorList stand, by name. The first of several of one name counts.
+// The positions of the records in EngineImp::processorList, by name. For a duplicate name, that of the first record.
 struct ProcessorIndex {
   std::unordered_map<std::string, std::size_t> places;
-  std::size_t known = 0;  // records at the front of the list that are in the index
+  std::size_t known = 0;  // number of records, from the front of the list, that are in the index
 };
 
-// The first listed processor with exactly this name; null when there is none. Quick however long the list is, as long
-// as records keep their place and their name.
+// The first listed processor with exactly this name; null when there is none. Takes constant time once the records are
+// indexed, unless records were moved or renamed or the name is not in the list.
 ProcessorInfoImp* find_listed(EngineImp& imp, const std::string& name);
 
 }  // namespace SdkDebugDialog
