@@ -1,4 +1,4 @@
-// Which processors of a design can be debugged, and how.
+// Finds the processors of a design that can be debugged, and their connections.
 
 #include <algorithm>
 #include <cstdint>
@@ -20,8 +20,8 @@
 namespace SdkDebugDialog {
 namespace {
 
-// What was listed meanwhile is taken back unless it is to stay: whoever asked for the list knows nothing of a part of
-// it.
+// Rollback: removes the records that were added to a list since construction, unless keep() is called. The caller of a
+// discovery that throws does not know of them and would not delete them.
 class Listed {
  public:
   explicit Listed(std::vector<ProcessorInfoImp*>& list) : m_list(list), m_before(list.size()) {}
@@ -38,7 +38,7 @@ class Listed {
   std::size_t m_before;
 };
 
-// One walk over a design. Every kind of processor is numbered from 1 on; numbers wrap at 256.
+// One discovery. The processors of each family are numbered from 1; numbers wrap at 256.
 class Discovery {
  public:
   Discovery(EngineImp& imp, HHSMHwManager& hw) : m_imp(imp), m_hw(hw) {}
@@ -101,7 +101,7 @@ class Discovery {
     processor->allowedConnections = connections;
     processor->cpuNr = number;
     m_imp.processorList.push_back(processor.get());
-    processor.release();  // NOLINT(bugprone-unused-return-value): whoever holds the list releases it
+    processor.release();  // NOLINT(bugprone-unused-return-value): the list's caller deletes it
   }
 
   EngineImp& m_imp;
@@ -116,7 +116,7 @@ class Discovery {
 int Engine::GetProcessorList(HHSMHwManager* hw, std::vector<std::string>& names) {
   imp->hwManager = hw;
   if (hw == nullptr) return kOk;
-  // The manager may replace what it is given; the caller's names stay.
+  // A vector of its own: the manager may replace the content instead of appending, and names must be kept.
   std::vector<std::string> instances;
   hw->getProcessorInstances(instances, false);
   if (!names.empty()) names.reserve(names.size() + instances.size());

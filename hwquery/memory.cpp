@@ -1,4 +1,4 @@
-// The classes of memory controllers.
+// Classifies memory controllers.
 
 #include <algorithm>
 #include <cctype>
@@ -35,7 +35,7 @@ std::string EngineImp::ClassifyMemory(const std::string& ipType) {
   std::string name = ipType;
   std::ranges::transform(name, name.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
   if (contains(kBlockRam, name)) return "BRAM";
-  // Whatever names DDR is dynamic, known or not.
+  // A name with "ddr" is dynamic RAM even if it is not in the table.
   if (name.find("ddr") != std::string::npos || contains(kDynamicRam, name)) return "EXT_DRAM";
   if (contains(kStaticRamOrFlash, name)) return "EXT_SRAM_FLASH";
   return "OTHER";

@@ -1,4 +1,4 @@
-// Selects a processor, reads its settings, and completes them from the hardware description.
+// Selects a processor, reads its settings, and takes the FPU from the hardware description.
 
 #include <algorithm>
 #include <cstdlib>
@@ -22,8 +22,8 @@
 namespace SdkDebugDialog {
 namespace {
 
-// Takes back a read that failed: nothing of it stays but the text that tells why. The chain's devices came with that
-// read and were handed to nobody.
+// Rolls back a failed read: resets the settings but keeps the error text. The read has created the chain's devices, and
+// no caller has received them, so they are deleted.
 void forget_failed_read(EngineImp& imp) {
   for (const JtagOption* const device : imp.jtagChain) delete device;
   std::string reason = std::move(imp.errorStr);
@@ -31,7 +31,7 @@ void forget_failed_read(EngineImp& imp) {
   imp.errorStr = std::move(reason);
 }
 
-// Selects a listed processor and fills it by read. The text notListed has the name as its %s.
+// Selects a listed processor and calls read to fill it. notListed is the error text, with %s for the name.
 template <class Read>
 int select_processor(EngineImp& imp, const std::string& name, ProcessorInfo& info, const char* notListed, Read read) {
   ProcessorInfoImp* const processor = find_listed(imp, name);
@@ -51,7 +51,7 @@ int select_processor(EngineImp& imp, const std::string& name, ProcessorInfo& inf
   return status;
 }
 
-// Reads a command as if no hardware were known, so that the command alone tells what the processor is.
+// Reads a command with hwManager set to null, so that the command alone determines the processor.
 int read_without_hardware(EngineImp& imp, std::string command) {
   struct Detached {
     explicit Detached(EngineImp& i) : imp(i), hw(std::exchange(i.hwManager, nullptr)) {}
@@ -118,8 +118,7 @@ int Engine::ParseProcessorInfo(std::string name, ProcessorInfo& info, std::strin
 
 ProcessorInfoImp* EngineImp::GetProcessorInfo(std::string command) {
   auto processor = std::make_unique_for_overwrite<ProcessorInfoImp>();
-  // Whatever goes wrong, an exception included, nothing of the read stays and the record, which is gone then, is not
-  // left selected.
+  // Rollback, also for exceptions: resets the settings and unselects the record, which is deleted.
   struct Selection {
     explicit Selection(EngineImp& i) : imp(i) {}
     ~Selection() {

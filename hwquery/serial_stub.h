@@ -6,8 +6,8 @@ class HHSMHwManager;
 
 namespace SdkDebugDialog {
 
-// What EngineImp::IsStubSerialConnect answers for a processor of this design. No processor reaches a stub over JTAG, so
-// that this is all there is to know of its stub.
+// EngineImp::IsStubSerialConnect for a processor of this design. There is no counterpart for JTAG: no stub over JTAG is
+// ever reported.
 unsigned int serial_stub(HHSMHwManager& hw, const std::string& processor);
 
 }  // namespace SdkDebugDialog

@@ -1,4 +1,4 @@
-// How a processor can reach a software stub.
+// The connections to a software stub.
 
 #include <algorithm>
 #include <iterator>
