@@ -1,6 +1,6 @@
 #pragma once
 
-// The tool suite's message manager.
+// The message manager of the tool suite.
 
 #if defined(__GNUC__)
 #define COMMSGMGR_API __attribute__((visibility("default")))
@@ -12,15 +12,16 @@
 
 class COMMSGMGR_API ComMsgMgr {
  public:
-  // Receives one formatted message. The texts are valid during the call only.
+  // Receives one formatted message. id and text are valid during the call only. May be called from several threads at
+  // the same time.
   using Sink = void (*)(int type, const char* id, unsigned int mask, const char* text);
 
   struct COMMSGMGR_API sendMsg {
-    // Formats a message and hands it to the sink.
+    // Formats a message and passes it to the sink.
     static void eval(int type, const char* id, unsigned int mask, const char* format, ...) COMMSGMGR_PRINTF(4, 5);
   };
 
-  // Sends all further messages of the process to sink and returns the sink before. Null restores the default,
-  // which prints the text to standard error.
+  // Sets the sink, which is one for the process, and returns the previous one. Null restores the default sink, which
+  // prints the text to standard error. Not thread-safe: set the sink before threads start.
   static Sink setSink(Sink sink);
 };

@@ -23,8 +23,8 @@ using SdkDebugDialog::JsonKind;
 
 namespace {
 
-constexpr std::size_t kMaxFileSize = std::size_t{128} << 20;  // far above any design, far below what a machine holds
-constexpr std::size_t kMaxNameLength = 200;                   // leaves room in a file name of 255 bytes
+constexpr std::size_t kMaxFileSize = std::size_t{128} << 20;  // far larger than any design, far smaller than memory
+constexpr std::size_t kMaxNameLength = 200;                   // the option file's name, at most 255 bytes, contains it
 
 // --- Messages ---
 
@@ -32,14 +32,14 @@ constexpr std::size_t kMaxNameLength = 200;                   // leaves room in 
   throw DesignFileError(where + ": found " + found + ", expected " + expected);
 }
 
-// A file's name for use in a message: as it is, but on one line.
+// A file name for use in a message: control characters replaced, so that it stays on one line.
 std::string one_line(std::string name) {
   std::ranges::replace_if(
       name, [](unsigned char c) { return c < 0x20 || c == 0x7F; }, '?');
   return name;
 }
 
-// One step of a JSON pointer.
+// One reference token of a JSON pointer, with its slash.
 std::string step(std::string_view key) {
   std::string out;
   for (const char c : key) out += c == '~' ? "~0" : c == '/' ? "~1" : std::string(1, c);
@@ -106,14 +106,14 @@ bool is_identifier(std::string_view text) {
          std::ranges::all_of(text, SdkDebugDialog::is_letter_or_digit);
 }
 
-// Names that must differ.
+// A set of names, for finding duplicates.
 class DifferentNames {
  public:
   void clear() {
     m_few.clear();
     if (!m_many.empty()) m_many = {};
   }
-  // False when the name is there already.
+  // False when the name is already in the set.
   bool insert(std::string_view name) {
     if (!m_many.empty()) return m_many.insert(name).second;
     if (std::ranges::find(m_few, name) != m_few.end()) return false;
@@ -123,14 +123,15 @@ class DifferentNames {
   }
 
  private:
-  static constexpr std::size_t kFew = 16;  // are quickest compared one by one
+  static constexpr std::size_t kFew = 16;  // up to this number, a linear search is fastest
   std::vector<std::string_view> m_few;
   std::unordered_set<std::string_view> m_many;
 };
 
 }  // namespace
 
-// A design as it was read. Texts stay where they are in the file; all else is numbers in a few flat lists.
+// The content of a design file. Strings are not copied: they are offsets into the file's text. All lists are flat and
+// refer to each other by position.
 class DesignFile::Content {
  public:
   struct Text {
@@ -145,7 +146,7 @@ class DesignFile::Content {
     std::string_view name;
     std::vector<std::uint32_t> instances;
   };
-  // Positions in a list.
+  // A range of positions in a list.
   struct Range {
     std::uint32_t begin = 0;
     std::uint32_t end = 0;
@@ -153,12 +154,13 @@ class DesignFile::Content {
   struct Instance {
     Text name;
     Range parameters;
-    Range names;  // of the processors that a debug IP reaches, or of a processor's peripherals
+    Range names;  // of the processors connected to a debug IP, or of the peripherals of a processor
     std::uint32_t ipType = 0;
     Class ipClass = Class::other;
   };
 
-  // Room that is not used costs no memory; to move lists again and again costs time.
+  // The capacities are estimates from the size of the file. Unused capacity is never touched and takes no physical
+  // memory; reallocation takes time.
   explicit Content(std::string file) : m_file(std::move(file)) {
     const std::size_t instanceCount = m_file.size() / 128;
     instances.reserve(instanceCount);
@@ -173,11 +175,11 @@ class DesignFile::Content {
     return text.offset < m_file.size() ? std::string_view(m_file).substr(text.offset, text.size)
                                        : std::string_view(m_decoded).substr(text.offset - m_file.size(), text.size);
   }
-  // A text is copied unless it is a part of the file.
+  // Copies the text, unless it is a part of the file.
   Text keep(std::string_view text) {
     std::size_t offset = static_cast<std::size_t>(text.data() - m_file.data());
     if (std::less<>()(text.data(), m_file.data()) || std::less<>()(m_file.data() + m_file.size(), text.data())) {
-      m_decoded.reserve(m_file.size());  // enough for all, so that texts stay where they are
+      m_decoded.reserve(m_file.size());  // enough for all texts: views into it stay valid
       offset = m_file.size() + m_decoded.size();
       m_decoded += text;
     }
@@ -195,8 +197,7 @@ class DesignFile::Content {
     return found.position != kFree ? &instances[found.position] : nullptr;
   }
 
-  // Enters the name of the last instance, which are entered one after the other. The answer is the instance that has
-  // the name already, or null.
+  // Adds the name of the last instance to the hash table. Returns the instance that already has this name, or null.
   const Instance* enter_last_name() {
     if (2 * instances.size() > m_slots.size()) make_room();
     const std::string_view name = view(instances.back().name);
@@ -220,7 +221,7 @@ class DesignFile::Content {
     ipTypes[found->second].instances.push_back(static_cast<std::uint32_t>(instances.size() - 1));
   }
 
-  // The answers: names of instances.
+  // --- Queries: append names of instances ---
 
   void append_class(std::vector<std::string>& out, Class ipClass) const {
     append(out, m_byClass[static_cast<std::size_t>(ipClass)]);
@@ -231,7 +232,7 @@ class DesignFile::Content {
     if (found != m_typesByName.end()) append(out, ipTypes[found->second].instances);
   }
 
-  // Those that an instance lists, if it is of that class.
+  // The names in the list of an instance, if the instance is of this class.
   void append_list(std::vector<std::string>& out, std::string_view instance, Class ipClass) const {
     const Instance* const found = find(instance);
     if (found == nullptr || found->ipClass != ipClass) return;
@@ -253,15 +254,15 @@ class DesignFile::Content {
     std::uint32_t position = kFree;  // of an instance
   };
 
-  // Names that differ in their last character alone are neighbours: names are numbered, and are asked for one after the
-  // other.
+  // Names that differ only in the last character get adjacent slots: names are usually numbered and looked up in order,
+  // so this saves cache misses.
   static std::uint32_t hash_of(std::string_view name) {
     if (name.empty()) return 0;
     const std::size_t hash = std::hash<std::string_view>()(name.substr(0, name.size() - 1));
     return static_cast<std::uint32_t>(hash + static_cast<unsigned char>(name.back()));
   }
 
-  // Where a name is, or where it belongs: the first free slot from that of its hash on.
+  // The slot of a name, or the free slot for it: linear probing, starting at the hash.
   std::size_t slot(std::uint32_t hash, std::string_view name) const {
     const std::size_t last = m_slots.size() - 1;
     for (std::size_t i = hash & last;; i = (i + 1) & last) {
@@ -288,14 +289,14 @@ class DesignFile::Content {
   }
 
   std::string m_file;
-  std::string m_decoded;                                              // texts that had escapes
+  std::string m_decoded;                                              // strings that had escapes, decoded
   std::vector<std::uint32_t> m_byClass[std::size(kClasses)];          // positions in instances
   std::unordered_map<std::string_view, std::uint32_t> m_typesByName;  // positions in ipTypes
-  std::vector<Slot> m_slots;                                          // a power of two of them, half of them free
+  std::vector<Slot> m_slots;  // hash table; its size is a power of two, half is free
 };
 
-// Takes in a design as it is told. Every value is checked against what may stand at its place before anything in it is
-// read, so nesting never goes deeper than a design does.
+// Builds the content from JSON events. Every value is checked against the schema as soon as it begins, so nesting is
+// never deeper than the schema allows.
 class DesignFile::Reader final : public SdkDebugDialog::JsonListener {
  public:
   Reader(Content& design, std::string file) : m_design(design), m_file(std::move(file)) {}
@@ -324,26 +325,26 @@ class DesignFile::Reader final : public SdkDebugDialog::JsonListener {
     std::string_view key;
     const Node* value;
     bool required = false;
-    std::optional<Class> onlyIn = {};  // the one class of instance that may have it
+    std::optional<Class> onlyIn = {};  // if set, only instances of this class may have the member
   };
 
-  // What may stand at a place of the file.
+  // A node of the schema: what a value must be.
   struct Node {
     JsonKind kind;
-    std::span<const Member> members = {};                   // of an object with fixed members
-    const Node* element = nullptr;                          // of an array, or of an object with free members
-    void (Reader::*start)() = nullptr;                      // of an object or array
-    void (Reader::*take)(std::string_view text) = nullptr;  // of a text
+    std::span<const Member> members = {};                   // for an object with fixed members
+    const Node* element = nullptr;                          // for an array, or an object with arbitrary members
+    void (Reader::*start)() = nullptr;                      // called at the start of an object or array
+    void (Reader::*take)(std::string_view text) = nullptr;  // called with a string
   };
   static const Node& root();
 
-  // An object or array that has begun.
+  // An object or array that is open.
   struct Frame {
     const Node* node;
-    const Node* next;        // what the next value may be
+    const Node* next;        // schema of the next value
     std::string_view key;    // of the current member
-    std::size_t count = 0;   // of elements begun
-    std::uint32_t seen = 0;  // fixed members, as bits in the order of the node
+    std::size_t count = 0;   // number of elements so far
+    std::uint32_t seen = 0;  // fixed members so far: bit i for members[i] of the node
   };
 
   const Node& value(JsonKind found);
@@ -370,7 +371,7 @@ class DesignFile::Reader final : public SdkDebugDialog::JsonListener {
   Content& m_design;
   std::string m_file;
   std::vector<Frame> m_open;
-  DifferentNames m_seen;  // in the parameters or the list that has begun last
+  DifferentNames m_seen;  // names in the current parameters or list
 };
 
 const DesignFile::Reader::Node& DesignFile::Reader::root() {
@@ -411,7 +412,7 @@ std::string DesignFile::Reader::place() const {
   return out;
 }
 
-// A value begins; the answer is what stands there.
+// Called when a value begins: checks its kind and returns its schema.
 const DesignFile::Reader::Node& DesignFile::Reader::value(JsonKind found) {
   const Node* expected = &root();
   if (!m_open.empty()) {
@@ -454,7 +455,7 @@ void DesignFile::Reader::fixed_key(Frame& object, std::string_view name) {
   object.next = member->value;
 }
 
-// The name of a parameter.
+// Only parameters have arbitrary keys.
 void DesignFile::Reader::free_key(Frame& object, std::string_view name) {
   const Text kept = m_design.keep(name);
   object.key = m_design.view(kept);
@@ -525,7 +526,7 @@ void DesignFile::Reader::take_reference(std::string_view text) {
   instance().names.end = static_cast<std::uint32_t>(m_design.names.size());
 }
 
-// The names in one list of every instance of a class are those of instances of the classes allowed.
+// Checks that every name in the lists of the instances of class user is that of an instance of an allowed class.
 void DesignFile::Reader::check_references(std::string_view key, Class user, const std::vector<Class>& allowed) const {
   for (const Content::Instance& instance : m_design.instances) {
     if (instance.ipClass != user) continue;
@@ -545,7 +546,7 @@ void DesignFile::Reader::check_references(std::string_view key, Class user, cons
   }
 }
 
-// --- The answers ---
+// --- Queries ---
 
 DesignFile::DesignFile(std::string text, const std::string& file) {
   const auto content = std::make_shared<Content>(std::move(text));

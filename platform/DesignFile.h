@@ -1,6 +1,6 @@
 #pragma once
 
-// A hardware design kept in a JSON file (docs/design-file.md).
+// A hardware design in a JSON file (docs/design-file.md).
 
 #include <memory>
 #include <stdexcept>
@@ -9,24 +9,24 @@
 
 #include "platform/HHSMHwManager.h"
 
-// Why a design cannot be used. what() is one line that names the file, the place in it (line and column, or a JSON
-// pointer), what was found and what was expected.
+// A design file that cannot be read or is not valid. what() is one line with the file name, the place in the file (line
+// and column, or a JSON pointer), what was found and what was expected.
 class DesignFileError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-// Answers every question in the order of the file. Copies share what was read.
+// All lists are in the order of the file. Copies share the content.
 class DesignFile : public HHSMHwManager {
  public:
-  // Reads a design whole; throws DesignFileError for anything that is not a complete and consistent one. Nothing
-  // but a regular file is read.
+  // Reads a whole design. Throws DesignFileError when the path is not a regular file or the design is not complete and
+  // consistent.
   static DesignFile load(const std::string& path);
 
-  // The same for text in memory; name stands for the file in error texts.
+  // The same for text in memory; name is used as the file name in error texts.
   static DesignFile parse(const std::string& text, const std::string& name);
 
-  // There is no move, which would leave an object without answers.
+  // Not movable: a moved-from object would have no content.
   DesignFile(const DesignFile&) = default;
   DesignFile& operator=(const DesignFile&) = default;
   ~DesignFile() override = default;

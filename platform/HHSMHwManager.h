@@ -1,7 +1,6 @@
 #pragma once
 
-// The tool suite's view of a hardware design: an interface, so that a tool suite, a file or a test can stand behind
-// it.
+// The interface through which a hardware design is queried. A tool suite, a file reader or a test implements it.
 
 #include <string>
 #include <vector>
@@ -17,8 +16,8 @@ enum HwIpType : int {
   HW_IP_DEBUG = 5,  // debug modules and bridges
 };
 
-// Operations that list append to out. Names are those of instances in the design; a name that the design does not
-// have yields nothing, or an empty text.
+// Operations with a parameter out append to it. Names are names of instances in the design. For a name that is not in
+// the design, nothing is appended, or an empty string is returned.
 class HHSM_API HHSMHwManager {
  public:
   virtual ~HHSMHwManager() = default;
@@ -35,12 +34,12 @@ class HHSM_API HHSMHwManager {
   // The IP type of an instance.
   virtual std::string getIpName(const std::string& instance) = 0;
 
-  // The processors that a debug IP reaches, in the order of attachment.
+  // The processors connected to a debug IP, in the order of connection.
   virtual void getOdmConnectedProcessorList(std::vector<std::string>& out, const std::string& debugInstance) = 0;
 
   // The peripheral instances of a processor, in design order.
   virtual void getPeripherals(const std::string& processor, std::vector<std::string>& out) = 0;
 
-  // A parameter of an instance, as text; empty when the instance does not have it.
+  // The value of a parameter of an instance, as text; empty when the instance does not have the parameter.
   virtual std::string getParameterValue(const std::string& instance, const std::string& parameter) = 0;
 };

@@ -7,11 +7,11 @@
 #include <stdexcept>
 #include <utility>
 
-// A copy of the parser under a name of its own: a program that links this library may use another version of it.
+// A namespace of its own for the parser: a program that links this library may use another version of it.
 #define RAPIDJSON_NAMESPACE SdkDebugDialog_rapidjson
 #define RAPIDJSON_ASSERT(holds) ((holds) ? void() : throw std::logic_error(#holds))
 #ifdef __clang__
-// The parser counts from a null pointer as long as it has no memory, which the sanitizer would remark on.
+// The parser does pointer arithmetic on a null pointer before its first allocation, which the sanitizer reports.
 #pragma clang attribute push(__attribute__((no_sanitize("pointer-overflow"))), apply_to = function)
 #endif
 #include <rapidjson/reader.h>
@@ -26,7 +26,7 @@ namespace rapidjson = SdkDebugDialog_rapidjson;
 
 // --- The parser ---
 
-// Throws where the parser expects memory.
+// Throws std::bad_alloc, because the parser does not check the result of an allocation.
 struct Allocator : rapidjson::CrtAllocator {
   static void* Realloc(void* block, std::size_t /*before*/, std::size_t size) {
     void* const moved = std::realloc(block, size);
@@ -37,8 +37,8 @@ struct Allocator : rapidjson::CrtAllocator {
 
 using Parser = rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, Allocator>;
 constexpr unsigned kFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag;
-// The parser is told that it may write strings into the text. The stream only counts what it would write, so that the
-// text stays as it is and no string is copied.
+// In-situ parsing writes decoded strings into the text. The stream below only counts these bytes, so the text is not
+// changed and no string is copied.
 constexpr unsigned kCheckingFlags = kFlags | rapidjson::kParseInsituFlag;
 
 class Stream {
@@ -47,7 +47,7 @@ class Stream {
 
   explicit Stream(const std::string& text, std::size_t offset = 0) : m_text(text.c_str()), m_next(m_text + offset) {}
 
-  // The text ends with NUL, which is never passed.
+  // The text ends with NUL; Take() does not go beyond it.
   char Peek() const { return *m_next; }
   char Take() {
     const char taken = *m_next;
@@ -56,7 +56,8 @@ class Stream {
   }
   std::size_t Tell() const { return static_cast<std::size_t>(m_next - m_text); }
 
-  // A string begins. Most are plain to their end, which needs no look from the parser.
+  // Called at the start of a string. Skips plain characters here, which is faster than in the parser; most strings have
+  // no others.
   char* PutBegin() {
     m_string = m_next;
     while (is_plain(*m_next)) ++m_next;
@@ -66,9 +67,9 @@ class Stream {
   void Put(char) { ++m_written; }
   std::size_t PutEnd(char*) { return m_written; }
 
-  // Where the last string begins, behind its quote.
+  // The offset of the last string, after its opening quote.
   std::size_t string_begin() const { return static_cast<std::size_t>(m_string - m_text); }
-  // The string that has just ended, without quotes, as it stands in the text.
+  // The string that has just ended, without quotes, not decoded.
   std::string_view string() const { return {m_string, static_cast<std::size_t>(m_next - m_string) - 1}; }
 
  private:
@@ -80,7 +81,7 @@ class Stream {
   std::size_t m_written = 0;
 };
 
-// Keeps a string, without its escapes.
+// Stores a string with its escapes decoded.
 struct Decoder : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Decoder> {
   bool String(const char* text, rapidjson::SizeType size, bool) {
     decoded.assign(text, size);
@@ -89,8 +90,8 @@ struct Decoder : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Decoder> {
   std::string decoded;
 };
 
-// The escape of the second of a pair of surrogates without the first, which the parser lets pass: its place in a
-// string, or npos. All escapes are complete.
+// The offset of a low surrogate escape without a high surrogate before it, or npos. The parser does not report this
+// error. All escapes in the string must be complete.
 std::size_t lone_surrogate(std::string_view raw) {
   constexpr std::size_t kEscape = 2;         // \n
   constexpr std::size_t kUnicodeEscape = 6;  // \u000A
@@ -107,7 +108,7 @@ std::size_t lone_surrogate(std::string_view raw) {
   return raw.npos;
 }
 
-// Passes the parser's events on.
+// Passes the parser's events to the listener.
 class Handler {
  public:
   Handler(const std::string& text, const Stream& stream, JsonListener& listener)
@@ -144,7 +145,7 @@ class Handler {
 
   bool string(void (JsonListener::*tell)(std::string_view), std::size_t size) {
     const std::string_view raw = m_stream.string();
-    if (raw.size() == size) {  // every escape is longer than what it stands for
+    if (raw.size() == size) {  // no escapes: every escape is longer than its decoded bytes
       (m_listener.*tell)(raw);
       return true;
     }
@@ -161,7 +162,7 @@ class Handler {
   JsonListener& m_listener;
 };
 
-// --- Faults ---
+// --- Errors ---
 
 constexpr const char* kPairExpected = "a pair of surrogates";
 constexpr const char* kTheEnd = "the end of the file";
@@ -190,25 +191,25 @@ const char* expectation(rapidjson::ParseErrorCode code) {
   }
 }
 
-// The first digit that is none in an escape that is to have four, or in the one behind it.
+// The offset of the first character that is not a hexadecimal digit, in a \u escape or in the \u escape after it.
 std::size_t wrong_hex_digit(std::string_view text, std::size_t escape) {
   constexpr const char* kDigits = "0123456789ABCDEFabcdef";
   const std::size_t first = text.find_first_not_of(kDigits, escape + 2);
   return first < escape + 6 ? first : text.find_first_not_of(kDigits, escape + 8);
 }
 
-// Where the first of a pair is not followed by the second.
+// The offset of the error after a high surrogate escape that is not followed by a low surrogate.
 std::size_t wrong_second_surrogate(std::string_view text, std::size_t escape) {
   if (text.substr(escape + 6, 1) != "\\") return escape + 6;
   if (text.substr(escape + 7, 1) != "u") return escape + 7;
   return escape + 11;
 }
 
-// The first byte that does not go on what began at an offset.
+// The offset of the first invalid byte of the UTF-8 sequence that begins at an offset.
 std::size_t wrong_utf8(std::string_view text, std::size_t offset) {
   struct Lead {
-    unsigned char from, to;              // the first byte
-    unsigned char secondFrom, secondTo;  // the second one; all others are 0x80 to 0xBF
+    unsigned char from, to;              // range of the first byte
+    unsigned char secondFrom, secondTo;  // range of the second byte; all others are 0x80 to 0xBF
     std::size_t size;
   };
   constexpr Lead kLeads[] = {
@@ -228,7 +229,7 @@ std::size_t wrong_utf8(std::string_view text, std::size_t offset) {
   return offset + i;
 }
 
-// What is wrong with the surrogates in a stream's last string, up to an offset.
+// The error in the surrogates of the stream's last string, up to the offset end.
 std::optional<JsonFault> surrogate_fault(std::string_view text, const Stream& stream, std::size_t end) {
   const std::size_t begin = stream.string_begin();
   const std::size_t lone = lone_surrogate(text.substr(begin, end - begin));
@@ -236,7 +237,7 @@ std::optional<JsonFault> surrogate_fault(std::string_view text, const Stream& st
   return byte_fault(text, begin + lone + 5, kPairExpected);
 }
 
-// What begins with a character.
+// The kind of literal that begins with a character.
 const char* literal(char first) {
   switch (first) {
     case '"':
@@ -254,7 +255,7 @@ const char* literal(char first) {
 
 JsonFault fault(const std::string& text, rapidjson::ParseErrorCode code, std::size_t offset, const char* expected);
 
-// Something else than what is expected begins here, or a word goes wrong here.
+// The error when an unexpected token begins at the offset, or when a word has a wrong character there.
 JsonFault token_fault(const std::string& text, std::size_t offset, const char* expected) {
   if (offset >= text.size()) return byte_fault(text, offset, expected);
 
@@ -288,7 +289,7 @@ JsonFault token_fault(const std::string& text, std::size_t offset, const char* e
   return {begin, in_quotes(text.substr(begin, std::max(end, offset + 1) - begin)), expected};
 }
 
-// The parser tells what is wrong and, for strings, the character or escape in which it is.
+// Converts the parser's error code and offset. For strings, the offset is that of the wrong character or escape.
 JsonFault fault(const std::string& text, rapidjson::ParseErrorCode code, std::size_t offset, const char* expected) {
   switch (code) {
     case rapidjson::kParseErrorStringMissQuotationMark:
@@ -316,7 +317,7 @@ JsonFault fault(const std::string& text, rapidjson::ParseErrorCode code, std::si
 }  // namespace
 
 std::optional<JsonFault> read_json(const std::string& text, JsonListener& listener) {
-  const std::size_t nul = text.find('\0');  // which the parser takes for the end
+  const std::size_t nul = text.find('\0');  // the parser would take it as the end
   if (nul != text.npos) return byte_fault(text, nul, "JSON text");
 
   std::size_t begin = 0;

@@ -1,6 +1,6 @@
 #pragma once
 
-// JSON text, told value by value.
+// An event-based JSON reader.
 
 #include <cstddef>
 #include <optional>
@@ -11,32 +11,33 @@ namespace SdkDebugDialog {
 
 enum class JsonKind { object, array, text, number, boolean, null };
 
-// Is told what stands in a text, in its order. An exception ends the reading.
+// Receives the events in the order of the text. An exception ends reading.
 class JsonListener {
  public:
   virtual ~JsonListener() = default;
 
-  // A text, or a member's name, that has no escapes is a part of the text that is read. Others are valid during the
-  // call only.
+  // A string or member name without escapes is a view into the text that is read. Others are valid during the call
+  // only.
   virtual void text(std::string_view text) = 0;
   virtual void key(std::string_view name) = 0;
-  virtual void scalar(JsonKind kind) = 0;  // any other value without parts
+  virtual void scalar(JsonKind kind) = 0;  // a number, boolean or null
 
   virtual void start(JsonKind kind) = 0;  // an object or array
   virtual void end(JsonKind kind) = 0;
 };
 
-// Why a text is not JSON.
+// The first syntax error in a text; offset in bytes.
 struct JsonFault {
   std::size_t offset;
   std::string found;
   std::string expected;
 };
 
-// Nothing where the whole text is one value. Nesting takes memory, not stack; a byte order mark may stand in front.
+// Returns the error, or nothing when the whole text is one JSON value. Nesting uses heap memory, not the stack. A byte
+// order mark at the beginning is accepted.
 std::optional<JsonFault> read_json(const std::string& text, JsonListener& listener);
 
-// A part of the text for use in a message: printable, bounded, on one line.
+// Text for use in a message: escaped to printable characters on one line, and truncated if long.
 std::string escaped(std::string_view text);
 std::string in_quotes(std::string_view text);
 
