@@ -7,7 +7,7 @@
 
 namespace SdkDebugDialog {
 
-// A file descriptor that closes itself.
+// Owns a file descriptor and closes it in the destructor.
 class Descriptor {
  public:
   Descriptor() = default;
@@ -23,14 +23,14 @@ class Descriptor {
 
   explicit operator bool() const { return m_fd >= 0; }
   int get() const { return m_fd; }
-  // Closes now, for the error that this may report. A signal that comes meanwhile leaves it closed all the same.
+  // Closes now; false on an error. EINTR is not an error: the descriptor is closed nevertheless.
   bool close() { return ::close(std::exchange(m_fd, -1)) == 0 || errno == EINTR; }
 
  private:
   int m_fd = -1;
 };
 
-// Repeats a call that a signal interrupts.
+// Repeats a system call while it fails with EINTR.
 template <class Call>
 auto uninterrupted(Call call) {
   auto result = call();

@@ -23,7 +23,7 @@ const char* other_kind_of(const struct stat& status) {
 
 }  // namespace
 
-// Looks again after opening: another process may have put something else in its place.
+// Checks the kind again after opening: another process may have replaced the file in between.
 RegularFile::RegularFile(const std::string& path) {
   struct stat status = {};
   const auto is_regular = [&](int result) {

@@ -8,8 +8,8 @@
 
 namespace SdkDebugDialog {
 
-// A regular file, opened for reading. Anything else is not even opened: that alone may block, act on a device, or wake
-// whoever waits at the other end.
+// A regular file, opened for reading. Other kinds of files are not opened: opening a pipe or a device can block or have
+// side effects.
 //
 //   RegularFile file(path);
 //   if (!file) ...  // file.error() or file.other_kind() says why
@@ -21,16 +21,17 @@ class RegularFile {
 
   explicit operator bool() const { return static_cast<bool>(m_file); }
 
-  // What there is instead of a regular file, as in "a directory"; null where that is not why it is not open.
+  // The kind of a file that is not regular, such as "a directory"; null if the file is regular or there is another
+  // error.
   const char* other_kind() const { return m_otherKind; }
 
-  // The number of the system's error in the last call that failed.
+  // The errno of the last failed call.
   int error() const { return m_error; }
 
-  // When it was opened, in bytes.
+  // The size in bytes when the file was opened.
   std::uint64_t size() const { return m_size; }
 
-  // Reads up to that many bytes, and returns how many; 0 at the end of the file, negative after an error.
+  // Reads up to size bytes and returns the number read; 0 at the end of the file, negative on an error.
   std::ptrdiff_t read(char* buffer, std::size_t size);
 
  private:

@@ -23,7 +23,7 @@ namespace {
 
 namespace fs = boost::filesystem;
 
-// Where a chain of links ends, whether or not something is there; empty for one that does not end.
+// The target of a chain of symbolic links, which need not exist; empty for a loop.
 fs::path follow_links(fs::path path) {
   boost::system::error_code error;
   for (int links = 0; links < 40; ++links) {
@@ -35,8 +35,8 @@ fs::path follow_links(fs::path path) {
   return {};
 }
 
-// While it lives, a write beyond the file-size limit fails with EFBIG and no more: SIGXFSZ, which would end a program
-// that does not expect it, comes to the thread that writes, is held back and then taken away.
+// Blocks SIGXFSZ in this thread, so that a write beyond the file-size limit fails with EFBIG instead of terminating the
+// program. The destructor removes the pending signal and restores the signal mask.
 class FileSizeSignal {
  public:
   FileSizeSignal() {
@@ -49,7 +49,7 @@ class FileSizeSignal {
     ::pthread_sigmask(SIG_BLOCK, &m_signal, &m_before);
   }
   ~FileSizeSignal() {
-    // One that was held back by somebody else already is theirs.
+    // A signal that was already pending before is left pending.
     const timespec now = {};
     if (!m_waits) uninterrupted([&] { return ::sigtimedwait(&m_signal, nullptr, &now); });
     ::pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
@@ -78,7 +78,7 @@ Descriptor open_to_write(int folder, const char* name) {
       uninterrupted([&] { return ::openat(folder, name, O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); }));
 }
 
-// A file as it is before it is replaced.
+// The state of the file before it is replaced.
 struct Before {
   bool exists = false;
   bool replaceable = true;
@@ -92,15 +92,14 @@ Before look_at(int folder, const char* name) {
     return before;
   }
   before.exists = true;
-  // Whoever may not write the file may not replace it either.
+  // Without write permission for the file itself, it must not be replaced either.
   before.replaceable = S_ISREG(before.status.st_mode) && open_to_write(folder, name);
   return before;
 }
 
-// The text goes to a new file that then takes the place of the old one. Every writer has a name of its own for it, so
-// that none waits for another, and keeps it locked, so that whoever writes next can tell the file of a writer at work
-// from one that a writer left when it died. Neither name nor lock has to be right for the file to stay whole: a writer
-// whose new file is cleared away has nothing to rename.
+// Prefix of the temporary files. Every writer uses a name of its own, so writers do not wait for each other. A writer
+// keeps its file locked, so the next writer can tell a file in use from one whose writer was terminated. A wrong guess
+// does no harm: a writer whose temporary file was removed cannot rename it and fails.
 constexpr std::string_view kNewFile = ".qvt_new.";
 
 bool is_new_file(std::string_view name) {
@@ -112,14 +111,14 @@ std::string new_file_name() {
   return std::string(kNewFile) + std::to_string(::getpid()) + "." + std::to_string(now);
 }
 
-enum class Lock { got, heldByAnother, unknown };  // unknown: some file systems have no locks
+enum class Lock { got, heldByAnother, unknown };  // unknown: the file system does not support locks
 
 Lock lock(const Descriptor& file) {
   if (::flock(file.get(), LOCK_EX | LOCK_NB) == 0) return Lock::got;
   return errno == EWOULDBLOCK ? Lock::heldByAnother : Lock::unknown;
 }
 
-// A new, empty file that goes away again unless it takes another's place. It has no name when it cannot be made.
+// A temporary file, created empty. The destructor removes it unless it was renamed. False when it cannot be created.
 class NewFile {
  public:
   NewFile(int folder, mode_t mode) : m_folder(folder), m_file(-1) {
@@ -131,7 +130,7 @@ class NewFile {
       if (!file) return;
       m_name = std::move(name);
       m_file = std::move(file);
-      // Before it was locked somebody may have taken it for one left behind.
+      // Another writer may have removed it, as left behind, before it was locked.
       struct stat status = {};
       if (lock(m_file) != Lock::heldByAnother && ::fstat(m_file.get(), &status) == 0 && status.st_nlink > 0) return;
       remove();
@@ -143,10 +142,11 @@ class NewFile {
 
   explicit operator bool() const { return !m_name.empty(); }
 
-  // Nobody else may read it before it has the old one's mode. Sees to it that the text is on the disk.
+  // Sets owner and mode first, so that the text is never readable for more users than before; then writes and syncs.
   bool fill(const Before& before, std::string_view text) {
     if (before.exists) {
-      // Owner and group are kept where we may, if only the group; the mode comes after, for a new owner cuts it.
+      // Keep owner and group if permitted, else at least the group. The mode is set after them, because a change of
+      // owner clears the set-user-ID and set-group-ID bits; these are dropped if not even the group is kept.
       const bool owned = ::fchown(m_file.get(), before.status.st_uid, before.status.st_gid) == 0 ||
                          ::fchown(m_file.get(), static_cast<uid_t>(-1), before.status.st_gid) == 0;
       const mode_t kept = owned ? 07777 : 0777;
@@ -156,7 +156,7 @@ class NewFile {
   }
 
   bool replace(const std::string& name) {
-    // Closing may report an error as well; the lock lasts as long as the second descriptor.
+    // close() can report a write error. The duplicate descriptor keeps the lock until the file is renamed.
     const Descriptor locked(::fcntl(m_file.get(), F_DUPFD_CLOEXEC, 0));
     if (!m_file.close() || ::renameat(m_folder, m_name.c_str(), m_folder, name.c_str()) != 0) return false;
     m_name.clear();
@@ -174,8 +174,8 @@ class NewFile {
   std::string m_name;
 };
 
-// Clears a new file away whose writer has died. Where locks cannot tell, be it that there are none or that the file may
-// not be opened, its age does: writing takes moments.
+// Removes a temporary file whose writer has terminated. If the lock cannot be checked, because the file system has no
+// locks or the file cannot be opened, the file is removed when it is older than an hour.
 void clear_if_left_behind(int folder, const char* name) {
   constexpr time_t kHour = 3600;
   struct stat status = {};
