@@ -62,7 +62,7 @@ void read(const GivenText& given, CableText& out) {
 
 using Value = std::optional<std::string>;
 
-// A value as a message shows it.
+// The option with its value, for messages.
 std::string shown(const char* option, const Value& value) { return std::string(option) + "=" + value.value_or(""); }
 
 Engine::CableType given_type(const Value& type) {
@@ -73,7 +73,7 @@ void take_word(const char* option, const Value& value, std::string& field) {
   if (value) field = one_word(shown(option, value), *value);
 }
 
-// What is not given is the type's default.
+// Settings that are not given get the defaults of the type.
 CableOption given_cable(const CableArguments& given) {
   CableOption cable;
   cable.CableOptionInit(given_type(given.type));
@@ -92,7 +92,7 @@ CableOption given_cable(const CableArguments& given) {
   return cable;
 }
 
-// A cable is written with its own kind of settings; others would be lost without a word.
+// Throws Failure for an option that the writer ignores for this type of cable.
 void require_written(const CableArguments& given, const CableOption& cable) {
   const bool plugin = cable.type == Engine::ZARVEK_PLUGIN;
   const bool has_port = !plugin && cable.type != Engine::CABLE_NONE && cable.type != Engine::DIGILENT_PLUGIN;
@@ -128,7 +128,7 @@ std::string written(const CableOption& cable, std::vector<JtagOption>& devices, 
                                 "zarvek_platformusb, zarvek_plugin or digilent_plugin");
   }
   if (text.empty()) throw Failure(kUsage, "nothing is to be written; give --type, --device or --debug-device");
-  return text.substr(1);  // the blank that joins it to a command
+  return text.substr(1);  // without the leading blank
 }
 
 }  // namespace

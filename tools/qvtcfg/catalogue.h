@@ -8,10 +8,10 @@
 
 namespace qvtcfg {
 
-// The frequencies in Hz that the catalogue offers for a cable; empty where it offers none.
+// The supported frequencies of a cable type in Hz; empty if there are none.
 std::vector<unsigned int> offered_frequencies(SdkDebugDialog::Engine::CableType type);
 
-// Throws Failure about the argument unless the frequency is one of them.
+// Throws Failure, naming the argument, unless the frequency is supported.
 void require_offered(const std::string& argument, SdkDebugDialog::Engine::CableType type, unsigned int frequency);
 
 std::string listed(const std::vector<unsigned int>& frequencies, std::string_view separator);

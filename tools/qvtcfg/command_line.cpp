@@ -12,7 +12,7 @@
 namespace qvtcfg {
 namespace {
 
-// The parts of a command line that commands share.
+// Arguments and options that several subcommands use.
 CLI::Option& take_processor(CLI::App& app, Arguments& a) {
   return *app.add_option("PROC", a.processor, "Name of a processor of the design")->required()->type_name("");
 }
@@ -27,7 +27,7 @@ void take_text(CLI::App& app, Arguments& a, const char* what) {
   app.add_option("TEXT", a.text, what)->required()->type_name("");
 }
 
-// --- The commands ---
+// --- Arguments and options of each subcommand ---
 
 void take_nothing(CLI::App& /*app*/, Arguments& /*a*/) {}
 
@@ -48,7 +48,7 @@ void take_command(CLI::App& app, Arguments& a) {
   take_write(app, a);
 }
 
-// A single argument is the text, unless it could be a name.
+// PROC is optional: an argument that cannot be a name is taken as TEXT.
 void take_read(CLI::App& app, Arguments& a) {
   const auto name = [](const std::string& text) {
     const bool possible = !text.empty() && text != "-" && text.find_first_of(kWhiteSpace) == std::string::npos;
@@ -95,17 +95,17 @@ std::string program_help() {
          "installed in share/SdkDebugDialog.";
 }
 
-// --- The table of them ---
+// --- The table of subcommands ---
 
 struct Command {
   const char* name;
   const char* purpose;
   const char* example;
   void (*take)(CLI::App&, Arguments&);
-  Run run = nullptr;                // none where one of its commands has to be chosen
-  std::string (*help)() = nullptr;  // what else the help has to say
+  Run run = nullptr;                // null if a subcommand is required
+  std::string (*help)() = nullptr;  // additional help text
   const Command* commands = nullptr;
-  std::size_t count = 0;  // of them
+  std::size_t count = 0;  // number of subcommands
 };
 
 constexpr Command kCableCommands[] = {
@@ -150,7 +150,7 @@ std::vector<std::string> names_of_commands(const Command& command) {
   return names;
 }
 
-// --- Their help ---
+// --- Help ---
 
 std::string help_of(const Command& command) {
   std::string text = std::string("Example:\n  ") + command.example;
@@ -181,14 +181,15 @@ void declare(CLI::App& app, const Command& command, Arguments& arguments) {
 void declare_program(CLI::App& app, Arguments& arguments) {
   name_parts_of_help(*app.get_formatter());
   app.set_help_flag("-h,--help", "Print this help");
-  // What is left over is explained here; options of the program may stand after the command as well.
+  // Unknown arguments are reported by why_left_over(). Options of the program are also accepted after the subcommand.
   app.allow_extras();
   app.fallthrough();
   declare(app, kProgram, arguments);
 }
 
-// An argument that begins with a dash and holds blanks is a text of options, not an option. A blank in front, which
-// keeps them apart, means nothing in such a text; it is taken away all the same, so that columns can be told.
+// An argument that begins with a dash and contains white space is an option text, such as "-cable type x", not an
+// option of this program. A blank in front hides it from the parser. It is removed after parsing, so that the column
+// numbers in messages are right.
 bool is_option_text(std::string_view argument) {
   const std::size_t start = argument.find_first_not_of(' ');
   return start < argument.size() && argument[start] == '-' &&
@@ -207,11 +208,11 @@ void unprotect(std::string& text) {
   if (text.starts_with(' ') && is_option_text(text)) text.erase(0, 1);
 }
 
-// The command that was given, with what was parsed for it.
+// The subcommand that was given.
 struct Chosen {
   const Command* command = &kProgram;
   const CLI::App* app = nullptr;
-  std::string name;  // after the program's
+  std::string name;  // without the program's name; with a blank at the end
 };
 
 Chosen chosen_command(const CLI::App& program) {
@@ -229,7 +230,7 @@ Failure usage(const CLI::App& program, const std::string& text) {
   return {kUsage, text + "; see 'qvtcfg " + chosen_command(program).name + "--help'"};
 }
 
-// What is wrong with the first argument that nothing wanted.
+// The error for the first argument that was not parsed.
 std::string why_left_over(const std::string& argument, const Command& command) {
   const std::string quoted = " '" + one_line(argument) + "'";
   if (argument.starts_with('-')) return "unknown option" + quoted;
@@ -240,7 +241,7 @@ std::string why_left_over(const std::string& argument, const Command& command) {
 Run chosen_run(const CLI::App& program) {
   const Command& command = *chosen_command(program).command;
   std::vector<std::string> left_over = program.remaining(true);
-  std::erase(left_over, "--");  // it has done its work
+  std::erase(left_over, "--");  // the end-of-options separator
   if (!left_over.empty()) throw usage(program, why_left_over(left_over.front(), command));
   if (command.run == nullptr) throw usage(program, "which command? One of " + join(names_of_commands(command)));
   return command.run;
@@ -257,7 +258,7 @@ Run parse_command_line(int argc, const char* const* argv, Arguments& arguments, 
   CLI::App app(kProgram.purpose, kProgram.name);
   declare_program(app, arguments);
   std::vector<std::string> given = protected_arguments(argc, argv);
-  std::ranges::reverse(given);  // as the parser wants them
+  std::ranges::reverse(given);  // the parser expects them in reverse order
   try {
     app.parse(std::move(given));
   } catch (const CLI::CallForHelp&) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the user asks for.
+// The command line.
 
 #include <optional>
 #include <string>
@@ -10,7 +10,7 @@ namespace qvtcfg {
 
 class Output;
 
-// What cable format writes, as given.
+// Options of "cable format", as given.
 struct CableArguments {
   std::optional<std::string> type, frequency, port, esn, module, debug_device;
   std::vector<std::string> module_arguments;
@@ -18,22 +18,22 @@ struct CableArguments {
 };
 
 struct Arguments {
-  std::string directory;              // where to work; empty: here
-  std::optional<std::string> design;  // a file; none: the default's, which need not be there for every command
+  std::string directory;              // working directory; empty: the current one
+  std::optional<std::string> design;  // path of the design file; not set: the default path
   bool json = false;
   std::optional<std::string> processor;
-  std::string text;                  // of read and cable parse
-  std::vector<std::string> changes;  // of set
+  std::string text;                  // for read and cable parse
+  std::vector<std::string> changes;  // for set
   CableArguments cable;
   bool changed_only = false;
   bool write = false;
   bool dry_run = false;
 
-  // A path of the working directory as the user's shell would see it.
+  // A path relative to the working directory (-C), as seen from the directory where qvtcfg was started.
   std::string seen_from_outside(const std::string& path) const;
 };
 
-// The commands, a room each.
+// The subcommands.
 void run_processors(const Arguments& arguments, Output& out);
 void run_show(const Arguments& arguments, Output& out);
 void run_command(const Arguments& arguments, Output& out);
@@ -45,11 +45,11 @@ void run_cable_format(const Arguments& arguments, Output& out);
 
 using Run = void (*)(const Arguments&, Output&);
 
-// Fills the arguments and answers what to run. Help and version are answered on out; the result is then null. Throws
-// Failure for a wrong command line.
+// Fills the arguments and returns the function to run. Returns null after printing help or version to out. Throws
+// Failure for an invalid command line.
 Run parse_command_line(int argc, const char* const* argv, Arguments& arguments, Output& out);
 
-// Writes one line to standard error.
+// Writes the text as one line, after "qvtcfg: ", to standard error.
 void complain(const std::string& text);
 
 }  // namespace qvtcfg

@@ -1,6 +1,6 @@
 #pragma once
 
-// How a run ends when it cannot do what was asked.
+// Exit codes and errors.
 
 #include <stdexcept>
 #include <string>
@@ -10,12 +10,12 @@ namespace qvtcfg {
 enum ExitCode : int {
   kDone = 0,
   kRefused = 1,        // the engine or the design does not allow it
-  kUsage = 2,          // the command line is wrong
-  kNotUnderstood = 3,  // a connect command cannot be read
-  kFile = 4,           // a file, a folder or standard output
+  kUsage = 2,          // the command line is invalid
+  kNotUnderstood = 3,  // a connect command or option text is not understood
+  kFile = 4,           // error on a file, a folder or standard output
 };
 
-// what() says what is concerned, what is wrong and what to do; it is printed as one line after "qvtcfg: ".
+// what() names the subject, the error and what to do. It is printed as one line after "qvtcfg: ".
 class Failure : public std::runtime_error {
  public:
   Failure(ExitCode code, const std::string& text) : std::runtime_error(text), m_code(code) {}

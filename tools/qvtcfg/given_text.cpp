@@ -19,7 +19,7 @@ std::string standard_input() {
     if (text.size() > kLimit) throw Failure(kNotUnderstood, "standard input: too long for a connect command");
   }
   if (std::ferror(stdin) != 0) throw Failure(kFile, std::string("standard input: ") + std::strerror(errno));
-  text.erase(text.find_last_not_of('\n') + 1);  // the end of the line is no part of it
+  text.erase(text.find_last_not_of('\n') + 1);  // the newline is not part of the command
   return text;
 }
 

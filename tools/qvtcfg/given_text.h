@@ -1,6 +1,6 @@
 #pragma once
 
-// Text of options that the user gave: as an argument, on standard input or in a file.
+// Option text from an argument, from standard input or from a file.
 
 #include <string>
 
@@ -8,16 +8,16 @@ namespace qvtcfg {
 
 struct GivenText {
   std::string text;
-  std::string source;  // names where it comes from in messages
+  std::string source;  // where it comes from, for messages
 };
 
-// The argument itself, of which messages speak as name, or standard input for a dash.
+// The argument with name as its source; for "-", the text from standard input.
 GivenText given_text(const std::string& argument, const std::string& name);
 
-// Throws Failure when there are bytes that are no text.
+// Throws Failure when the text has control bytes or invalid UTF-8; advice is appended to the message.
 void require_text(const GivenText& given, const std::string& advice = "");
 
-// How the library's exception for such a text is told.
+// The message for the library's std::out_of_range.
 inline constexpr const char* kLoneDash = "a lone '-' stands where an option or a value belongs";
 
 }  // namespace qvtcfg

@@ -27,7 +27,7 @@ struct Key {
   void (*apply)(Engine&, const Change&);
 };
 
-// Calls a setter; a refusal is explained by the engine's text.
+// Calls a setter; if it fails, throws Failure with the engine's error text.
 template <auto Set, typename... Values>
 void set(Engine& engine, const Change& change, Values... values) {
   engine.SetErrorStr("");
@@ -37,7 +37,7 @@ void set(Engine& engine, const Change& change, Values... values) {
   throw refused(change.argument, text.empty() ? "refused" : one_line(text));
 }
 
-// What a getter answers for a setting without a value, and for one that the processor or its connection does not have.
+// Result codes of the engine's getters.
 enum Answer { kNotSet = 1, kNotApplicable = 2 };
 
 void require_applicable(int answer, const Change& change) {
@@ -66,8 +66,8 @@ void apply_connection(Engine& engine, const Change& change) {
   throw refused(change.argument, "the processor does not admit this connection; it admits " + join(admitted));
 }
 
-// The engine looks for the marks of a stub's devices in the selected connection, where the writer wants the stub
-// alone: they are there for the moment.
+// The engine checks the flags STUB_JTAG_PRESENT and STUB_UART_PRESENT in the selected connection, but the writer
+// accepts only STUB. So the flags are selected only while the stub type is set.
 void apply_stub(Engine& engine, const Change& change) {
   const auto stub = static_cast<Engine::StubType>(word(change.argument, change.value, kStubs));
   Engine::ConnectionType selected = Engine::HARDWARE;
@@ -99,7 +99,7 @@ void apply_debug_device(Engine& engine, const Change& change) {
   set<&Engine::SetDebugDevice>(engine, change, static_cast<int>(number(change.argument, change.value, kMaxByte)));
 }
 
-// The chain's devices belong to whoever replaces them.
+// The caller that replaces the chain deletes the old devices.
 void apply_devices(Engine& engine, const Change& change) {
   std::vector<JtagOption*> before;
   require_applicable(engine.GetJtagChainOptions(before), change);
@@ -175,7 +175,8 @@ void apply_esn(Engine& engine, const Change& change) {
   set<&Engine::SetCableESN>(engine, change, change.value.empty() ? "" : one_word(change.argument, change.value));
 }
 
-// The engine takes a module as text and adds arguments to those before.
+// The engine accepts a module only as option text, and appends the arguments to the existing ones. So the cable is
+// reset first.
 void apply_module(Engine& engine, const Change& change) {
   Engine::CableType type = Engine::CABLE_NONE;
   require_applicable(engine.GetCableType(type), change);
@@ -190,7 +191,7 @@ void apply_module(Engine& engine, const Change& change) {
   set<&Engine::SetPluginCableOptions>(engine, change, text);
 }
 
-// In the order in which they are applied.
+// In the order in which the changes are applied.
 constexpr Key kKeys[] = {
     {"connection", "WORD", "simulator, hardware, stub or virtual-platform", apply_connection},
     {"stub", "WORD", "how the stub is reached: jtag or serial", apply_stub},

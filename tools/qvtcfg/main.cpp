@@ -20,7 +20,7 @@ void complain(const std::string& text) {
 
 namespace {
 
-// The engine's messages arrive as Failure already.
+// Discards the engine's messages: their texts are reported as Failure.
 void ignore_message(int /*type*/, const char* /*id*/, unsigned int /*mask*/, const char* /*text*/) {}
 
 void enter(const std::string& directory) {
@@ -50,7 +50,7 @@ int main(int argc, char** argv) {
     qvtcfg::complain(failure.what());
     return failure.code();
   } catch (const std::exception& error) {
-    // What the system refuses elsewhere: memory, or the working directory.
+    // Other system errors, such as no memory or no working directory.
     qvtcfg::complain(error.what());
     return qvtcfg::kFile;
   }

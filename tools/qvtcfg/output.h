@@ -1,6 +1,6 @@
 #pragma once
 
-// What goes to standard output: collected, then written whole and checked.
+// Buffered standard output.
 
 #include <nlohmann/json.hpp>
 #include <string>
@@ -15,7 +15,7 @@ enum class Style { kHeading, kSet, kDefault, kRemoved, kAdded };
 
 class Output {
  public:
-  // Colours are used on a terminal only, and not where NO_COLOR or TERM=dumb ask for none.
+  // Uses colours only on a terminal, and not with NO_COLOR or TERM=dumb.
   Output();
 
   void line(std::string_view text);
@@ -24,10 +24,10 @@ class Output {
   // Columns as wide as their widest cell; the first row is the heading.
   void table(const std::vector<std::vector<std::string>>& rows);
 
-  // The text in the style's colour, if colours are used.
+  // The text with the escape sequences of the style, if colours are used.
   std::string styled(Style style, const std::string& text) const;
 
-  // Writes what was collected; throws Failure when it could not be written.
+  // Writes the buffer; throws Failure on an error.
   void flush();
 
  private:
@@ -35,7 +35,7 @@ class Output {
   std::string m_text;
 };
 
-// The text, and blanks up to the width.
+// The text padded with blanks to the width.
 std::string padded(std::string text, std::size_t width);
 
 }  // namespace qvtcfg

@@ -15,8 +15,7 @@ namespace {
 using SdkDebugDialog::EngineImp;
 using SdkDebugDialog::ProcessorInfoImp;
 
-// The records of the processors that can be debugged, by name, with their FPU and without the settings of their option
-// files.
+// The records of the debuggable processors, by name, with the FPU filled in. Their option files are not read.
 std::unordered_map<std::string_view, const ProcessorInfoImp*> described(EngineImp& state) {
   std::unordered_map<std::string_view, const ProcessorInfoImp*> records;
   for (ProcessorInfoImp* const record : state.processorList) {

@@ -33,7 +33,7 @@ std::string error_text(Engine& engine) {
   return one_line(text);
 }
 
-// The engine leaves its records to whoever holds them.
+// The engine does not delete its records.
 void release_chain(EngineImp& state) {
   for (const auto* device : state.jtagChain) delete device;
   state.jtagChain.clear();
@@ -46,7 +46,7 @@ void release_records(EngineImp& state) {
   state.currentProcessor = nullptr;
 }
 
-// Runs one of the engine's readers and explains what goes wrong.
+// Runs one of the engine's readers and converts its errors to Failure.
 template <typename Read>
 void understand(Engine& engine, const std::string& source, const std::string& advice, Read read) {
   int status = SdkDebugDialog::kOk;
@@ -81,7 +81,7 @@ void Session::name_processor(const std::string& name) {
 
 const OptionFile& Session::read_option_file(Purpose purpose) {
   const std::string advice = "; correct the file, or replace it with 'qvtcfg read " + m_processor + " TEXT --write'";
-  // Only the names of listed processors are part of a file's name.
+  // The path is built from the name, so only names of listed processors are used.
   if (m_engine.GetProcessorNr(m_processor) >= 0) inspect_option_file(purpose, advice);
   ProcessorInfo info;
   understand(m_engine, m_shown_path, advice, [&] { return m_engine.SetProcessor(m_processor, info); });
@@ -134,7 +134,7 @@ void Session::write_option_file() {
   warn_unless_readable(text);
 }
 
-// Some commands that the library writes for the debugger it does not read itself.
+// The library can write commands that it cannot read itself; the debugger can.
 void Session::warn_unless_readable(const std::string& command) {
   const std::string consequence = "; the debugger is served, but qvtcfg will not read this file back";
   if (command.size() > kLongestCommand) {

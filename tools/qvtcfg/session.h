@@ -1,6 +1,6 @@
 #pragma once
 
-// One engine over one design, for one run.
+// One engine with one design, for one run of the program.
 
 #include <memory>
 #include <optional>
@@ -16,13 +16,13 @@
 
 namespace qvtcfg {
 
-// What an option file is read for.
+// Why an option file is read.
 enum class Purpose { kShow, kChange };
 
-// Whether there must be a design: one that is named, or there by default, is used either way.
+// Whether a design is required. With kDesignIfAny, the default design file may be missing.
 enum class Need { kDesign, kDesignIfAny };
 
-// Failures of the engine leave as Failure, with the engine's text and what to do.
+// Errors of the engine are thrown as Failure, with the engine's error text and what to do.
 class Session {
  public:
   // Reads the design and finds its processors.
@@ -31,24 +31,25 @@ class Session {
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
-  // Selects the processor of the arguments with the settings of its option file, or of its defaults when there is
-  // no file. A file of which the library reads a part may be shown, not changed.
+  // Selects the processor of the arguments with the settings in its option file, or with the defaults if there is no
+  // file. If the library reads only a part of the file, kShow prints a warning and kChange throws Failure.
   const OptionFile& read_option_file(Purpose purpose);
 
-  // Selects it with the settings of a command.
+  // Selects the processor with the settings in a command.
   void read_command(const GivenText& command);
 
-  // Has the command tell the processor, and selects what it describes. The processor is one of the design, for
-  // everything that follows, or has no name.
+  // Finds the processor from the command and selects it. If the design has no such processor, processor() is empty
+  // afterwards.
   void identify(const GivenText& command);
 
   // The connect command for the settings.
   std::string command();
 
-  // Stores it in the option file.
+  // Writes the connect command to the option file.
   void write_option_file();
 
-  // The processor, and its option file's path for messages and answers; without a name there is no such file.
+  // The name of the processor and the path of its option file for messages and output. The path is valid only if the
+  // name is not empty.
   const std::string& processor() const { return m_processor; }
   const std::string& option_file_name() const { return m_shown_path; }
 
@@ -73,7 +74,7 @@ class Session {
   std::string m_shown_path;
   OptionFile m_file;
   SdkDebugDialog::Engine m_engine;
-  std::unique_ptr<SdkDebugDialog::ProcessorInfoImp> m_identified;  // by a command
+  std::unique_ptr<SdkDebugDialog::ProcessorInfoImp> m_identified;  // created from a command
 };
 
 }  // namespace qvtcfg

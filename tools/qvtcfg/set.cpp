@@ -12,7 +12,7 @@
 namespace qvtcfg {
 namespace {
 
-// The words with every changed run in brackets, behind a sign.
+// A line of the difference: the sign, then the words, with every run of changed words in brackets.
 std::string marked(const char* sign, const std::vector<MarkedWord>& words, Style style, const Output& out) {
   std::vector<std::string> runs = {sign};
   for (auto word = words.begin(); word != words.end();) {
@@ -64,7 +64,7 @@ void run_set(const Arguments& arguments, Output& out) {
   } else {
     print_difference(before, after, out);
   }
-  out.flush();  // nothing is stored that could not be shown
+  out.flush();  // first, so that an output error leaves the option file unchanged
   if (arguments.dry_run) return;
   session.write_option_file();
   if (!arguments.json) out.line(visible("written to " + session.option_file_name()));

@@ -16,13 +16,13 @@ using P = SdkDebugDialog::ProcessorInfoImp;
 
 enum class Mark {
   kNone,
-  kHex,          // a number that people read in hexadecimal
-  kInCableText,  // a text of cable and chain alone says it as well
+  kHex,          // printed in hexadecimal
+  kInCableText,  // also shown by `cable parse`
 };
 using enum Mark;
 
 struct Setting {
-  const char* group;  // settings of one group stand together
+  const char* group;  // the settings of a group are consecutive
   const char* name;
   Json (*value)(const Settings&);
   Mark mark = kNone;
@@ -33,7 +33,7 @@ Json processor(const Settings& s) {
   return s.processor.*Member;
 }
 
-// A port has the sign with which it is written.
+// A port is shown as a signed number, as in the command.
 template <auto Member>
 Json port(const Settings& s) {
   return static_cast<std::int32_t>(s.processor.*Member);
@@ -62,14 +62,14 @@ Json cable(const Settings& s) {
 
 Json cable_type(const Settings& s) { return name_of(kCables, s.cable.type); }
 
-// A command alone may name no processor.
+// A record that was created from a command may have no name.
 Json processor_name(const Settings& s) { return s.processor.name.empty() ? Json() : Json(s.processor.name); }
 
 Json cpu_number(const Settings& s) { return static_cast<std::int8_t>(s.processor.cpuNr); }
 
 Json allowed_connections(const Settings& s) { return names_in_set(kConnections, s.processor.allowedConnections); }
 
-// A value without a single word, as a stub's with its marks, is spelled bit by bit.
+// All bits, joined by "+": a stub connection can have several.
 Json connection(const Settings& s) {
   const std::vector<std::string> words = names_in_set(kConnections, s.processor.connectionType);
   return words.empty() ? Json() : Json(join(words, "+"));
@@ -162,7 +162,7 @@ std::string hex_text(std::uint32_t value) {
 
 std::string text_of(const Json& value, bool hex);
 
-// "device 1, part X, ..."
+// Such as "device 1, part X, ...".
 std::string members_text(const Json& object) {
   std::vector<std::string> members;
   for (const auto& [name, value] : object.items()) {
@@ -211,7 +211,7 @@ void print_setting(const Setting& setting, const Json& value, bool marked, Outpu
   for (const Json& item : value) out.line("    " + text_of(item, false));
 }
 
-// Calls visit(setting, value, differs from the default) for every setting chosen.
+// Calls visit(setting, value, differs) for every chosen setting; differs: the value is not the default.
 template <typename Visit>
 void for_each_setting(const Settings& settings, const Choice& choice, Visit visit) {
   const P default_processor;

@@ -1,6 +1,6 @@
 #pragma once
 
-// Every setting of a processor, described once and shown as text or as JSON.
+// All settings of a processor, printed as text or as JSON from one table.
 
 #include <vector>
 
@@ -12,7 +12,7 @@
 
 namespace qvtcfg {
 
-// What the settings are taken from.
+// The records that hold the settings.
 struct Settings {
   const SdkDebugDialog::ProcessorInfoImp& processor;
   const SdkDebugDialog::CableOption& cable;
@@ -20,17 +20,17 @@ struct Settings {
   const std::vector<SdkDebugDialog::JtagOption*>& chain;
 };
 
-// Those of the processor that is selected.
+// The settings of the selected processor.
 Settings settings_of(const SdkDebugDialog::EngineImp& state);
 
-// Which of them to show.
+// Which settings to show.
 struct Choice {
-  bool changed_only = false;     // what differs from its default; the identity, which has none, stays
-  bool cable_text_only = false;  // what a text of cable and chain alone can say
+  bool changed_only = false;     // only values that differ from the default; the identity is always shown
+  bool cable_text_only = false;  // only settings of cable and chain
 };
 
-// Groups of settings: {group: {setting: {"value": ..., "default": true or false}}}. Members of the identity are plain
-// values, as they come from the design and have no default. A value that is not set is null.
+// {group: {setting: {"value": ..., "default": true or false}}}, where "default" tells whether the value is the default.
+// Members of the identity are plain values, because they have no default. A value that is not set is null.
 Json settings_json(const Settings& settings, const Choice& choice);
 
 // The same as lines under group headings; a star marks what differs from its default.

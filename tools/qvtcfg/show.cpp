@@ -11,7 +11,7 @@
 namespace qvtcfg {
 namespace {
 
-// Where settings were taken from, for people; and the option file that has them, for programs.
+// Where the settings come from: a description for text output, and the path of the option file, or null, for JSON.
 struct Source {
   std::string name;
   Json file;
@@ -36,11 +36,12 @@ void show_settings(const Arguments& arguments, const Session& session, const Sou
 }
 
 void write_if_asked(const Arguments& arguments, Session& session, Output& out) {
-  out.flush();  // nothing is stored that could not be shown
+  out.flush();  // first, so that an output error leaves the option file unchanged
   if (arguments.write) session.write_option_file();
 }
 
-// A command may be read for a processor that has no use for it; it is stored for one that has.
+// Reads a command without a processor name. Before it is written, it is read again for the processor that was found:
+// this checks that the processor allows its connection.
 void read_alone(const Arguments& arguments, Session& session, const GivenText& command) {
   session.identify(command);
   if (!arguments.write) return;

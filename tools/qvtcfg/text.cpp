@@ -13,8 +13,8 @@ unsigned char byte_at(std::string_view text, std::size_t at) {
 
 bool is_continuation(unsigned char byte) { return (byte & 0xC0U) == 0x80; }
 
-// What may follow a lead byte of UTF-8: how many bytes, and the range of the first of them, which leaves out the
-// second control block, overlong forms and surrogates.
+// UTF-8 lead bytes from first to last: the length of the sequence and the range of its second byte. C1 control
+// characters, overlong forms and surrogates are excluded.
 struct Lead {
   unsigned char first, last, length, low, high;
 };
@@ -24,7 +24,7 @@ constexpr Lead kLeads[] = {
     {0xF0, 0xF0, 4, 0x90, 0xBF}, {0xF1, 0xF3, 4, 0x80, 0xBF}, {0xF4, 0xF4, 4, 0x80, 0x8F},
 };
 
-// The length in bytes of the printable character that the text begins with; 0 when there is none.
+// The length in bytes of the printable character at the start of the text; 0 when there is none.
 std::size_t character_length(std::string_view text) {
   const unsigned char lead = byte_at(text, 0);
   if (lead < 0x80) return lead >= 0x20 && lead != 0x7F ? 1 : 0;
@@ -39,7 +39,7 @@ std::size_t character_length(std::string_view text) {
   return row->length;
 }
 
-// Levenshtein's distance.
+// Levenshtein distance.
 std::size_t distance(std::string_view a, std::string_view b) {
   std::vector<std::size_t> row(b.size() + 1);
   std::iota(row.begin(), row.end(), std::size_t{0});
@@ -78,7 +78,7 @@ std::string one_line(std::string_view text, std::size_t limit) {
   std::string out;
   for (std::size_t at = text.find_first_not_of(kWhiteSpace); at < text.size() && out.size() <= limit;) {
     const std::size_t end = std::min(text.find_first_of(kWhiteSpace, at), text.size());
-    // A longer piece than the limit is cut anyway; the margin keeps the cut off a character's middle.
+    // Only as much as the limit needs; the margin keeps a multi-byte character at the limit whole.
     if (!out.empty()) out += ' ';
     out += visible(text.substr(at, std::min(end - at, limit + 8)));
     at = text.find_first_not_of(kWhiteSpace, end);
@@ -129,7 +129,7 @@ std::string join(const std::vector<std::string>& items, std::string_view separat
 }
 
 std::string suggestion(std::string_view name, const std::vector<std::string>& candidates) {
-  constexpr std::size_t kResembles = 2;  // changed letters
+  constexpr std::size_t kResembles = 2;  // largest distance
   constexpr std::size_t kLongestName = 64;
   if (name.size() > kLongestName) return "";
   std::size_t best = kResembles + 1;

@@ -1,6 +1,6 @@
 #pragma once
 
-// Text on its way to a terminal, and small helpers on words.
+// Text for a terminal, and helpers for splitting and joining.
 
 #include <cstddef>
 #include <optional>
@@ -12,24 +12,25 @@ namespace qvtcfg {
 
 inline constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
 
-// The text with every byte that is no text (control bytes, broken UTF-8) spelled as \xNN.
+// The text with control bytes and invalid UTF-8 escaped as \xNN.
 std::string visible(std::string_view text);
 
-// The text on one line for a message: white space joined to single blanks, made visible, and cut to the limit.
+// The text on one line for a message: runs of white space replaced by one blank, escaped by visible(), and truncated to
+// the limit in bytes.
 std::string one_line(std::string_view text, std::size_t limit = 300);
 
-// Where the first byte stands that is no text; white space of every kind is text.
+// The position of the first control byte or invalid UTF-8 byte; white space of every kind is allowed.
 std::optional<std::size_t> first_non_text(std::string_view text);
 
-// The words between blanks and tabs.
+// Splits at runs of blanks and tabs.
 std::vector<std::string> split_words(std::string_view text);
 
-// What stands between the separators; at least one item, and empty ones too.
+// Splits at every separator; the result has at least one item, and items can be empty.
 std::vector<std::string> split_at(std::string_view text, char separator);
 
 std::string join(const std::vector<std::string>& items, std::string_view separator = ", ");
 
-// " (did you mean 'x'?)" with the candidate that resembles the name; empty when none does.
+// " (did you mean 'x'?)" with the candidate most similar to the name; empty when none is similar.
 std::string suggestion(std::string_view name, const std::vector<std::string>& candidates);
 
 }  // namespace qvtcfg

@@ -19,7 +19,7 @@ std::uint32_t number(const std::string& argument, std::string_view text, std::ui
   const std::string_view digits = hex ? text.substr(2) : text;
   std::uint32_t value = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, hex ? 16 : 10);
-  // The command's syntax takes a leading 0 for octal, people rarely do.
+  // A leading 0 is refused: the connect command reads it as octal, but users mostly mean decimal.
   const bool ambiguous = !hex && digits.size() > 1 && digits.front() == '0';
   if (error == std::errc() && end == digits.data() + digits.size() && !ambiguous && value <= max) return value;
   throw wrong_value(argument, "a number from 0 to " + std::to_string(max) + ", decimal or with 0x");
@@ -31,7 +31,8 @@ unsigned int word(const std::string& argument, const std::string& text, std::spa
   return found->value;
 }
 
-// A value is one word, and a dash begins an option unless a digit follows.
+// The connect command separates words at white space, and takes a word that begins with a dash as an option unless a
+// digit follows.
 std::string one_word(const std::string& argument, const std::string& text) {
   const bool option = text.starts_with('-') && (text.size() == 1 || text[1] < '0' || text[1] > '9');
   const bool plain = text.find_first_of(kWhiteSpace) == std::string::npos && !first_non_text(text);

@@ -1,7 +1,7 @@
 #pragma once
 
-// Values of the command line. Each is checked or refused with a Failure that shows the argument as it was given and
-// tells what belongs there.
+// Conversion of values of the command line. An invalid value throws Failure with the argument as given and what was
+// expected.
 
 #include <cstdint>
 #include <limits>
@@ -26,13 +26,13 @@ std::uint32_t number(const std::string& argument, std::string_view text,
 // The value of one of the words.
 unsigned int word(const std::string& argument, const std::string& text, std::span<const Word> words);
 
-// A text that the command's syntax, which has no quoting, can hold.
+// The text, if it can be a value in the connect command, which has no quoting.
 std::string one_word(const std::string& argument, const std::string& text);
 
 // NR,PART,IRLENGTH,IDCODE
 SdkDebugDialog::JtagOption chain_device(const std::string& argument, const std::string& text);
 
-// A number that the library keeps as a signed byte: of a debug device, of a chain device, of bits.
+// Maximum of numbers that the library stores as a signed byte: debug device, chain device, instruction register length.
 inline constexpr std::uint32_t kMaxByte = 127;
 
 }  // namespace qvtcfg

@@ -15,7 +15,7 @@ std::vector<MarkedWord> all_changed(const std::string& text) {
   return words;
 }
 
-// Length of the longest common subsequence of what follows each pair of positions.
+// common[i][j]: the length of the longest common subsequence of a from i on and b from j on.
 Lengths common_lengths(const std::vector<MarkedWord>& a, const std::vector<MarkedWord>& b) {
   Lengths common(a.size() + 1, std::vector<std::size_t>(b.size() + 1));
   for (std::size_t i = a.size(); i-- > 0;) {

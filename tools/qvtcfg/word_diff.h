@@ -5,7 +5,7 @@
 
 namespace qvtcfg {
 
-// Words with the runs that the other text does not have.
+// A word of a text, and whether it belongs to the difference.
 struct MarkedWord {
   std::string word;
   bool changed = false;
@@ -16,7 +16,7 @@ struct WordDiff {
   std::vector<MarkedWord> after;
 };
 
-// The fewest changes that lead from one text to the other, word by word.
+// A minimal difference of two texts, word by word.
 WordDiff word_diff(const std::string& before, const std::string& after);
 
 }  // namespace qvtcfg

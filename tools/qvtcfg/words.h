@@ -1,6 +1,6 @@
 #pragma once
 
-// The words that stand for the numbers in the records: one list per field serves printing, reading and help.
+// Names for the numeric values of the records' fields, for output, input and help.
 
 #include <span>
 #include <string>
@@ -21,7 +21,7 @@ inline constexpr Word kFamilies[] = {{0, "ovrin"}, {1, "ppc"}, {2, "arm"}};
 inline constexpr Word kVariants[] = {{0, "soft"},      {1, "ppc405"}, {2, "ppc440"},
                                      {4, "cortex-a9"}, {5, "r5"},     {6, "other"}};
 
-// Bits; the connections that can be selected come first.
+// Bits. The first four are the connections that can be selected.
 inline constexpr Word kConnections[] = {
     {SdkDebugDialog::Engine::SIMULATOR, "simulator"},
     {SdkDebugDialog::Engine::HARDWARE, "hardware"},
@@ -41,7 +41,7 @@ inline constexpr Word kStubs[] = {
     {SdkDebugDialog::Engine::STUB_OVER_SERIAL, "serial"},
 };
 
-// The names that the connect command uses.
+// The names used in the connect command.
 inline constexpr Word kCables[] = {
     {SdkDebugDialog::Engine::CABLE_NONE, "none"},
     {SdkDebugDialog::Engine::ZARVEK_SVFFILE, "zarvek_svffile"},
@@ -59,15 +59,15 @@ inline constexpr Word kBscanPorts[] = {{2, "USER1"}, {3, "USER2"}, {34, "USER3"}
 
 inline constexpr Word kHardPpcs[] = {{0, "none"}, {1, "ppc405"}, {2, "other"}};
 
-// The word for a value; the number itself where there is none.
+// The name of a value; the number itself if it has none.
 std::string name_of(std::span<const Word> words, unsigned int value);
 
-// The row of a word; null when there is none.
+// The entry with a name; null when there is none.
 const Word* find_word(std::span<const Word> words, std::string_view name);
 
 std::vector<std::string> names_of(std::span<const Word> words);
 
-// The words for the bits of a set.
+// The names of the bits that are set.
 std::vector<std::string> names_in_set(std::span<const Word> words, unsigned int set);
 
 }  // namespace qvtcfg
