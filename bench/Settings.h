@@ -1,7 +1,6 @@
 #pragma once
 
-// The settings of a connect command as a plain program would keep them. What every reader's result is converted to
-// and compared with.
+// The settings of a connect command in a plain struct. The result of every reader is compared in this form.
 
 #include <cstdint>
 #include <string>
@@ -11,7 +10,7 @@ namespace bench {
 
 inline constexpr std::uint32_t kNotSet = 0xFFFFFFFFU;
 
-// Numbers are those of the library's enumerations.
+// The values are those of the library's enumerations.
 enum class Connection : std::uint32_t { simulator = 1, hardware = 2, stub = 4 };
 enum class CableType : std::uint32_t { none, svf, parallel4, platformusb, parallel3, plugin, digilent, tcf };
 enum class Family : std::uint32_t { soft, powerpc, arm };

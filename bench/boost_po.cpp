@@ -1,5 +1,5 @@
-// Boost.Program_options. The parsed options stand in the order of the text, each with its words, so that nothing needs
-// to be stored in a map of variables.
+// Reader with Boost.Program_options. It uses the list of parsed options, in the order of the text, and no
+// variables_map.
 
 #include <boost/program_options.hpp>
 #include <string>

@@ -1,5 +1,5 @@
-// CLI11. It wants two dashes before a name; an option that comes several times keeps its words apart in a vector of
-// vectors.
+// Reader with CLI11. It needs two dashes before an option name. A vector of vectors keeps the words of a repeated
+// option apart.
 
 #include <CLI/CLI.hpp>
 #include <string>
@@ -45,7 +45,7 @@ struct Grammar {
   }
 };
 
-// In reverse, as CLI11 takes them.
+// Splits the text; in reverse order, as CLI11 expects.
 Words part(const std::string& text) {
   Words words;
   for (std::size_t end = text.find_last_not_of(" \t"); end != std::string::npos;) {

@@ -1,4 +1,4 @@
-// Does one piece of work the given number of times, for a tool that counts instructions.
+// Repeats one operation a given number of times, for a tool that counts instructions.
 //   bench_count read|read-retyped|write TIMES
 
 #include <cstdio>

@@ -1,4 +1,4 @@
-// cxxopts. An option has one value, so the words up to the next option are handed to it as one: "--cable=type x".
+// Reader with cxxopts. An option has one value, so all words up to the next option are passed as one: "--cable=type x".
 
 #include <algorithm>
 #include <cxxopts.hpp>
@@ -39,10 +39,10 @@ bool is_option(const std::string& word) {
   return word.size() > 1 && word[0] == '-' && !(word[1] >= '0' && word[1] <= '9');
 }
 
-// It knows names in lower case only.
+// Joins each option with its words, and converts option names to lower case: cxxopts is case-sensitive.
 Words join_groups(Words words) {
   Words arguments;
-  bool first = false;  // the next word is the first of an option
+  bool first = false;  // the next word is the first after an option
   for (std::string& word : words) {
     if (is_option(word)) {
       std::ranges::transform(word, word.begin(),

@@ -9,9 +9,9 @@
 
 namespace bench {
 
-// A design of any size whose answers cost little and the same whatever the size: an instance's name tells its type, as
-// in "ovrin_12". Of every eight processors four are soft ones behind a debug module, two soft ones on their own, one a
-// PowerPC behind a bridge and one a Cortex-A9; all of them can be debugged.
+// A design of any size with cheap queries, whose cost does not depend on the size: the type of an instance is part of
+// its name, as in "ovrin_12". Of every eight processors, four are soft processors behind a debug module, two are soft
+// processors without one, one is a PowerPC behind a bridge and one is a Cortex-A9. All of them can be debugged.
 class Design : public HHSMHwManager {
  public:
   explicit Design(std::size_t processors);

@@ -25,7 +25,7 @@ constexpr Place kBlock[] = {
 };
 constexpr std::size_t kBlockSize = std::size(kBlock);
 
-// An instance up to its parameters.
+// The first members of an instance, without parameters and closing brace.
 std::string instance(std::string_view name, std::size_t number, std::string_view type, std::string_view ipClass) {
   return R"(    {"name": ")" + std::string(name) + "_" + std::to_string(number) + R"(", "type": ")" +
          std::string(type) + R"(", "class": ")" + std::string(ipClass) + '"';

@@ -1,4 +1,4 @@
-// Discovery, beside a loop that asks the design the same questions and keeps the names.
+// Discovery, compared with a loop that makes the same queries to the design and stores the names.
 
 #include <memory>
 #include <string>
@@ -20,7 +20,7 @@ struct Question {
   std::string parameter = {};
 };
 
-// Passes questions on and notes them down.
+// Forwards the queries and records them.
 class Listener : public HHSMHwManager {
  public:
   explicit Listener(HHSMHwManager& hw) : m_hw(hw) {}
@@ -60,7 +60,7 @@ class Listener : public HHSMHwManager {
   HHSMHwManager& m_hw;
 };
 
-// Lists of processors and instances are kept, other answers are not.
+// Repeats the queries. Stores the lists of processors and instances; discards other results.
 std::vector<std::string> ask_again(HHSMHwManager& hw, const std::vector<Question>& questions) {
   std::vector<std::string> names;
   for (const Question& question : questions) {

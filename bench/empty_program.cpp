@@ -1,4 +1,4 @@
-// The least program that uses the library: what it costs to be started.
+// The smallest program that uses the library, to measure the time of process start.
 
 #include "SdkDebugDialog/Engine.h"
 

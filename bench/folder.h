@@ -5,10 +5,10 @@
 
 namespace bench {
 
-// A work folder with an option file for ovrin_0, made when first asked for, gone when the program ends.
+// A temporary folder with an option file for ovrin_0. Created by the first call, removed at the end of the program.
 const std::filesystem::path& work_folder();
 
-// One of examples/designs.
+// The path of a file in examples/designs.
 std::filesystem::path example_design(const std::string& name);
 
 }  // namespace bench

@@ -1,4 +1,4 @@
-// getopt_long_only knows the options; it hands out what stands between them in order.
+// Reader with getopt_long_only. Options have no arguments; the words between them are returned in order.
 
 #include <getopt.h>
 
@@ -23,7 +23,7 @@ constexpr option kOptions[] = {
     {nullptr, 0, nullptr, 0},
 };
 
-// Parts the text where it is. It knows options in lower case only.
+// Splits the text in place, and converts option names to lower case: getopt is case-sensitive.
 std::vector<char*> part(std::string& text) {
   std::vector<char*> words;
   char* state = nullptr;
@@ -49,7 +49,7 @@ bool read_with_getopt(const std::string& text, Settings& settings) {
   }
   words.push_back(nullptr);
   const int count = static_cast<int>(words.size()) - 3;
-  char** const arguments = words.data() + 2;  // the first one is passed over
+  char** const arguments = words.data() + 2;  // getopt skips the first one
 
   TakePair take = nullptr;
   const char* key = nullptr;

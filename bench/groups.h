@@ -1,6 +1,6 @@
 #pragma once
 
-// What a reader does with the words of an option, when its library has found the option.
+// Interpretation of the words of an option, for the readers that use another library to find the options.
 
 #include <cstddef>
 #include <string>
@@ -15,7 +15,7 @@ inline bool take_head(const std::vector<std::string>& words, Settings& settings)
          take_connection(words[2], settings);
 }
 
-// Keys and values in turn.
+// Words that alternate between key and value.
 inline bool take_pairs(const std::vector<std::string>& words, TakePair take, Settings& settings) {
   if (words.size() % 2 != 0) return false;
   for (std::size_t i = 0; i < words.size(); i += 2) {

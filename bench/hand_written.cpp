@@ -25,7 +25,7 @@ Number number(std::string_view text) {
   return static_cast<Number>(negative ? 0 - value : value);
 }
 
-// The bases of the debug address map stand on multiples of 64 KB.
+// The bases of the debug address map must be multiples of 64 KB.
 bool take_base(std::string_view text, std::uint32_t& base) {
   base = number<std::uint32_t>(text);
   return (base & 0xFFFFU) == 0;
@@ -66,7 +66,7 @@ bool take_bscan(std::string_view word, Settings& settings) {
   return true;
 }
 
-// --- The walk over the text ---
+// --- Tokens and options ---
 
 class Words {
  public:
@@ -91,7 +91,7 @@ bool is_option(std::string_view word) {
   return word.size() > 1 && word[0] == '-' && !(word[1] >= '0' && word[1] <= '9');
 }
 
-// Takes pairs up to the next option or the end, which word is then.
+// Takes pairs up to the next option or the end of the text; word is then this option, or empty.
 template <TakePair take>
 bool take_pairs(Words& words, std::string_view& word, Settings& settings) {
   for (word = words.next(); !word.empty() && !is_option(word); word = words.next()) {

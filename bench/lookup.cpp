@@ -1,4 +1,4 @@
-// Look-up by name among 100,000 processors, in no order.
+// Look-up by name among 100,000 processors, in random order.
 
 #include <algorithm>
 #include <memory>

@@ -8,7 +8,8 @@
 #include "bench/suite.h"
 
 int main(int argc, char** argv) {
-  // Ours and the others take turns, so that all of them see the same machine. Options given later count.
+  // Interleaved, so that changes of the machine's speed affect all cases alike. Options of the user come last and
+  // override these.
   char interleaved[] = "--benchmark_enable_random_interleaving=true";
   char repetitions[] = "--benchmark_repetitions=9";
   char shortest[] = "--benchmark_min_time=0.05";

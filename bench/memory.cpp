@@ -1,5 +1,5 @@
-// Prints what a read of a chain takes from the heap at its peak, beside the text and the records that stay: a line with
-// the number of devices and three sizes in bytes.
+// Measures the peak heap use of reading a chain. Prints one line per chain: the number of devices, and in bytes the
+// sizes of the text, of the resulting records, and the peak.
 
 #include <malloc.h>
 

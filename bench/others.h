@@ -1,6 +1,6 @@
 #pragma once
 
-// Readers and writers made with other libraries. Each reader answers false when the command is not understood.
+// Readers and writers that use other libraries. Each reader returns false when the command is not understood.
 
 #include <cstddef>
 #include <string>
@@ -18,7 +18,7 @@ bool read_with_getopt(const std::string& text, Settings& settings);
 bool read_json(const std::string& text, Settings& settings);
 std::string write_json(const Settings& settings);
 
-// Only parts the text: answers the number of its words.
+// Only splits the text; returns the number of words.
 std::size_t count_words(const std::string& text);
 
 }  // namespace bench

@@ -1,6 +1,6 @@
 #pragma once
 
-// The library at the same work.
+// The library's own reader and writer.
 
 #include <string>
 
@@ -11,11 +11,11 @@ namespace bench {
 
 class Ours {
  public:
-  // Reads a command into the engine, which is reset before. Ends the program when it is not understood.
+  // Resets the engine and reads a command. Aborts the program when the command is not understood.
   void read(const std::string& text);
   std::string write();
 
-  // What the engine holds.
+  // The settings in the engine.
   Settings settings() const;
 
  private:

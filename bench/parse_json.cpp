@@ -1,4 +1,4 @@
-// Parses a JSON file into a tree, and does nothing with it.
+// Only parses a JSON file into a document.
 //   bench_parse_json FILE
 
 #include <fstream>

@@ -1,5 +1,5 @@
-// Runs a program, with its output going nowhere, and prints the most memory that it had, in bytes. A program of its
-// own, since the system counts what the starting process had as well.
+// Runs a program with its output discarded and prints its peak resident memory in bytes. This is a separate, small
+// program because the system includes the memory of the parent process before exec.
 //   bench_peak PROGRAM ARGUMENT...
 
 #include <fcntl.h>

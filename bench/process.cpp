@@ -1,5 +1,5 @@
-// The whole "qvtcfg command": on a design of usual size beside the start of a program that does nothing with the same
-// library, on a very large one beside a program that does no more than parse the file.
+// The whole process "qvtcfg command". With a design of usual size, compared with an empty program that links the
+// library; with a very large one, compared with a program that only parses the file.
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -26,7 +26,7 @@ Words qvtcfg(const std::filesystem::path& design) {
   return {QVTCFG, "-C", work_folder(), "--design", design, "command", "ovrin_0"};
 }
 
-// Starts a program with its output going nowhere and waits for its end. Whether it went well.
+// Runs a program with its output discarded. Returns whether it exited with 0.
 bool run(const Words& words) {
   std::vector<char*> arguments;
   for (const std::string& word : words) arguments.push_back(const_cast<char*>(word.c_str()));

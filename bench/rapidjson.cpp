@@ -1,4 +1,4 @@
-// RapidJSON: the same settings as a JSON document, read into its tree and written by its writer.
+// The same settings as JSON, read and written with RapidJSON.
 
 #include <rapidjson/document.h>
 #include <rapidjson/stringbuffer.h>

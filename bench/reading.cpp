@@ -37,7 +37,7 @@ void add_floor(const Work& work, const std::string& text) {
   add(work, "strtok_r", [text] { benchmark::DoNotOptimize(count_words(text)); });
 }
 
-// Those that stay quick on a text of any length.
+// The readers that are fast enough for texts of any length.
 void add_quick(const Work& work, const std::string& text, const Settings& expected) {
   add_ours(work, text, expected);
   add_reader(work, "hand-written", read_by_hand_from, text, expected);

@@ -13,9 +13,9 @@
 namespace bench {
 namespace {
 
-// --- What is to be reached ---
+// --- Goals ---
 
-// A ratio to what another takes, for sizes from one to another.
+// An upper limit for the ratio of the library's time to another's, for a range of sizes.
 struct Goal {
   std::string_view work;
   std::string_view who;
@@ -56,7 +56,7 @@ std::string format(const char* pattern, double value) {
   return text;
 }
 
-// Three digits.
+// Three significant digits.
 std::string digits(double value) { return format(value < 10 ? "%.2f" : value < 100 ? "%.1f" : "%.0f", value); }
 
 std::string in_units(double value, double step, std::initializer_list<const char*> units) {
@@ -73,7 +73,7 @@ struct Point {
   double time;
 };
 
-// The exponent of the power of the size that fits the times best: least squares on the logarithms.
+// The exponent e of the best fit time = c * size^e: least squares on the logarithms.
 double exponent(const std::vector<Point>& points) {
   double x = 0;
   double y = 0;
@@ -131,7 +131,7 @@ void print_exponents(const Collector& times) {
   }
 }
 
-// What another program, which counts every allocation, says.
+// Runs bench_memory, which counts every allocation, and prints its results.
 void print_memory() {
   FILE* const pipe = popen("'" BENCH_MEMORY "'", "r");
   if (pipe == nullptr) return;

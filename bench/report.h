@@ -8,13 +8,13 @@
 
 namespace bench {
 
-// Keeps the time of every repetition, in nanoseconds, by the benchmark's name.
+// Stores the time of every repetition, in nanoseconds, by the name of the benchmark.
 class Collector : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context& context) override;
   void ReportRuns(const std::vector<Run>& runs) override;
 
-  // 0 for a benchmark that did not run.
+  // The median time; 0 for a benchmark that did not run.
   double median(const std::string& id) const;
 
  private:

@@ -1,4 +1,4 @@
-// Selecting a processor, which reads its option file.
+// Selecting a processor, which includes reading its option file.
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,4 +1,4 @@
-// The floor: nothing but parting a copy of the text.
+// The lower bound: only splits a copy of the text.
 
 #include <cstring>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// What is measured: pieces of work, each done by one or several parties.
+// The benchmark cases: each piece of work is done by the library and by others.
 
 #include <benchmark/benchmark.h>
 
@@ -13,26 +13,26 @@ namespace bench {
 
 inline constexpr const char* kOurs = "this library";
 
-// The sizes of a series.
+// The sizes in a series.
 inline constexpr std::size_t kSizes[] = {10, 100, 1000, 10000, 100000};
 
 struct Work {
   std::string name;
-  std::size_t size = 0;  // devices or processors of a series that grows; 0: not in a series
+  std::size_t size = 0;  // number of devices or processors; 0: not in a series
 
-  // The name that tells sizes apart.
+  // The name with the size.
   std::string label() const;
 };
 
 enum class Clock { cpu, wall };
 
-// Memory beside a size that it is compared with, in bytes.
+// Memory use, and a size that it is compared with; both in bytes.
 struct Footprint {
   std::string work;
   double ours;
   std::string what;
   double theirs;
-  double atMost;  // the ratio
+  double atMost;  // limit for the ratio
 };
 std::vector<Footprint>& footprints();
 
@@ -45,12 +45,12 @@ struct Case {
 // In the order in which they were added.
 std::vector<Case>& cases();
 
-// Ends the program unless what a party did was right: nothing wrong is ever timed.
+// Exits with an error unless right is true: only correct results are timed.
 void expect(bool right, const Work& work, const std::string& who);
 
 std::string add_case(const Work& work, const std::string& who);
 
-// Adds a party that does the work by calling run.
+// Adds a case that calls run.
 template <class Run>
 void add(const Work& work, const std::string& who, Run run, Clock clock = Clock::cpu) {
   auto* const benchmark = benchmark::RegisterBenchmark(add_case(work, who).c_str(), [run](benchmark::State& state) {
@@ -59,7 +59,7 @@ void add(const Work& work, const std::string& who, Run run, Clock clock = Clock:
   if (clock == Clock::wall) benchmark->UseRealTime();
 }
 
-// The pieces of work, one file for each kind.
+// Add the cases; each kind of work has its own file.
 void add_reading();
 void add_writing();
 void add_discovery();

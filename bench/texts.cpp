@@ -37,7 +37,7 @@ Settings hardware_settings() {
   return settings;
 }
 
-// No two neighbours look the same, and lengths vary.
+// Neighbouring devices differ, and the lengths of their values vary.
 Settings chain_settings(std::size_t devices) {
   Settings settings;
   for (std::size_t i = 0; i < devices; ++i) {

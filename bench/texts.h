@@ -1,6 +1,6 @@
 #pragma once
 
-// The commands that are read and written, and what they say.
+// The sample commands and their settings.
 
 #include <cstddef>
 #include <string>
@@ -14,7 +14,7 @@ Settings simulator_settings();
 
 // Cable, two chain devices and a debug device, as the library writes them.
 std::string hardware_text();
-// The same settings as a person may type them.
+// The same settings in another order and case, as a user could type them.
 std::string hardware_text_retyped();
 Settings hardware_settings();
 
