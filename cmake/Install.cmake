@@ -1,4 +1,4 @@
-# What is installed: the library with its headers, the design file, the tool, and the files that let CMake find them.
+# Installs the library with its headers, the design file reader, the tool, and the CMake package files.
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/SdkDebugDialog)
 
 install(TARGETS SdkDebugDialog EXPORT SdkDebugDialogTargets)
