@@ -98,7 +98,8 @@ std::string contents(const std::string& path, const std::string& file) {
 // --- Names ---
 
 enum class Class : std::uint8_t { processor, debug, peripheral, memory, other };
-constexpr std::string_view kClasses[] = {"processor", "debug", "peripheral", "memory", "other"};  // in this order
+constexpr std::string_view kClasses[] = {"processor", "debug", "peripheral", "memory",
+                                         "other"};  // in the order of Class
 std::string word(Class ipClass) { return std::string(kClasses[static_cast<std::size_t>(ipClass)]); }
 
 bool is_identifier(std::string_view text) {
@@ -130,8 +131,8 @@ class DifferentNames {
 
 }  // namespace
 
-// The content of a design file. Strings are not copied: they are offsets into the file's text. All lists are flat and
-// refer to each other by position.
+// The content of a design file. Strings without escapes are not copied: they are offsets into the file's text. All
+// lists are flat and refer to each other by position.
 class DesignFile::Content {
  public:
   struct Text {

@@ -22,7 +22,7 @@ struct ProcessorIndex;
 // The whole debug configuration of one Engine. The fields are public: readers, writers and queries work on them.
 class SDKDEBUGDIALOG_API EngineImp {
  public:
-  // The hardware description handed to Engine::GetProcessorList; not owned, may be null. While it is null the
+  // The hardware description passed to Engine::GetProcessorList; not owned, may be null. While it is null the
   // target readers accept every connection and add it to the processor's allowedConnections; while it is set they
   // accept only the connections in allowedConnections.
   HHSMHwManager* hwManager = nullptr;
