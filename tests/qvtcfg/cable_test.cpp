@@ -94,8 +94,8 @@ TEST_F(CableParse, OfAnEmptyTextAreTheDefaults) {
 
 TEST_F(CableParse, WhatIsNotUnderstoodIsExplainedInOneLine) {
   const std::string why =
-      "the text given is not understood: it is no run of the options -cable, -configdevice, -debugdevice and -bscan "
-      "with keywords and values that they know; 'qvtcfg cable format' prints such a text\n";
+      "the text given is not understood; expected the options -cable, -configdevice, -debugdevice and -bscan "
+      "with their keywords and values; 'qvtcfg cable format' prints such a text\n";
   for (const char* text : {"cable type none", "-foo bar", "-cable speed 5", "-configdevice devicenr 1 -cable type x",
                            "-configdevice devicenr 1 -debugdevice deviceNr", " -bscan USER9",
                            "-cable type zarvek_svffile", "-cable type zarvek_platformusb frequency 1"}) {
@@ -105,14 +105,14 @@ TEST_F(CableParse, WhatIsNotUnderstoodIsExplainedInOneLine) {
     EXPECT_EQ(result.err, "qvtcfg: " + why) << text;
   }
   EXPECT_EQ(qvtcfg({"cable", "parse", "-configdevice devicenr 1 -cable -"}).err,
-            "qvtcfg: the text given: a lone '-' stands where an option or a value belongs\n");
+            "qvtcfg: the text given: a lone '-' in place of an option or a value\n");
 }
 
 TEST_F(CableParse, CountsTheColumnsOfATextAsItWasGiven) {
   EXPECT_THAT(qvtcfg({"cable", "parse", "-cable \001"}).err,
-              IsComplaint("the text given: the byte \\x01 at column 8 is no text"));
-  EXPECT_THAT(qvtcfg({"cable", "parse", " -cable \001"}).err, IsComplaint("at column 9 is no text"));
-  EXPECT_THAT(qvtcfg({"cable", "parse", "--", "-cable\001"}).err, IsComplaint("at column 7 is no text"));
+              IsComplaint("the text given: the byte \\x01 at column 8 is not valid text"));
+  EXPECT_THAT(qvtcfg({"cable", "parse", " -cable \001"}).err, IsComplaint("at column 9 is not valid text"));
+  EXPECT_THAT(qvtcfg({"cable", "parse", "--", "-cable\001"}).err, IsComplaint("at column 7 is not valid text"));
 }
 
 TEST_F(CableFormat, PrintsEverythingInTheOrderOfTheSyntax) {
@@ -202,20 +202,22 @@ TEST_F(CableFormat, WhatCannotBeWrittenIsRefusedInOneLine) {
     int code;
     std::string why;
   } kFaults[] = {
-      {{}, 2, "nothing is to be written; give --type, --device or --debug-device"},
-      {{"--type", "none"}, 2, "nothing is to be written; give --type, --device or --debug-device"},
+      {{}, 2, "nothing to write; give --type, --device or --debug-device"},
+      {{"--type", "none"}, 2, "nothing to write; give --type, --device or --debug-device"},
       {{"--type", "zarvek_tcf"}, 1, "no text can be written for cable zarvek_tcf" + another},
       {{"--type", "zarvek_svffile", "--port", "p"}, 1, "no text can be written for cable zarvek_svffile" + another},
-      {{"--type", "zarvek_plugin"}, 1, "cable zarvek_plugin is nothing without its module; add --module NAME"},
+      {{"--type", "zarvek_plugin"}, 1, "cable zarvek_plugin needs a module; add --module NAME"},
       {{"--type", "digilent_plugin", "--esn", "1"},
        1,
-       "--esn: cable digilent_plugin is written without it; leave it out, or choose another --type"},
+       "--esn: cable digilent_plugin has no such setting; omit it, or choose another --type"},
       {{"--type", "zarvek_plugin", "--module", "m", "--port", "p"},
        1,
-       "--port: cable zarvek_plugin is written without"},
-      {{"--type", "zarvek_parallel3", "--module", "m"}, 1, "--module: cable zarvek_parallel3 is written without it"},
-      {{"--type", "zarvek_parallel3", "--module-arg", "m"}, 1, "--module-arg: cable zarvek_parallel3 is written"},
-      {{"--port", "LPT1", "--debug-device", "1"}, 1, "--port: cable none is written without it"},
+       "--port: cable zarvek_plugin has no such setting"},
+      {{"--type", "zarvek_parallel3", "--module", "m"}, 1, "--module: cable zarvek_parallel3 has no such setting"},
+      {{"--type", "zarvek_parallel3", "--module-arg", "m"},
+       1,
+       "--module-arg: cable zarvek_parallel3 has no such setting"},
+      {{"--port", "LPT1", "--debug-device", "1"}, 1, "--port: cable none has no such setting"},
       {{"--frequency", "5"}, 1, "--frequency=5: cable none has no frequency to choose"},
       {{"--type", "zarvek_parallel3", "--frequency", "5"}, 1, "--frequency=5: cable zarvek_parallel3 supports 200000"},
       {{"--type", "zarvek_usb"}, 2, "--type=zarvek_usb: expected none, zarvek_svffile, "},

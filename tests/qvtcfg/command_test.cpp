@@ -109,7 +109,7 @@ TEST_F(Read, WhatIsNotUnderstoodIsExplainedInOneLine) {
       {"connect ov odm -cable speed 5", "the command given: UNKNOWN Parameter 'speed' for option '-cable'"},
       {"connect ov odm -cable type zarvek_platformusb frequency 1",
        "the command given: UnSupported Zarvek PlatformUSB Cable Frequency - 1 Supported Frequencies: 750000,"},
-      {"connect ov odm -", "the command given: a lone '-' stands where an option or a value belongs"},
+      {"connect ov odm -", "the command given: a lone '-' in place of an option or a value"},
   };
   for (const auto& fault : kFaults) {
     const Result result = qvtcfg({"read", "ovrin_0", fault.text, "--write"});
@@ -123,13 +123,13 @@ TEST_F(Read, WhatIsNotUnderstoodIsExplainedInOneLine) {
 TEST_F(Read, BytesThatAreNoTextAreNamedAndNeverEchoed) {
   const Result escape = qvtcfg({"read", "ovrin_0", "connect \033[31mov odm"});
   EXPECT_EQ(escape.code, 3);
-  EXPECT_THAT(escape.err, IsComplaint("the command given: the byte \\x1b at column 9 is no text"));
+  EXPECT_THAT(escape.err, IsComplaint("the command given: the byte \\x1b at column 9 is not valid text"));
   const Result nul = qvtcfg({"read", "ovrin_0", "-"}, std::string("connect ov\0odm", 14));
   EXPECT_EQ(nul.code, 3);
-  EXPECT_THAT(nul.err, IsComplaint("standard input: the byte \\x00 at column 11 is no text"));
+  EXPECT_THAT(nul.err, IsComplaint("standard input: the byte \\x00 at column 11 is not valid text"));
   const Result broken = qvtcfg({"read", "ovrin_0", "-"}, "connect ov odm -cable port \xff");
   EXPECT_EQ(broken.code, 3);
-  EXPECT_THAT(broken.err, IsComplaint("the byte \\xff at column 28 is no text"));
+  EXPECT_THAT(broken.err, IsComplaint("the byte \\xff at column 28 is not valid text"));
 }
 
 TEST_F(Read, TextInOtherLanguagesIsText) {
@@ -149,7 +149,7 @@ TEST_F(Read, WarnsThatAWrittenCommandCannotBeReadBack) {
   const Result result = qvtcfg({"read", "ovrin_0", "connect ov odm -configdevice jtagport cpu", "--write"});
   EXPECT_EQ(result.code, 0);
   EXPECT_THAT(result.err, IsComplaint("qvtcfg: warning: etc/qvt_ovrin_0.opt: UNKNOWN Parameter 'jtagpin' for option "
-                                      "'-configDevice'; the debugger is served"));
+                                      "'-configDevice'; the debugger accepts it"));
   EXPECT_THAT(read_option_file("ovrin_0"), HasSubstr(" -configdevice jtagpin cpujtag "));
 }
 

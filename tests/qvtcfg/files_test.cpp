@@ -33,7 +33,7 @@ TEST_F(Files, BrokenDesign) {
 TEST_F(Files, MissingFolderToWorkIn) {
   const Result result = qvtcfg({"-C", "nowhere", "cables"});
   EXPECT_EQ(result.code, 4);
-  EXPECT_EQ(result.err, "qvtcfg: nowhere: No such file or directory; -C wants a folder to work in\n");
+  EXPECT_EQ(result.err, "qvtcfg: nowhere: No such file or directory; -C needs a folder\n");
 }
 
 TEST_F(Files, MissingFolderForOptionFiles) {
@@ -53,14 +53,14 @@ TEST_F(Files, OptionFileThatIsAFolderIsNoMissingOne) {
   }
   const Result written = qvtcfg({"read", "ovrin_0", "connect ov sim", "--write"});
   EXPECT_EQ(written.code, 4);
-  EXPECT_EQ(written.err, "qvtcfg: etc/qvt_ovrin_0.opt: Error Opening File; it is no regular file\n");
+  EXPECT_EQ(written.err, "qvtcfg: etc/qvt_ovrin_0.opt: Error Opening File; it is not a regular file\n");
 }
 
 TEST_F(Files, OptionFileThatIsAPipeIsNotWaitedFor) {
   ASSERT_EQ(mkfifo((folder() / "etc/qvt_ovrin_0.opt").c_str(), 0600), 0);
   const Result result = qvtcfg({"set", "ovrin_0", "debug-device=1"});
   EXPECT_EQ(result.code, 4);
-  EXPECT_THAT(result.err, IsComplaint("etc/qvt_ovrin_0.opt: is no regular file; "));
+  EXPECT_THAT(result.err, IsComplaint("etc/qvt_ovrin_0.opt: is not a regular file; "));
 }
 
 TEST_F(Files, OptionFileWithoutPermissionIsNoMissingOne) {
@@ -87,7 +87,7 @@ TEST_F(Files, LongOptionFileIsShownWithAWarning) {
   const Result result = qvtcfg({"command", "ovrin_0"});
   EXPECT_EQ(result.code, 0);
   EXPECT_EQ(result.out, "connect ov odm -debugdevice deviceNr 1 cpunr 1\n");
-  EXPECT_THAT(result.err, IsComplaint("warning: etc/qvt_ovrin_0.opt: the command goes on after 1023 characters"));
+  EXPECT_THAT(result.err, IsComplaint("warning: etc/qvt_ovrin_0.opt: the command is longer than 1023 characters"));
   EXPECT_EQ(qvtcfg({"command", "ovrin_0", "--write"}).code, 3);
 }
 
@@ -103,8 +103,9 @@ TEST_F(Files, FullDiskKeepsTheOldFile) {
   // No file may grow beyond nothing; standard output is a pipe.
   const Result result =
       shell("trap '' XFSZ; (ulimit -f 0; \"$QVTCFG\" set ovrin_0 connection=hardware 2>&1; echo code $?) | cat");
-  EXPECT_THAT(result.out, HasSubstr("\nqvtcfg: etc/qvt_ovrin_0.opt: Error Opening File; check that the disk has room; "
-                                    "the file is as it was\ncode 4\n"));
+  EXPECT_THAT(result.out,
+              HasSubstr("\nqvtcfg: etc/qvt_ovrin_0.opt: Error Opening File; check that the disk has free space; "
+                        "the file is unchanged\ncode 4\n"));
   EXPECT_EQ(read_option_file("ovrin_0"), "connect ov sim");
 }
 

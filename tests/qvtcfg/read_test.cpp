@@ -101,7 +101,7 @@ TEST_F(ReadAlone, WhatIsNotUnderstoodIsExplainedInOneLine) {
       {"connect ov odm -sim -foo", "UNKNOWN ModelSim Option '-foo'"},
       {"vpconnect ov -foo", "UNKNOWN virtual platform Option '-foo'"},
       {"connect qmtc -uart", "UNKNOWN Option '-uart'"},
-      {"connect ov odm -", "a lone '-' stands where an option or a value belongs"},
+      {"connect ov odm -", "a lone '-' in place of an option or a value"},
   };
   for (const auto& fault : kFaults) {
     const Result result = qvtcfg({"read", fault.text});
@@ -154,8 +154,7 @@ TEST_F(ReadWithoutDesign, AnswersNullForTheProcessor) {
 TEST_F(ReadWithoutDesign, StoresNothing) {
   const Result result = qvtcfg({"read", "connect ov sim", "--write"});
   EXPECT_EQ(result.code, 1);
-  EXPECT_EQ(result.err,
-            "qvtcfg: --write: there is no design whose processor the command could be for; --design FILE names one\n");
+  EXPECT_EQ(result.err, "qvtcfg: --write: there is no design to find its processor in; --design FILE names one\n");
 }
 
 TEST_F(ReadWithoutDesign, OneThatIsNamedHasToBeThere) {

@@ -203,18 +203,18 @@ TEST_F(Refused, WhatTheEngineOrTheDesignDoesNotAllow) {
              {{"connection=stub"},
               1,
               "connection=stub: the processor does not admit this connection; it admits simulator, hardware"},
-             {{"stub=serial"}, 1, "stub=serial: the connection is no stub; add connection=stub"},
+             {{"stub=serial"}, 1, "stub=serial: the connection is not stub; add connection=stub"},
              {{"stub-baud=9600"}, 1, "stub-baud=9600: the processor is not reached through a serial stub"},
              {{"module=m"}, 1, "module=m: cable none has no module; add cable=zarvek_plugin"},
-             {{"cable=zarvek_plugin"}, 1, "cable zarvek_plugin is nothing without its module; add module=NAME"},
-             {{"connection=simulator", "devices=none"}, 1, "devices=none: the processor has no such setting"},
-             {{"connection=simulator", "module=m"}, 1, "module=m: the processor has no such setting"},
+             {{"cable=zarvek_plugin"}, 1, "cable zarvek_plugin needs a module; add module=NAME"},
+             {{"connection=simulator", "devices=none"}, 1, "devices=none: the setting does not apply"},
+             {{"connection=simulator", "module=m"}, 1, "module=m: the setting does not apply"},
              {{"cable=zarvek_tcf"}, 1, "ovrin_1: Invalid Cable Type; "},
-             {{"icache=0x10000"}, 1, "icache=0x10000: the processor has no such setting with its connection"},
-             {{"address-map=unset"}, 1, "the processor has no such setting with its connection"},
-             {{"connection=simulator", "debug-device=1"}, 1, "debug-device=1: the processor has no such"},
-             {{"connection=simulator", "cable=none"}, 1, "cable=none: the processor has no such setting"},
-             {{"connection=simulator", "rom=0,1"}, 1, "rom=0,1: the processor has no such setting"},
+             {{"icache=0x10000"}, 1, "icache=0x10000: the setting does not apply to this processor and connection"},
+             {{"address-map=unset"}, 1, "the setting does not apply to this processor and connection"},
+             {{"connection=simulator", "debug-device=1"}, 1, "debug-device=1: the setting does not apply"},
+             {{"connection=simulator", "cable=none"}, 1, "cable=none: the setting does not apply"},
+             {{"connection=simulator", "rom=0,1"}, 1, "rom=0,1: the setting does not apply"},
          });
   expect("ovrin_0", {{{"connection=stub", "stub=jtag"}, 1, "stub=jtag: JTAG device not present in system"}});
 }
@@ -259,11 +259,12 @@ TEST_F(Refused, AnOptionFileThatIsNotUnderstoodIsKept) {
        "'qvtcfg read ovrin_0 TEXT --write'"},
       {"hello", "etc/qvt_ovrin_0.opt: the connect command is not understood; correct the file"},
       {"connect odm", "etc/qvt_ovrin_0.opt: the connect command is not understood; correct the file"},
-      {"connect ov odm - x", "etc/qvt_ovrin_0.opt: a lone '-' stands where an option or a value belongs"},
-      {std::string("connect ov\0odm", 14), "etc/qvt_ovrin_0.opt: the byte \\x00 at column 11 is no text"},
-      {"connect ov odm \033[31m", "etc/qvt_ovrin_0.opt: the byte \\x1b at column 16 is no text"},
+      {"connect ov odm - x", "etc/qvt_ovrin_0.opt: a lone '-' in place of an option or a value"},
+      {std::string("connect ov\0odm", 14), "etc/qvt_ovrin_0.opt: the byte \\x00 at column 11 is not valid text"},
+      {"connect ov odm \033[31m", "etc/qvt_ovrin_0.opt: the byte \\x1b at column 16 is not valid text"},
       {"connect ov odm -cable port " + std::string(2000, 'x'),
-       "etc/qvt_ovrin_0.opt: the command goes on after 1023 characters, and the rest is not read; to lose nothing, "},
+       "etc/qvt_ovrin_0.opt: the command is longer than 1023 characters, and the rest is not read; to keep all of "
+       "it, "},
   };
   for (const auto& fault : kFaults) {
     write_option_file("ovrin_0", fault.command);

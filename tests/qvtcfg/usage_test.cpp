@@ -72,7 +72,7 @@ TEST_F(Usage, MistakesAreExplainedInOneLine) {
     std::vector<std::string> arguments;
     const char* why;
   } kMistakes[] = {
-      {{}, "which command? One of processors, show, command, read, set, cables, cable; see 'qvtcfg --help'"},
+      {{}, "a command is missing: one of processors, show, command, read, set, cables, cable; see 'qvtcfg --help'"},
       {{"cabels"}, "unknown command 'cabels' (did you mean 'cables'?); see 'qvtcfg --help'"},
       {{"--jsn", "cables"}, "unknown option '--jsn'; see 'qvtcfg cables --help'"},
       {{"cables", "all"}, "unexpected argument 'all'; see 'qvtcfg cables --help'"},
@@ -82,7 +82,7 @@ TEST_F(Usage, MistakesAreExplainedInOneLine) {
       {{"read"}, "TEXT is required; see 'qvtcfg read --help'"},
       {{"read", "ovrin_0"}, "TEXT is required; see 'qvtcfg read --help'"},
       {{"read", "connect ov sim", "ovrin_0", "x"}, "unexpected argument 'x'; see 'qvtcfg read --help'"},
-      {{"cable"}, "which command? One of parse, format; see 'qvtcfg cable --help'"},
+      {{"cable"}, "a command is missing: one of parse, format; see 'qvtcfg cable --help'"},
       {{"cable", "prase"}, "unknown command 'prase' (did you mean 'parse'?); see 'qvtcfg cable --help'"},
       {{"cable", "parse"}, "TEXT is required; see 'qvtcfg cable parse --help'"},
       {{"cable", "parse", "-cable", "type"}, "unknown option '-cable'; see 'qvtcfg cable parse --help'"},

@@ -49,8 +49,8 @@ void read(const GivenText& given, CableText& out) {
         SdkDebugDialog::kOk) {
       throw Failure(kNotUnderstood,
                     given.source +
-                        " is not understood: it is no run of the options -cable, -configdevice, -debugdevice and "
-                        "-bscan with keywords and values that they know; 'qvtcfg cable format' prints such a text");
+                        " is not understood; expected the options -cable, -configdevice, -debugdevice and "
+                        "-bscan with their keywords and values; 'qvtcfg cable format' prints such a text");
     }
   } catch (const std::out_of_range&) {
     throw Failure(kNotUnderstood, given.source + ": " + kLoneDash);
@@ -110,10 +110,10 @@ void require_written(const CableArguments& given, const CableOption& cable) {
   for (const auto& part : kParts) {
     if (!part.given || part.written) continue;
     throw Failure(kRefused, std::string(part.option) + ": cable " + name_of(kCables, cable.type) +
-                                " is written without it; leave it out, or choose another --type");
+                                " has no such setting; omit it, or choose another --type");
   }
   if (plugin && cable.modulename.empty()) {
-    throw Failure(kRefused, "cable zarvek_plugin is nothing without its module; add --module NAME");
+    throw Failure(kRefused, "cable zarvek_plugin needs a module; add --module NAME");
   }
 }
 
@@ -127,7 +127,7 @@ std::string written(const CableOption& cable, std::vector<JtagOption>& devices, 
                                 "; choose another --type: none, zarvek_parallel3, zarvek_parallel4, "
                                 "zarvek_platformusb, zarvek_plugin or digilent_plugin");
   }
-  if (text.empty()) throw Failure(kUsage, "nothing is to be written; give --type, --device or --debug-device");
+  if (text.empty()) throw Failure(kUsage, "nothing to write; give --type, --device or --debug-device");
   return text.substr(1);  // without the leading blank
 }
 

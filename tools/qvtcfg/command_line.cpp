@@ -243,7 +243,7 @@ Run chosen_run(const CLI::App& program) {
   std::vector<std::string> left_over = program.remaining(true);
   std::erase(left_over, "--");  // the end-of-options separator
   if (!left_over.empty()) throw usage(program, why_left_over(left_over.front(), command));
-  if (command.run == nullptr) throw usage(program, "which command? One of " + join(names_of_commands(command)));
+  if (command.run == nullptr) throw usage(program, "a command is missing: one of " + join(names_of_commands(command)));
   return command.run;
 }
 

@@ -33,7 +33,7 @@ void require_text(const GivenText& given, const std::string& advice) {
   const auto at = first_non_text(given.text);
   if (!at) return;
   throw Failure(kNotUnderstood, given.source + ": the byte " + visible(given.text.substr(*at, 1)) + " at column " +
-                                    std::to_string(*at + 1) + " is no text" + advice);
+                                    std::to_string(*at + 1) + " is not valid text" + advice);
 }
 
 }  // namespace qvtcfg

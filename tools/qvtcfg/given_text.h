@@ -18,6 +18,6 @@ GivenText given_text(const std::string& argument, const std::string& name);
 void require_text(const GivenText& given, const std::string& advice = "");
 
 // The message for the library's std::out_of_range.
-inline constexpr const char* kLoneDash = "a lone '-' stands where an option or a value belongs";
+inline constexpr const char* kLoneDash = "a lone '-' in place of an option or a value";
 
 }  // namespace qvtcfg

@@ -43,7 +43,7 @@ enum Answer { kNotSet = 1, kNotApplicable = 2 };
 void require_applicable(int answer, const Change& change) {
   if (answer != kNotApplicable) return;
   throw refused(change.argument,
-                "the processor has no such setting with its connection; 'qvtcfg show' tells the connection");
+                "the setting does not apply to this processor and connection; 'qvtcfg show' prints the connection");
 }
 
 void require_cable_in_use(Engine& engine, const Change& change) {
@@ -72,7 +72,7 @@ void apply_stub(Engine& engine, const Change& change) {
   const auto stub = static_cast<Engine::StubType>(word(change.argument, change.value, kStubs));
   Engine::ConnectionType selected = Engine::HARDWARE;
   if (engine.GetConnectionType(selected) != SdkDebugDialog::kOk || selected != Engine::STUB) {
-    throw refused(change.argument, "the connection is no stub; add connection=stub");
+    throw refused(change.argument, "the connection is not stub; add connection=stub");
   }
   constexpr unsigned int kMarks = Engine::STUB_JTAG_PRESENT | Engine::STUB_UART_PRESENT;
   const unsigned int present = engine.imp->currentProcessor->allowedConnections & kMarks;
@@ -115,7 +115,7 @@ void apply_devices(Engine& engine, const Change& change) {
 }
 
 void apply_cpu_jtag(Engine& engine, const Change& change) {
-  if (change.value != "on") throw wrong_value(change.argument, "on; a command read with 'qvtcfg read' takes it back");
+  if (change.value != "on") throw wrong_value(change.argument, "on; a command read with 'qvtcfg read' resets it");
   require_cable_in_use(engine, change);
   set<&Engine::SetCpuJtag>(engine, change);
 }
@@ -257,7 +257,7 @@ void apply_changes(Engine& engine, const std::vector<Change>& changes) {
   for (const Change& change : changes) kKeys[change.key].apply(engine, change);
   std::string module;
   if (engine.GetPluginCableOptions(module) == kNotSet) {
-    throw Failure(kRefused, "cable zarvek_plugin is nothing without its module; add module=NAME");
+    throw Failure(kRefused, "cable zarvek_plugin needs a module; add module=NAME");
   }
 }
 

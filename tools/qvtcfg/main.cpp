@@ -25,7 +25,7 @@ void ignore_message(int /*type*/, const char* /*id*/, unsigned int /*mask*/, con
 
 void enter(const std::string& directory) {
   if (directory.empty() || chdir(directory.c_str()) == 0) return;
-  throw Failure(kFile, one_line(directory) + ": " + std::strerror(errno) + "; -C wants a folder to work in");
+  throw Failure(kFile, one_line(directory) + ": " + std::strerror(errno) + "; -C needs a folder");
 }
 
 void run(int argc, const char* const* argv) {

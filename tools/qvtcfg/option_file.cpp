@@ -14,7 +14,7 @@ namespace qvtcfg {
 namespace {
 
 Failure unreadable(const std::string& shown, const std::string& why) {
-  return {kFile, shown + ": " + why + "; the settings of the processor are in there: make it readable first"};
+  return {kFile, shown + ": " + why + "; it contains the settings of the processor: make it readable first"};
 }
 
 }  // namespace
@@ -28,7 +28,7 @@ OptionFile look_at_option_file(const std::string& path, const std::string& shown
     throw unreadable(shown, std::strerror(errno));
   }
   if (S_ISDIR(status.st_mode)) throw unreadable(shown, "is a folder");
-  if (!S_ISREG(status.st_mode)) throw unreadable(shown, "is no regular file");
+  if (!S_ISREG(status.st_mode)) throw unreadable(shown, "is not a regular file");
 
   std::ifstream file(path, std::ios::binary);
   if (!file) throw unreadable(shown, std::strerror(errno));
@@ -50,12 +50,12 @@ std::string why_not_written(const std::string& path, const std::string& shown) {
   const std::string shown_folder = shown.substr(0, shown.rfind('/'));
   if (stat(folder.c_str(), &status) != 0) return "there is no folder " + shown_folder + ": make it first";
   if (!S_ISDIR(status.st_mode)) return shown_folder + " is no folder";
-  if (access(folder.c_str(), W_OK) != 0) return "the folder " + shown_folder + " may not be written";
+  if (access(folder.c_str(), W_OK) != 0) return "the folder " + shown_folder + " is not writable";
   if (stat(path.c_str(), &status) == 0) {
-    if (!S_ISREG(status.st_mode)) return "it is no regular file";
-    if (access(path.c_str(), W_OK) != 0) return "it may not be written";
+    if (!S_ISREG(status.st_mode)) return "it is not a regular file";
+    if (access(path.c_str(), W_OK) != 0) return "it is not writable";
   }
-  return "check that the disk has room; the file is as it was";
+  return "check that the disk has free space; the file is unchanged";
 }
 
 }  // namespace qvtcfg

@@ -55,8 +55,7 @@ std::string Output::styled(Style style, const std::string& text) const {
 void Output::flush() {
   const bool written = std::fwrite(m_text.data(), 1, m_text.size(), stdout) == m_text.size();
   if (!written || std::fflush(stdout) != 0) {
-    throw Failure(kFile,
-                  std::string("standard output: ") + std::strerror(errno) + "; what was asked is not shown whole");
+    throw Failure(kFile, std::string("standard output: ") + std::strerror(errno) + "; the output is incomplete");
   }
   m_text.clear();
 }

@@ -92,11 +92,11 @@ void Session::inspect_option_file(Purpose purpose, const std::string& advice) {
   m_file = look_at_option_file(m_path, m_shown_path);
   require_text({m_file.command, m_shown_path}, advice);
   if (!m_file.is_longer) return;
-  const std::string what = m_shown_path + ": the command goes on after " + std::to_string(kLongestCommand) +
+  const std::string what = m_shown_path + ": the command is longer than " + std::to_string(kLongestCommand) +
                            " characters, and the rest is not read";
   if (purpose == Purpose::kChange) {
     throw Failure(kNotUnderstood,
-                  what + "; to lose nothing, give the whole command to 'qvtcfg read " + m_processor + " - --write'");
+                  what + "; to keep all of it, give the whole command to 'qvtcfg read " + m_processor + " - --write'");
   }
   complain("warning: " + what);
 }
@@ -136,7 +136,7 @@ void Session::write_option_file() {
 
 // The library can write commands that it cannot read itself; the debugger can.
 void Session::warn_unless_readable(const std::string& command) {
-  const std::string consequence = "; the debugger is served, but qvtcfg will not read this file back";
+  const std::string consequence = "; the debugger accepts it, but qvtcfg cannot read this file";
   if (command.size() > kLongestCommand) {
     complain("warning: " + m_shown_path + ": the command has " + std::to_string(command.size()) + " characters, and " +
              std::to_string(kLongestCommand) + " are read back");

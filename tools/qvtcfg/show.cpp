@@ -49,7 +49,7 @@ void read_alone(const Arguments& arguments, Session& session, const GivenText& c
     throw Failure(kRefused, std::string("--write: ") +
                                 (session.has_design() ? "the command is for no processor of the design; name one: "
                                                         "'qvtcfg processors' lists the processors"
-                                                      : "there is no design whose processor the command could be for; "
+                                                      : "there is no design to find its processor in; "
                                                         "--design FILE names one"));
   }
   session.read_command(command);
