@@ -1,4 +1,4 @@
-// What happens when memory runs out: every operation, with each of its allocations refused in turn.
+// Out of memory: every operation is repeated with each of its allocations failing in turn.
 
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@
 namespace SdkDebugDialog {
 namespace {
 
-// Texts are longer than what a string holds without the heap.
+// Too long for the small-string buffer, so that every copy allocates.
 constexpr char kSoft[] = "soft_processor_behind_the_debug_module";
 constexpr char kAlone[] = "soft_processor_without_a_debug_module";
 constexpr char kPowerPC[] = "powerpc_processor_behind_the_bridge";
@@ -34,7 +34,7 @@ constexpr char kDesign[] = R"({"instances": [
 
 void silent(int /*type*/, const char* /*id*/, unsigned int /*mask*/, const char* /*text*/) {}
 
-// A design, an engine, and everything that operations hand out. Nothing of it stays behind.
+// A design, an engine, and the objects that operations return. The destructor releases all of them.
 struct Session {
   FakeHardware hw;
   DiscoveredEngine e;
@@ -74,7 +74,7 @@ struct Session {
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
-  // As after nothing was done yet but discovery, if that was.
+  // Undoes everything but discovery.
   void release() {
     e.release_chain();
     for (const JtagOption* const device : chain) delete device;
@@ -103,7 +103,7 @@ void describe(std::string& out, const std::vector<JtagOption*>& chain) {
   for (const JtagOption* const device : chain) out += ' ' + std::to_string(device->devicenr) + ' ' + device->partname;
 }
 
-// All that can be told about a session.
+// The whole state of a session as text.
 std::string describe(Session& s) {
   std::string out = "error " + s.e.error() + "\ntext " + s.text + "\nnames";
   for (const std::string& name : s.names) out += ' ' + name;
@@ -132,9 +132,9 @@ struct Operation {
   const char* name;
   int (*run)(Session& s);
   int status;
-  // Does what comes before; again after a failure.
+  // Sets up the operation. Called again after a failure.
   void (*prepare)(Session& s) = nothing;
-  bool whole = false;  // done whole, or not at all
+  bool whole = false;  // a failure must leave the state unchanged
 };
 
 std::ostream& operator<<(std::ostream& out, const Operation& operation) { return out << operation.name; }
@@ -186,14 +186,14 @@ int make(Session& s) {
 
 int write(Session& s) { return s.engine.GenerateCmdString(s.text); }
 
-// The option file holds the text.
+// Stores the command in the option file.
 template <const auto& command>
 void stored(Session& s) {
   discover(s);
   WorkFolder::write("etc/qvt_" + std::string(kSoft) + ".opt", command);
 }
 
-// A device and a cable of the caller.
+// A device and a cable that the caller owns.
 void own_cable(Session& s) {
   s.cable.CableOptionInit(Engine::ZARVEK_PLUGIN);
   s.cable.modulename = "a_module_with_a_long_name";
@@ -332,7 +332,7 @@ constexpr Operation kOperations[] = {
     {"SetJtagChainOptions",
      [](Session& s) {
        const int status = s.engine.SetJtagChainOptions(s.chain);
-       s.chain.clear();  // they are the engine's now
+       s.chain.clear();  // the engine's chain holds the devices now
        return status;
      },
      0, own_chain},
@@ -386,7 +386,7 @@ constexpr Operation kOperations[] = {
 
 class EveryAllocation : public testing::TestWithParam<Operation> {
  protected:
-  // What the operation gives when nothing fails.
+  // Stores the state after the operation without a failure.
   void SetUp() override {
     const Operation& operation = GetParam();
     for (int warm = 0; warm < 2; ++warm) {
@@ -398,7 +398,7 @@ class EveryAllocation : public testing::TestWithParam<Operation> {
     }
   }
   const std::string& expected() const { return m_expected; }
-  // No file of a writer that failed.
+  // A failed write leaves no temporary file.
   static void expect_folder() {
     for (const std::string& name : WorkFolder::list("etc")) EXPECT_FALSE(name.starts_with(".qvt_new")) << name;
   }
@@ -414,18 +414,19 @@ class EveryAllocation : public testing::TestWithParam<Operation> {
   std::string m_expected;
 };
 
-// One allocation fails; whether there was such a one. Whatever comes of it, the same engine then does the same right.
+// Runs the operation with its n-th allocation failing; false when it makes fewer. After a failure the same operation
+// must succeed on the same engine.
 bool refuse(std::size_t n, const Operation& operation, const std::string& expected, int& thrown) {
   Session s;
   operation.prepare(s);
-  // Telling all about an engine writes its command.
+  // Only when needed: describe() writes the command, which changes the record.
   const std::string before = operation.whole ? describe(s) : "";
   int status = operation.status;
   bool happened = false;
   bool threw = false;
   try {
     const heap::Refusal refusal(n);
-    // The refusal's end is that of the run, an exception included.
+    // Must be read before the Refusal ends, also when the operation throws.
     struct Look {
       bool& happened;
       ~Look() { happened = heap::Refusal::happened(); }
@@ -441,7 +442,7 @@ bool refuse(std::size_t n, const Operation& operation, const std::string& expect
     return happened;
   }
   if (!threw) {
-    // Told as a failure to write.
+    // A write may report the failure as an error instead of an exception.
     EXPECT_EQ(status, 4);
     EXPECT_EQ(s.e.error(), "Error Opening File");
   }
@@ -455,7 +456,7 @@ bool refuse(std::size_t n, const Operation& operation, const std::string& expect
   return happened;
 }
 
-TEST_P(EveryAllocation, ThatFailsIsToldAndLeavesTheEngineUsable) {
+TEST_P(EveryAllocation, ThatFailsIsReportedAndLeavesTheEngineUsable) {
   const Operation& operation = GetParam();
   std::size_t n = 1;
   int thrown = 0;

@@ -1,5 +1,5 @@
-// System calls that fail, are interrupted, or are the last that a process makes, in a process that reads or writes an
-// option file under strace.
+// System calls that fail, are interrupted, or at which the process is killed. A helper process reads or writes an
+// option file under strace, which injects the faults.
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,7 @@ const std::string kWritten = std::string("0||") + kNewText;
 const std::string kRefused = std::string("4|Error Opening File|") + kNewText;
 constexpr char kMissing[] = "4||an older command";
 
-// A call by its place among those of its name.
+// The nth call with this name, and the errors to inject.
 struct Fault {
   const char* call;
   int nth;
@@ -34,7 +34,7 @@ class Calls : public FileFolder {
     if (const std::string why = why_no_strace(); !why.empty()) GTEST_SKIP() << "strace cannot trace here: " << why;
   }
 
-  // The calls that can fail by themselves; memory is no matter of files.
+  // The system calls of a run, without those for memory.
   std::vector<Call> calls(const std::string& mode) const {
     static const std::set<std::string> memory = {"brk", "mmap", "munmap", "mprotect", "madvise", "mremap", "futex"};
     std::vector<Call> all = run_traced(path(), mode).calls;
@@ -43,7 +43,7 @@ class Calls : public FileFolder {
     return all;
   }
 
-  // The same with a call tampered with: how says what happens to it.
+  // Runs the helper with a fault injected into a call; how is the fault in strace's syntax, such as "error=EIO".
   Trace run_with(const std::string& mode, const Call& call, const std::string& how, const std::string& until = "") {
     Trace trace = run_traced(path(), mode, {call.name + ":" + how + ":when=" + std::to_string(call.count) + until});
     if (how.starts_with("signal")) {
@@ -60,7 +60,7 @@ class Calls : public FileFolder {
     return found != all.end() ? *found : Call();
   }
 
-  // What the helper prints when the faults happen, and what the file is then.
+  // Expects this output of the helper and this content of the file, for each error of each fault.
   void expect_write(const std::vector<Fault>& faults, const std::string& output, const std::string& after) {
     write_old();
     const std::vector<Call> all = calls("write");
@@ -83,7 +83,7 @@ TEST_F(Calls, ThatAreNeededToWriteFailAndTheOldFileStays) {
   expect_write({{"getcwd", 1, {"ENOENT", "EACCES"}},
                 {"openat", 1, {"EACCES", "EIO", "EMFILE", "ENFILE", "ENOTDIR"}},          // the folder
                 {"newfstatat", 2, {"EIO", "EACCES"}},                                     // the old file
-                {"openat", 2, {"EACCES", "EROFS", "ETXTBSY"}},                            // may it be written?
+                {"openat", 2, {"EACCES", "EROFS", "ETXTBSY"}},                            // the old file, to write
                 {"openat", 4, {"EACCES", "EDQUOT", "EIO", "EMFILE", "ENOSPC", "EROFS"}},  // the new file
                 {"fchmod", 1, {"EPERM", "EIO"}},
                 {"write", 1, {"EIO", "ENOSPC", "EDQUOT", "EFBIG"}},
@@ -93,18 +93,18 @@ TEST_F(Calls, ThatAreNeededToWriteFailAndTheOldFileStays) {
                kRefused, kOldText);
 }
 
-TEST_F(Calls, WithoutWhichTheFileIsWrittenAllTheSameMayFail) {
-  expect_write({{"openat", 3, {"EACCES", "EIO", "EMFILE"}},  // what else is in the folder
+TEST_F(Calls, ThatAreNotNeededToWriteMayFail) {
+  expect_write({{"openat", 3, {"EACCES", "EIO", "EMFILE"}},  // the folder, to list it
                 {"getdents64", 1, {"EIO"}},
-                {"openat", 4, {"EEXIST"}},  // another name is taken then
+                {"openat", 4, {"EEXIST"}},  // the writer then tries another name
                 {"flock", 1, {"ENOLCK", "EOPNOTSUPP", "EINVAL", "EAGAIN"}},
                 {"fchown", 1, {"EPERM", "EIO"}},
                 {"fcntl", 1, {"EMFILE"}},
-                {"fsync", 2, {"EIO", "EINVAL"}}},  // the folder, which has the new file already
+                {"fsync", 2, {"EIO", "EINVAL"}}},  // the folder, after the file was replaced
                kWritten, kNewText);
 }
 
-TEST_F(Calls, ThatASignalInterruptsAreMadeAgain) {
+TEST_F(Calls, OfAWriteThatASignalInterruptsAreMadeAgain) {
   write_old();
   const std::vector<Call> all = calls("write");
   for (const Fault& fault :
@@ -118,14 +118,14 @@ TEST_F(Calls, ThatASignalInterruptsAreMadeAgain) {
     EXPECT_EQ(content(), kNewText);
     expect_file_alone();
   }
-  // The file is closed all the same, and was on the disk before.
+  // close() is not repeated: an interrupted close has closed the file, and fsync came before.
   write_old();
   EXPECT_EQ(run_with("write", find(all, {"close", 3, {}}), "error=EINTR").output, kWritten);
   EXPECT_EQ(content(), kNewText);
 }
 
-TEST_F(Calls, ThatWriteAPartGoOnBehindIt) {
-  // The call claims five characters that it did not write: the rest alone is in the file.
+TEST_F(Calls, ThatWriteAPartAreFollowedByOneForTheRest) {
+  // The injected result claims that five characters were written, so only the rest is in the file.
   write_old();
   const Call call = find(calls("write"), {"write", 1, {}});
   write_old();
@@ -137,7 +137,7 @@ TEST_F(Calls, ThatWriteAPartGoOnBehindIt) {
   expect_file_alone();
 }
 
-TEST_F(Calls, ThatGiveTheFileToItsOwnerMayAllFailAndItsModeIsKept) {
+TEST_F(Calls, ThatSetTheOwnerMayFailAndTheModeIsKept) {
   write_old();
   std::filesystem::permissions(file(), std::filesystem::perms(0640));
   EXPECT_EQ(run_with("write", find(calls("write"), {"fchown", 1, {}}), "error=EPERM", "+").output, kWritten);
@@ -145,7 +145,7 @@ TEST_F(Calls, ThatGiveTheFileToItsOwnerMayAllFailAndItsModeIsKept) {
   EXPECT_EQ(std::filesystem::status(file()).permissions(), std::filesystem::perms(0640));
 }
 
-TEST_F(Calls, EachOfAWriteThatFailsLeavesTheOldFileOrTheNewOneAndNoOther) {
+TEST_F(Calls, OfAWriteThatFailLeaveTheOldFileOrTheNewOneAndNoOther) {
   for (const bool existed : {true, false}) {
     std::filesystem::remove(file());
     if (existed) write_old();
@@ -166,7 +166,7 @@ TEST_F(Calls, EachOfAWriteThatFailsLeavesTheOldFileOrTheNewOneAndNoOther) {
   }
 }
 
-TEST_F(Calls, BeforeTheNewFileHasTheModeOfTheOldOneLetNobodyElseReadIt) {
+TEST_F(Calls, CreateTheNewFileUnreadableForOthers) {
   write_old();
   std::filesystem::permissions(file(), std::filesystem::perms(0600));
   run_with("write", find(calls("write"), {"fchown", 1, {}}), "signal=SIGKILL");
@@ -174,7 +174,7 @@ TEST_F(Calls, BeforeTheNewFileHasTheModeOfTheOldOneLetNobodyElseReadIt) {
   EXPECT_EQ(std::filesystem::status(etc() / new_files().front()).permissions(), std::filesystem::perms(0600));
 }
 
-TEST_F(Calls, AtEachOfWhichAWriterDiesLeaveTheOldFileOrTheNewOneAndTheNextClearsUp) {
+TEST_F(Calls, AtWhichAWriterIsKilledLeaveTheOldFileOrTheNewOneAndTheNextWriterCleansUp) {
   write_old();
   int left = 0;
   for (const Call& call : calls("write")) {
@@ -189,7 +189,7 @@ TEST_F(Calls, AtEachOfWhichAWriterDiesLeaveTheOldFileOrTheNewOneAndTheNextClears
   EXPECT_GT(left, 5) << "no writer died with its new file in the folder";
 }
 
-TEST_F(Calls, ThatRemoveTheNewFileMayFailAndTheNextWriterDoesIt) {
+TEST_F(Calls, ThatRemoveTheNewFileMayFailAndTheNextWriterRemovesIt) {
   write_old();
   const Call write = find(calls("write"), {"write", 1, {}});
   write_old();
@@ -202,7 +202,7 @@ TEST_F(Calls, ThatRemoveTheNewFileMayFailAndTheNextWriterDoesIt) {
   expect_written();
 }
 
-TEST_F(Calls, OfLocksThatTheFileSystemLacksLeaveNewFilesToTheirAge) {
+TEST_F(Calls, ForLocksMayFailAndLeftFilesAreRemovedByAge) {
   write_old();
   const std::filesystem::path left = etc() / ".qvt_new.4711.123456789";
   for (const bool old : {false, true}) {
@@ -219,7 +219,7 @@ TEST_F(Calls, OfLocksThatTheFileSystemLacksLeaveNewFilesToTheirAge) {
 
 // --- Reading ---
 
-TEST_F(Calls, ThatAreNeededToReadFailAndThereIsNoFile) {
+TEST_F(Calls, ThatAreNeededToReadFailAndTheFileCountsAsMissing) {
   WorkFolder::write(file(), "connect ov sim");
   const std::vector<Call> all = calls("read");
   for (const Fault& fault : {Fault{"getcwd", 1, {"ENOENT", "EACCES"}},
@@ -250,7 +250,7 @@ TEST_F(Calls, OfAReadThatASignalInterruptsAreMadeAgain) {
   }
 }
 
-TEST_F(Calls, OfAReadEachFailWithoutHarm) {
+TEST_F(Calls, OfAReadThatFailDoNoHarm) {
   WorkFolder::write(file(), "connect ov sim");
   for (const Call& call : calls("read")) {
     SCOPED_TRACE(call.line);

@@ -1,4 +1,4 @@
-// Disks that are full, out of files, or read-only, and a process without descriptors.
+// File systems that are full, out of inodes or read-only, and a process without free file descriptors.
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kNotAllowed = 99;
 
-// Makes this process root of its own name space, where it is not root already.
+// Gives this process a mount name space of its own, and a user name space in which it is root if it is not root.
 bool own_name_space() {
   const std::string uid = "0 " + std::to_string(::getuid()) + " 1";
   const std::string gid = "0 " + std::to_string(::getgid()) + " 1";
@@ -30,14 +30,14 @@ bool own_name_space() {
     std::ofstream("/proc/self/uid_map") << uid;
     std::ofstream("/proc/self/gid_map") << gid;
   }
-  // Nobody else is to see what is mounted from now on.
+  // Mounts from now on are private to this process.
   return ::mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
 class Disk : public FileFolder {
  protected:
-  // Runs in a process that has a small disk of its own in place of etc, with an old option file on it; run returns 0
-  // for success.
+  // Runs in a child process that has a small private file system mounted at etc, with an old option file in it. run
+  // returns 0 for success.
   void on_disk(const std::string& options, const std::function<int()>& run) {
     const int result = in_child([&] {
       if (!own_name_space()) return kNotAllowed;
@@ -49,7 +49,7 @@ class Disk : public FileFolder {
     EXPECT_EQ(result, 0);
   }
 
-  // Takes all that is left.
+  // Writes a file until the disk is full.
   void fill_up() const {
     const int filler = ::open((etc() / "filler").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
     for (const std::size_t size : {4096U, 1U}) {
@@ -60,7 +60,7 @@ class Disk : public FileFolder {
     ::close(filler);
   }
 
-  // 0, or the number of what is wrong.
+  // 0 when the write was refused and the old file is unchanged, else the number of the failed check.
   int refused(SelectedEngine& e) const {
     const std::vector<std::string> before = WorkFolder::list(etc());
     if (e.engine.Generate() != 4) return 1;
@@ -95,7 +95,7 @@ TEST_F(Disk, ThatHasRoomForAPartOfTheTextKeepsTheOldFile) {
   });
 }
 
-TEST_F(Disk, ThatHoldsNoFurtherFileKeepsTheOldOne) {
+TEST_F(Disk, WithoutAFreeInodeKeepsTheOldFile) {
   on_disk("size=64k,nr_inodes=3", [this] {
     std::ofstream(etc() / "filler") << "f";
     Writer e;
@@ -105,7 +105,7 @@ TEST_F(Disk, ThatHoldsNoFurtherFileKeepsTheOldOne) {
   });
 }
 
-TEST_F(Disk, ThatIsReadOnlyKeepsTheOldFileWhichIsRead) {
+TEST_F(Disk, ThatIsReadOnlyKeepsTheOldFileAndItCanBeRead) {
   on_disk("size=64k", [this] {
     WorkFolder::write(file(), "connect ov sim");
     if (::mount("none", etc().c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, "size=64k") != 0) return kNotAllowed;
@@ -121,12 +121,12 @@ TEST_F(Disk, ThatIsReadOnlyKeepsTheOldFileWhichIsRead) {
 
 // --- Descriptors ---
 
-TEST_F(Disk, IsLeftAsItWasByAProcessThatMayOpenTooFewFiles) {
+TEST_F(Disk, KeepsTheOldFileWhenTheProcessHasTooFewFileDescriptors) {
   write_old();
   EXPECT_EQ(in_child([this] {
               rlimit limit = {};
               ::getrlimit(RLIMIT_NOFILE, &limit);
-              // The first descriptor that is free.
+              // The lowest free descriptor.
               const int next = ::dup(0);
               ::close(next);
               int refusals = 0;

@@ -20,7 +20,7 @@ class FileFolder : public testing::Test {
 
   void write_old() const { WorkFolder::write(file(), kOldText); }
   void expect_file_alone() const { EXPECT_EQ(WorkFolder::list(etc()), std::vector<std::string>{"qvt_p.opt"}); }
-  // The next writer finds nothing wrong and leaves nothing behind.
+  // Writes once more, which must succeed and leave no other file.
   void expect_written() const {
     Writer e;
     EXPECT_EQ(e.engine.Generate(), 0);

@@ -11,7 +11,7 @@ namespace {
 std::size_t heldBlocks = 0;
 std::size_t heldBytes = 0;
 std::size_t mostBytes = 0;
-std::size_t untilRefusal = 0;  // 0: none is refused
+std::size_t untilRefusal = 0;  // 0: no allocation fails
 
 }  // namespace
 

@@ -1,17 +1,17 @@
 #pragma once
 
-// The heap of this program, which counts what is taken from it and refuses what a test wants refused.
+// Replaces operator new and delete: counts allocations, and makes one fail where a test wants it.
 
 #include <cstddef>
 
 namespace heap {
 
-std::size_t blocks();  // that are held now
-std::size_t bytes();   // that are held now
-std::size_t peak();    // the most bytes since restart_peak
+std::size_t blocks();  // currently allocated
+std::size_t bytes();   // currently allocated
+std::size_t peak();    // maximum of bytes() since restart_peak()
 void restart_peak();
 
-// Refuses the n-th allocation of those that are made while this lives, with std::bad_alloc, and no other.
+// While it lives, the n-th allocation from now on throws std::bad_alloc; the others succeed.
 class Refusal {
  public:
   explicit Refusal(std::size_t n);
@@ -19,7 +19,7 @@ class Refusal {
   Refusal(const Refusal&) = delete;
   Refusal& operator=(const Refusal&) = delete;
 
-  // Whether there were that many.
+  // Whether the n-th allocation was made.
   static bool happened();
 };
 

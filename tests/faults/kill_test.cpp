@@ -1,4 +1,4 @@
-// Several processes at one option file, some of which are killed or stopped at any moment.
+// Several processes that use the same option file, some of which are killed or stopped at a random moment.
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -26,7 +26,7 @@ constexpr unsigned int kSeed = 20;
 const std::string kLongPort(3000, 'x');
 const std::string kLongText = StubWriter::text(kLongPort);
 
-// Writes the two texts in turn; for ever when times is 0. 0, or 1 when a write failed.
+// Writes the two texts in turn, for ever when times is 0. Returns 1 when a write failed, else 0.
 int write_in_turn(int times) {
   Writer a;
   StubWriter b(kLongPort);
@@ -72,7 +72,7 @@ class Writers : public FileFolder {
   std::mt19937 m_random{kSeed};
 };
 
-TEST_F(Writers, KilledAThousandTimesLeaveAWholeFileAndOneNewOneAtMost) {
+TEST_F(Writers, KilledAThousandTimesLeaveAWholeFileAndAtMostOneNewFile) {
   int left = 0;
   for (int i = 0; i < 1000 && !HasFailure(); ++i) {
     SCOPED_TRACE(i);
@@ -88,7 +88,7 @@ TEST_F(Writers, KilledAThousandTimesLeaveAWholeFileAndOneNewOneAtMost) {
   expect_written();
 }
 
-TEST_F(Writers, ThreeAtATimeKilledLeaveNothingThatTheNextDoesNotClear) {
+TEST_F(Writers, ThreeAtATimeKilledLeaveOnlyFilesThatTheNextWriterRemoves) {
   int left = 0;
   for (int i = 0; i < 100 && !HasFailure(); ++i) {
     SCOPED_TRACE(i);
@@ -117,8 +117,9 @@ TEST_F(Writers, FourAtATimeAllSucceedAndLeaveOneOfTheTexts) {
   expect_file_alone();
 }
 
-// A process that is stopped may hold its new file for ever; nobody waits for it, and it goes on when it may.
-TEST_F(Writers, ThatAreStoppedHoldNobodyUpAndFinishLater) {
+// A stopped writer may keep its new file locked. Other writers do not wait for it, and it finishes when it is
+// continued.
+TEST_F(Writers, ThatAreStoppedDoNotBlockOthersAndFinishLater) {
   const pid_t writer = start(300);
   int stopped = 0;
   int kept = 0;
@@ -133,7 +134,7 @@ TEST_F(Writers, ThatAreStoppedHoldNobodyUpAndFinishLater) {
       StubWriter e(kLongPort);
       EXPECT_EQ(e.engine.Generate(), 0);
       EXPECT_EQ(content(), kLongText);
-      // One that was stopped before it could lock its new file loses it, and makes another.
+      // A writer stopped before it locked its new file loses the file, and creates another one when it is continued.
       const std::vector<std::string> now = new_files();
       EXPECT_TRUE(now.empty() || now == held);
       kept += now.empty() ? 0 : 1;
@@ -167,7 +168,8 @@ TEST_F(Writers, AreReadAsOneOfTheTexts) {
   kill_now(writer);
 }
 
-// An editor that writes into the file itself: whatever is read of it, reading ends, and ends in one of its results.
+// An editor that writes into the file without replacing it. A reader may see any part of it, but must return one of the
+// documented results.
 TEST_F(Writers, ThatChangeTheFileInPlaceDoNoHarmToReaders) {
   const pid_t editor = ::fork();
   if (editor == 0) {

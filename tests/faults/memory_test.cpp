@@ -1,4 +1,4 @@
-// What long texts and long chains take from the heap.
+// Heap use of long texts and long chains.
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -18,8 +18,8 @@ namespace SdkDebugDialog {
 namespace {
 
 struct Use {
-  double peak;  // bytes for each unit while it works
-  double kept;  // bytes for each unit afterwards
+  double peak;  // bytes per unit at most during the work
+  double kept;  // bytes per unit afterwards
 };
 
 Use measure(std::size_t units, const std::function<void()>& work) {
@@ -30,7 +30,8 @@ Use measure(std::size_t units, const std::function<void()>& work) {
   return {static_cast<double>(heap::peak() - before) / count, static_cast<double>(heap::bytes() - before) / count};
 }
 
-// Every size takes the same for a unit, within what the doubling of a container makes of it, and no more than that.
+// Memory per unit stays below the limit and does not grow with the size. The factor allows for containers that double
+// their capacity.
 void expect_linear(const char* what, const std::vector<Use>& uses, double most) {
   std::cout << what << ": bytes at the peak, and afterwards:";
   for (const Use& use : uses) {
@@ -52,7 +53,7 @@ std::string repeated(const std::string& part, std::size_t size) {
   return text;
 }
 
-// Reads texts of each size, and writes what was read.
+// Reads texts of each size and writes them again.
 void expect_linear_text(const std::string& head, const std::string& part, double mostRead, double mostWritten) {
   std::vector<Use> reads;
   std::vector<Use> writes;
@@ -70,14 +71,14 @@ void expect_linear_text(const std::string& head, const std::string& part, double
   expect_linear("writing", writes, mostWritten);
 }
 
-// Two texts of twice the length, and what whole pages add.
+// At most two copies of up to twice the length, rounded up to whole pages.
 TEST(Memory, GrowsWithTheLengthOfOneValue) { expect_linear_text("connect ov stub -comm serial -port ", "x", 3, 4.1); }
 
 TEST(Memory, GrowsWithTheLengthOfManyValues) {
   expect_linear_text("connect ov odm -cable type zarvek_plugin modulename m", " modulearg argument", 4, 8);
 }
 
-TEST(Memory, GrowsWithTheLengthOfAnUnknownWordOfWhichTheTextKeepsThousandsOfCharacters) {
+TEST(Memory, GrowsWithTheLengthOfAnUnknownKeyword) {
   std::vector<Use> reads;
   for (const std::size_t size : kCharacters) {
     const std::string text = "connect ov odm -debugdevice " + std::string(size, 'x') + " 1";
@@ -104,9 +105,9 @@ TEST(Memory, GrowsWithTheLengthOfAChain) {
   expect_linear("writing a device", writes, 350);
 }
 
-// --- The option file: no more than the line that counts ---
+// --- The option file: only the first line is kept ---
 
-TEST(Memory, OfReadingAnOptionFileIsThatOfOneLineWhateverItsSize) {
+TEST(Memory, OfReadingAnOptionFileDoesNotDependOnItsSize) {
   const WorkFolder folder;
   const std::string start = "connect ov stub -port ";
   for (const bool letters : {false, true}) {

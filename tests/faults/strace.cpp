@@ -10,7 +10,7 @@
 
 namespace {
 
-// What a shell command prints.
+// The output of a shell command.
 std::string output_of(const std::string& command) {
   std::string text;
   FILE* const pipe = ::popen(command.c_str(), "r");
@@ -27,7 +27,7 @@ std::string why_no_strace() { return output_of("strace -o /dev/null true 2>&1 ||
 Trace run_traced(const std::filesystem::path& folder, const std::string& mode,
                  const std::vector<std::string>& injections) {
   const std::filesystem::path log = folder / "trace";
-  // The leak checker cannot work in a process that is traced.
+  // The leak checker does not work in a traced process.
   std::string command = "exec 2>&1; ASAN_OPTIONS=detect_leaks=0 strace -o '" + log.string() + "'";
   for (const std::string& injection : injections) command += " -e inject=" + injection;
   Trace trace;

@@ -20,7 +20,7 @@ using testing::IsEmpty;
 
 using Names = std::vector<std::string>;
 
-// What discovery finds out about a processor.
+// The fields of a record that discovery sets.
 struct Found {
   std::string name;
   unsigned int family;
@@ -96,7 +96,7 @@ TEST(Discovery, AppendsToTheNamesOfTheCaller) {
   EXPECT_THAT(names, ElementsAre("before", "ovrin_0"));
 }
 
-// A tool suite may put its answer in the place of what the vector held.
+// A hardware manager may assign to the vector instead of appending to it.
 class ReplacingHardware : public FakeHardware {
  public:
   using FakeHardware::getIpInstances;
@@ -244,11 +244,11 @@ TEST(DiscoveryOfSoftProcessors, AdmitsTheStubWhereThereIsALightUart) {
   EXPECT_THAT(listed(d.imp), ElementsAre(Found{"a", 0, 0, 135, 1}, Found{"b", 0, 0, 133, 2}));
 }
 
-TEST(DiscoveryOfSoftProcessors, TakesWhateverADebugModuleReachesForOne) {
+TEST(DiscoveryOfSoftProcessors, ListsEveryProcessorBehindADebugModule) {
   FakeHardware hw;
   hw.debugIps = {"odm_0", "odm_1"};
   hw.ipTypes = {{"odm_0", "odm"}, {"odm_1", "odm"}, {"ppc_0", "ppc405"}};
-  hw.reached = {{"odm_0", {"ppc_0"}}, {"odm_1", {"ppc_0"}}};  // twice: no check is made
+  hw.reached = {{"odm_0", {"ppc_0"}}, {"odm_1", {"ppc_0"}}};  // listed twice: duplicates are not checked
   DiscoveredEngine d;
   discover(d, hw);
   EXPECT_THAT(listed(d.imp), ElementsAre(Found{"ppc_0", 0, 0, 3, 1}, Found{"ppc_0", 0, 0, 3, 2}));
@@ -306,7 +306,7 @@ TEST(DiscoveryOfPowerPCs, TellsTheVariantBy405AnywhereInTheType) {
   hw.peripherals = {{"a", {"uart"}}};
   DiscoveredEngine d;
   discover(d, hw);
-  // What a bridge reaches is listed as a PowerPC even if it is an "ovrin", and then not listed again.
+  // An "ovrin" behind a bridge is listed as a PowerPC, and not again as a soft processor.
   EXPECT_THAT(listed(d.imp), ElementsAre(Found{"a", 1, 1, 3, 1}, Found{"b", 1, 1, 3, 2}, Found{"c", 1, 1, 3, 3},
                                          Found{"d", 1, 2, 3, 4}, Found{"e", 1, 2, 3, 5}, Found{"f", 1, 2, 3, 6},
                                          Found{"unknown", 1, 2, 3, 7}));

@@ -30,7 +30,7 @@ struct Message {
   bool operator==(const Message&) const = default;
 };
 
-// What the message manager was told, and by an engine in which state: a sink is a plain function.
+// The messages that were sent, and the state of the engine at that time. Global, because a sink is a plain function.
 std::vector<Message> messages;
 const EngineImp* watched = nullptr;
 std::vector<const HHSMHwManager*> hardwareDuringMessages;
@@ -106,8 +106,8 @@ TEST_F(ProcessorFromCommand, IsTheListedOneOfTheSameFamilyAndNumber) {
       {"connect ov odm", "ovrin_1", 0, 0, 3, 1, 2},
       {"connect ov odm -debugdevice cpunr 2", "ovrin_2", 0, 0, 135, 2, 2},
       {"connect ov stub -debugdevice cpunr 2", "ovrin_2", 0, 0, 135, 2, 4},
-      {"connect ov stub", "ovrin_1", 0, 0, 3, 1, 4},  // the command is believed, the mask is the design's
-      {"connect ppc hw", "ppc_1", 1, 6, 3, 1, 2},     // the variant is the command's
+      {"connect ov stub", "ovrin_1", 0, 0, 3, 1, 4},  // connection from the command, mask from the design
+      {"connect ppc hw", "ppc_1", 1, 6, 3, 1, 2},     // variant from the command
       {"connect ppc sim", "ppc_1", 1, 6, 3, 1, 1},
       {"connect ppc hw -debugdevice cpunr 2 proctype ppc440", "ppc_2", 1, 2, 3, 2, 2},
       {"connect arm hw", "a9_1", 2, 4, 2, 1, 2},
@@ -350,7 +350,7 @@ TEST_F(ProcessorFromCommand, ThatCannotBeReadLeavesTheSelectedRecordBeforeAlone)
   EXPECT_EQ(d.engine.GetConnectionType(type), 1);
 }
 
-// --- What is thrown ---
+// --- Exceptions ---
 
 TEST_F(ProcessorFromCommand, ThrowsForALoneDashAndLeavesNoProcessorSelected) {
   for (const char* const command : {"-", "connect -", "connect ov odm -quiet - -foo",

@@ -86,7 +86,6 @@ TEST_F(Selection, NumberIsLookedUpByteForByte) {
   }
 }
 
-// Whatever was looked for before.
 TEST_F(Selection, GoesByTheNamesThatProcessorsHaveNow) {
   EXPECT_EQ(d.engine.GetProcessorNr("a9_0"), 1);
   ProcessorInfoImp& second = d.list("a9_0");
@@ -258,7 +257,7 @@ TEST_F(Selection, ThatCannotBeReadForNoStoredReasonLeavesAnEmptyText) {
     write_option_file("ovrin_0", text);
     d.engine.SetErrorStr("before");
     info = {77, 78, 79};
-    const bool powerPC = std::string_view(text) == "connect ppc hw";  // the target is not held against the processor
+    const bool powerPC = std::string_view(text) == "connect ppc hw";  // the target is not compared with the processor
     EXPECT_EQ(d.engine.SetProcessor("ovrin_0", info), powerPC ? 0 : 3);
     EXPECT_EQ(d.error(), "");
     expect_info(info, 0, 0, 135);
@@ -279,7 +278,7 @@ TEST_F(Selection, WithoutHardwareTakesTheListAndNoFpu) {
   write_option_file("ppc_0", "connect ppc hw -debugdevice fpuType dp");
   EXPECT_EQ(d.engine.SetProcessor("ppc_0", info), 0);
   EXPECT_EQ(ppc->fpuType, 0U);
-  expect_info(info, 6, 1, 3);  // the text tells the variant
+  expect_info(info, 6, 1, 3);  // the variant is taken from the text
 }
 
 TEST_F(Selection, SelectsTheFirstProcessorWithTheName) {
@@ -359,7 +358,7 @@ TEST_F(Selection, WithACommandThatIsNoneLeavesAnEmptyText) {
 TEST_F(Selection, WithACommandForTheDebugModuleMarksTheProcessorEvenWhenItCannotBeRead) {
   EXPECT_EQ(d.engine.ParseProcessorInfo("ovrin_0", info, "connect odm -uart -foo"), 3);
   EXPECT_EQ(d.error(), "UNKNOWN Option '-foo'");
-  expect_info(info, 0, 0, 16);  // what a processor admits is not a setting
+  expect_info(info, 0, 0, 16);  // a reset does not restore allowedConnections
   expect_default_settings(*ovrin);
 }
 

@@ -1,4 +1,4 @@
-// The PowerPC debug address map, from any base on.
+// The PowerPC debug address map, for random bases.
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -17,7 +17,7 @@ constexpr Field kInOrder[] = {&ProcessorInfoImp::icacheStartAddr, &ProcessorInfo
                               &ProcessorInfoImp::dcacheStartAddr, &ProcessorInfoImp::dtagStartAddr,
                               &ProcessorInfoImp::dcrStartAddr,    &ProcessorInfoImp::tlbStartAddr};
 
-// Corners as often as anything else.
+// Any base, one near the end of the address space, or a multiple of 64 KB.
 std::uint32_t any_base() {
   return *rc::gen::oneOf(
       rc::gen::arbitrary<std::uint32_t>(), rc::gen::inRange<std::uint32_t>(0xFFFA0000, 0xFFFFFFFF),

@@ -1,4 +1,4 @@
-// Which clock frequencies each cable takes, over all of them.
+// The clock frequencies that each cable supports, checked with random frequencies.
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -50,7 +50,7 @@ std::vector<std::uint32_t> corners() {
   return all;
 }
 
-// What the check answers and leaves behind.
+// The result of the check and the state after it.
 bool is_taken(const Cable& cable, std::uint32_t frequency) {
   SelectedEngine s;
   s.imp.cable->type = static_cast<Engine::CableType>(cable.type);

@@ -1,4 +1,4 @@
-// Which clock frequencies each cable takes.
+// The clock frequencies that each cable supports.
 
 #include <gtest/gtest.h>
 
@@ -16,8 +16,8 @@ namespace {
 struct Cable {
   unsigned int type;
   std::vector<unsigned int> accepted;
-  std::string refusal;  // up to the frequency
-  std::string offered;  // after it
+  std::string refusal;  // error text before the frequency
+  std::string offered;  // error text after the frequency
 };
 
 const Cable kChecked[] = {
@@ -38,7 +38,7 @@ const Cable kChecked[] = {
      "30000000"},
 };
 
-// Types that take no frequency at all.
+// Types without a frequency.
 constexpr unsigned int kUnchecked[] = {0, 1, 5, 6, 8, 0xFFFFFFFF};
 
 void set_cable(SelectedEngine& s, unsigned int type, unsigned int frequency) {
@@ -61,7 +61,7 @@ TEST(CableFrequency, OfEachTypePassesWhenItIsAccepted) {
 }
 
 TEST(CableFrequency, OfEachTypeIsRefusedOtherwiseAndStays) {
-  // Every accepted frequency of any type, its neighbours, its half and its double, and some that are far off.
+  // The accepted frequencies of all types, each with its neighbours, half and double, and some arbitrary numbers.
   std::vector<unsigned int> tried = {0, 1, 20000000, 2147483647, 2147483648, 4294967295};
   for (const Cable& cable : kChecked) {
     for (const unsigned int frequency : cable.accepted) {

@@ -57,7 +57,7 @@ constexpr MapGetter kMapGetters[] = {
 
 constexpr unsigned int kConnections[] = {0, 1, 2, 3, 4, 6, 8, 132};
 
-// A PowerPC with the hardware connection, to which everything applies.
+// A PowerPC with the hardware connection, to which all operations apply.
 struct PowerPC : SelectedEngine {
   PowerPC() {
     processor.procFamily = 1;
@@ -66,7 +66,7 @@ struct PowerPC : SelectedEngine {
   }
 };
 
-// Every address of the record but the ones given is as it was.
+// Expects every address of the record to be unchanged, except the given ones.
 std::vector<std::uint32_t> addresses(const ProcessorInfoImp& p) {
   return {p.debugAddressMap, p.isocmStartAddr,  p.isocmSize,      p.isocmDcrStartAddr,
           p.icacheStartAddr, p.dcacheStartAddr, p.itagStartAddr,  p.dtagStartAddr,
@@ -197,7 +197,7 @@ TEST(EngineOnChipMemory, AnswersForAPpc405WithTheHardwareConnectionAlone) {
       for (const std::uint32_t stored : {0xFFFFFFFFU, 0U, 0x1234U}) {
         SCOPED_TRACE(testing::Message() << variant << " " << connection << " " << stored);
         SelectedEngine s;
-        s.processor.procVariant = variant;  // the family is not asked for
+        s.processor.procVariant = variant;  // the family does not matter
         s.processor.connectionType = connection;
         s.processor.isocmStartAddr = stored;
         unsigned int address = 77;

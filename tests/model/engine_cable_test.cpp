@@ -247,7 +247,7 @@ TEST(EngineCallersCable, IsRefusedAsADigilentPluginForEveryOtherType) {
 
 // --- The JTAG chain ---
 
-// The devices are not the engine's to destroy: here they live on the stack.
+// The engine does not own the devices, so they may be local variables.
 class EngineChain : public testing::Test {
  protected:
   EngineChain() { engine.imp->currentProcessor = &processor; }

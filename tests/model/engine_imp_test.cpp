@@ -170,7 +170,7 @@ TEST(ProcessorList, FindsEveryoneWhileTheListGrows) {
   }
 }
 
-// Names of which the ends alone are the same, or the beginnings, or the lengths.
+// Names with a common prefix, a common suffix or the same length.
 TEST(ProcessorList, TellsNamesOfAnyLengthApart) {
   DiscoveredEngine d;
   std::vector<std::string> names;
@@ -191,7 +191,7 @@ TEST(ProcessorList, TellsNamesOfAnyLengthApart) {
   }
 }
 
-// The list is open to its holder, who may change it in any way between two lookups.
+// A caller may change the list in any way between two look-ups.
 class ProcessorListChangedByHand : public testing::Test {
  protected:
   ProcessorListChangedByHand() {
@@ -274,7 +274,7 @@ TEST(ProcessorList, IsQuickInAListOf100000) {
     records[static_cast<std::size_t>(i)].name = "ovrin_" + std::to_string(i);
     imp.processorList.push_back(&records[static_cast<std::size_t>(i)]);
   }
-  // Walking the list for each of these would take minutes.
+  // A linear search for each name would take minutes.
   for (int i = kCount - 1; i >= 0; --i) {
     ASSERT_EQ(find_listed(imp, "ovrin_" + std::to_string(i)), &records[static_cast<std::size_t>(i)]);
   }

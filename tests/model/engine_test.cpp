@@ -1,4 +1,4 @@
-// The engine: what it is made of, its error text, connection, stub, debug device and simulator file.
+// The engine: types, construction, error text, connection, stub, debug device and simulator file.
 
 #include "SdkDebugDialog/Engine.h"
 
@@ -198,7 +198,7 @@ TEST(EngineConnection, IsReadBackUnlessItIsZero) {
 
 TEST(EngineStub, OverASerialLineNeedsAUartInTheSelectedConnection) {
   SelectedEngine s;
-  s.processor.allowedConnections = 0xFF;  // what is admitted does not count
+  s.processor.allowedConnections = 0xFF;  // has no effect on the stub type
   s.processor.connectionType = 4;
   s.processor.stubType = 7;
   EXPECT_EQ(s.engine.SetStubType(Engine::STUB_OVER_SERIAL), 1);
@@ -231,7 +231,7 @@ TEST(EngineStub, OverASerialLineIsTakenWithAConnectionThatCarriesTheUart) {
 TEST(EngineStub, OverJtagIsTakenWithAConnectionThatCarriesTheJtagDevice) {
   SelectedEngine s;
   s.processor.stubType = 1;
-  s.processor.connectionType = 0x40;  // the stub bit itself is not asked for
+  s.processor.connectionType = 0x40;  // STUB_JTAG_PRESENT is enough, without STUB
   EXPECT_EQ(s.engine.SetStubType(Engine::STUB_OVER_JTAG), 0);
   EXPECT_EQ(s.processor.stubType, 0U);
   EXPECT_EQ(s.engine.SetStubType(Engine::STUB_OVER_SERIAL), 1);

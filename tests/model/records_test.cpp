@@ -56,14 +56,14 @@ static_assert(all_are<std::int8_t, decltype(JtagOption::irlength), decltype(Jtag
 static_assert(!std::is_polymorphic_v<ProcessorInfoImp> && !std::is_polymorphic_v<CableOption> &&
               !std::is_polymorphic_v<JtagOption>);
 
-// Whether the fields of one object lie in the order in which they are given.
+// Whether an object has these fields in this order.
 template <class... Fields>
 bool in_order(const Fields&... fields) {
   const void* const addresses[] = {&fields...};
   return std::ranges::is_sorted(addresses, std::less<>());
 }
 
-// No setting has its default.
+// A record in which every setting differs from its default.
 ProcessorInfoImp changed_record() {
   ProcessorInfoImp r;
   r.name = "ppc_1";

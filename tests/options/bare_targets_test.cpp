@@ -1,4 +1,4 @@
-// The targets "odm", "qmtc" and "dcc", which take their options at once.
+// The targets "odm", "qmtc" and "dcc", whose options follow without a connection keyword.
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@
 namespace SdkDebugDialog {
 namespace {
 
-// A target, and the changes that it makes before anything is read.
+// A target, and the changes that it makes before it reads its options.
 struct Target {
   std::string name;
   Reader read;
@@ -23,7 +23,7 @@ const Target kOdm = {"Odm", QvtOption_Parser::parse_odmoptions, "allowedConnecti
 const Target kQmtc = {"Qmtc", QvtOption_Parser::parse_qmtcoptions, "allowedConnections=32"};
 const Target kDcc = {"Dcc", QvtOption_Parser::parse_dccoptions, "procFamily=2 procVariant=4 allowedConnections=256"};
 
-// The changes of the rows are those besides the target's own.
+// The rows list only the changes by options; the target's own changes are added.
 void expect_readings(const Target& target, const std::vector<Reading>& expected) {
   for (Reading reading : expected) {
     reading.changes = target.changes + (reading.changes.empty() ? "" : " " + reading.changes);
@@ -105,7 +105,7 @@ TEST_P(BareTargets, ReplaceWhatIsAdmittedWhateverTheHardwareAndKeepTheConnection
   });
 }
 
-// --- The options that some have ---
+// --- Options of only some of the targets ---
 
 TEST(OdmTarget, ReadsUartRegisterAndChainInAnyCaseAndOrder) {
   const GlobalLocale classic;

@@ -1,4 +1,4 @@
-// The "-cable" option. model/cable_frequency_test.cpp tests which frequencies each type takes.
+// The "-cable" option. model/cable_frequency_test.cpp tests the frequencies that each type supports.
 
 #include <gtest/gtest.h>
 
@@ -95,7 +95,8 @@ TEST(CableReading, JoinsModuleArgumentsWithSemicolonsToWhatWasThere) {
                  [](SelectedEngine& e) { e.imp.cable->modulearg = "z;"; });
 }
 
-// Hexadecimal, longer than the field, and beyond 64 bits, where numbers read as signed end up otherwise.
+// Hexadecimal numbers, numbers longer than the field, and numbers beyond 64 bits, where signed and unsigned conversion
+// differ.
 TEST(CableReading, CutsTheFrequencyTo32Bits) {
   expect_readings(
       kRead,
@@ -181,7 +182,7 @@ TEST(CableReading, PutsTheDefaultFrequencyInPlaceOfAnOlderOneAtTheEndOfTheTextOn
 
 // --- Writing ---
 
-// A cable with every field set but the serial number.
+// A cable with every field set except the serial number.
 void fill(CableOption& cable) {
   cable.frequency = 1234;
   cable.port = "P7";
@@ -226,7 +227,7 @@ TEST(CableWriting, WritesTheSerialNumberInPlaceOfPortAndFrequency) {
   expect_writing(QvtOption_Parser::write_jtagoptions, writing);
 }
 
-// The parts of each kind of cable, whatever its type.
+// What a writer for one kind of cable appends; it does not look at the type.
 std::string written(int (*write)(std::string&, const CableOption&), const CableOption& cable) {
   std::string out = "before";
   EXPECT_EQ(write(out, cable), 0);
@@ -260,7 +261,7 @@ TEST(CableWriting, WritesAnEmptyPortAsNothingBetweenTwoBlanksAndFrequenciesAsSig
   }
 }
 
-// An empty one as a keyword alone.
+// An empty argument is written as the keyword alone.
 TEST(CableWriting, WritesEveryPieceOfTheModuleArguments) {
   struct Row {
     std::string modulearg;

@@ -22,7 +22,7 @@ auto fields(const CableOption& c) {
   return std::make_tuple(unsigned{c.type}, c.frequency, c.port, c.esn, c.fname, c.modulename, c.modulearg, c.url);
 }
 
-// A cable with something in every field.
+// A cable with every field set.
 CableOption filled(Engine::CableType type) {
   CableOption c;
   c.type = type;
@@ -36,7 +36,7 @@ CableOption filled(Engine::CableType type) {
   return c;
 }
 
-// What ParseJtagCableInfo fills, with values of its own before. The devices in the chain are the holder's.
+// The outputs of ParseJtagCableInfo, with initial values. Releases the devices that were added to the chain.
 struct Parsed {
   CableOption cable = filled(Engine::DIGILENT_PLUGIN);
   JtagOption before;
@@ -62,7 +62,7 @@ struct Parsed {
   }
 };
 
-// --- The live plug-in cable ---
+// --- The engine's own plug-in cable ---
 
 constexpr unsigned int kOtherTypes[] = {0, 1, 2, 3, 4, 6, 7, 99};
 
@@ -192,7 +192,7 @@ TEST(CallersCable, StaysUntouchedByATextThatIsNotUnderstood) {
   }
 }
 
-// The leak checker sees the devices here.
+// The sanitizer checks that the devices are released.
 TEST(CallersCable, PassesOverTheDevicesOfAChain) {
   CableOption c;
   EXPECT_EQ(Engine::Set3rdPartyCableOptions(
@@ -222,7 +222,7 @@ TEST(CableInfo, ReplacesCableChainPinsAndDebugDevice) {
   EXPECT_EQ(p.debugDevice, 2);
 }
 
-// The leak checker sees the devices here.
+// The sanitizer checks that the devices are released.
 TEST(CableInfo, LeavesEverythingAsItWasOnAnyFailure) {
   for (const char* const text : {"word", "-cable type zarvek_tcf -configdevice devicenr 1 -foo",
                                  "-cable type zarvek_plugin", "-configdevice jtagport cpu -configdevice devicenr",
@@ -254,7 +254,7 @@ TEST(CableInfo, ResetsEverythingForAnEmptyText) {
   EXPECT_EQ(p.debugDevice, 0);
 }
 
-// The one of the text, else the first FPGA.
+// The one in the text, else the first FPGA.
 TEST(CableInfo, FindsTheDebugDevice) {
   struct {
     const char* text;

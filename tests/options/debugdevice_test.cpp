@@ -36,7 +36,8 @@ TEST(DebugDeviceReading, KnowsEveryKeywordInAnyCase) {
                           {"NCPU 4", 3, "nCpu=4"}});
 }
 
-// Hexadecimal, longer than the field, and beyond 64 bits, where numbers read as signed end up otherwise.
+// Hexadecimal numbers, numbers longer than the field, and numbers beyond 64 bits, where signed and unsigned conversion
+// differ.
 TEST(DebugDeviceReading, CutsNumbersToTheirFields) {
   expect_readings(kRead, {{"deviceNr 0x1C8", 3, "debugDevice=-56"},
                           {"deviceNr -99999999999999999999", 3, "debugDevice=-1"},
@@ -57,7 +58,8 @@ TEST(DebugDeviceReading, CutsNumbersToTheirFields) {
                           {"nCpu -99999999999999999999", 3, "nCpu=0"}});
 }
 
-// What the six bases of the debug address map share; the map itself follows that of the instruction cache.
+// Rules common to the six bases of the debug address map. debugAddressMap is set with the base of the instruction
+// cache.
 TEST(DebugDeviceReading, StoresEveryBaseAndRefusesThoseOffThe64KBoundary) {
   struct Row {
     std::string keyword;
@@ -127,7 +129,7 @@ TEST(DebugDeviceReading, MakesAnyOtherKindAnUnknownPowerPCAndRefusesItWithoutATe
                           {"proctype 1", 2, "procVariant=6"}});
 }
 
-// The discovered number is compared as the signed byte that is written, with all 32 bits of the text's.
+// The discovered number, as a signed byte (as it is written), is compared with all 32 bits of the number in the text.
 TEST(DebugDeviceReading, TakesTheDiscoveredProcessorNumberAloneAndRefusesAnyOtherWithoutAText) {
   FakeHardware hw;
   const auto discovered = [&hw](std::uint8_t number) {
@@ -205,7 +207,7 @@ TEST(DebugDeviceWriting, WritesDeviceAndProcessorNumberAsSignedBytes) {
                             }}});
 }
 
-// A processor with every setting that can be written, and some that cannot.
+// A processor with every setting that can be written, and some that are never written.
 void fill(SelectedEngine& e) {
   ProcessorInfoImp& p = e.processor;
   p.procFamily = 1;

@@ -1,4 +1,4 @@
-// The frame of a command: heads, targets, and the whole texts that are written.
+// Whole commands: heads, targets, and the texts that are written.
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ int read_command(std::string& text, EngineImp& imp) {
   return QvtOption_Parser::ReadQvtCommand(std::exchange(text, {}), imp);
 }
 
-// The same text from the option file of the processor "p".
+// Reads the same text from the option file of the processor "p".
 int read_file(std::string& text, EngineImp& imp) {
   const WorkFolder folder;
   WorkFolder::write(folder.option_file("p"), std::exchange(text, {}));
@@ -29,7 +29,7 @@ int read_file(std::string& text, EngineImp& imp) {
 
 // --- Reading: heads and targets ---
 
-// A text, the statuses as a command and as an option file, and what it changes where it is read.
+// A text, its results as a command and as an option file, and the settings that it changes when it is read.
 struct Framed {
   std::string text;
   int fromCommand;
@@ -230,7 +230,7 @@ TEST(Framing, IsReachedBySelectingAProcessor) {
 
 // --- Writing ---
 
-// A cable, a chain and a debug device, so that every group of a text has something to write.
+// Sets a cable, a chain and a debug device, so that every group is written.
 void connect_everything(SelectedEngine& e) {
   e.imp.cable->CableOptionInit(Engine::ZARVEK_PLATFORMUSB);
   e.imp.cpuJtag = 1;
@@ -249,7 +249,7 @@ const std::string kChain =
     " -cable type zarvek_platformusb port USB21 frequency 6000000 -bscan USER1 -configdevice jtagpin cpujtag "
     "-configdevice devicenr 1 partname part irlength 10 idcode 0xa001093";
 
-// A selected connection and the whole text that it is written as.
+// A selected connection and the whole text that is written for it.
 struct Connection {
   std::uint32_t family;
   std::uint32_t connection;
@@ -351,7 +351,7 @@ TEST(Framing, WritesTheCommandTextAndNothingElseToTheOptionFile) {
   }
 }
 
-// A selected connection that cannot be written, and the text that tells so; empty: none does.
+// A selected connection that cannot be written, and the error text; empty if none is stored.
 struct Refusal {
   std::uint32_t family;
   std::uint32_t connection;

@@ -15,7 +15,7 @@ namespace {
 
 const Reader kRead = QvtOption_Parser::parse_options;
 
-// Each option, complete, and the changes that it makes.
+// Each option with its values, and the settings that it changes.
 struct GeneralOption {
   std::string text;
   std::string changes;
@@ -57,7 +57,7 @@ TEST(GeneralOptions, AreReadInAnyCaseAloneOrBehindOneThatIsIgnored) {
   }
 }
 
-// A cable that other options follow keeps the frequency it had.
+// A cable that is not the last option keeps its old frequency.
 TEST(GeneralOptions, AllFitIntoOneText) {
   expect_reading(kRead,
                  {"-cable type zarvek_platformusb -bscan USER3 -configdevice devicenr 1 partname a -configdevice "
@@ -121,7 +121,8 @@ TEST(GeneralOptions, LoseAnOptionThatStandsWhereAStubValueIsMissing) {
                           {"-baud -cable type zarvek_platformusb", 2, Rest(" zarvek_platformusb")}});
 }
 
-// The last token that the run of options read itself is named in place of an unknown option.
+// The error text names the last token that the loop over the options read itself. At the start and after a group there
+// is none.
 TEST(GeneralOptions, NameNothingForAnUnknownOptionThatIsTheFirstOrFollowsAGroup) {
   expect_readings(kRead, {{"-foo", 2, Error("UNKNOWN Option ''")},
                           {"-foo bar", 2, Error("UNKNOWN Option ''"), Rest(" bar")},

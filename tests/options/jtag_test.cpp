@@ -40,7 +40,8 @@ TEST(DeviceReading, KnowsEveryKeywordInAnyCase) {
                     "nppc=2}"}});
 }
 
-// Hexadecimal, longer than the field, and beyond 64 bits, where numbers read as signed end up otherwise.
+// Hexadecimal numbers, numbers longer than the field, and numbers beyond 64 bits, where signed and unsigned conversion
+// differ.
 TEST(DeviceReading, CutsNumbersToTheirFields) {
   expect_readings(kReadDevice, {{"devicenr 0x1C8", 3, "device{devicenr=-56}"},
                                 {"devicenr -99999999999999999999", 3, "device{devicenr=-1}"},
@@ -216,7 +217,7 @@ TEST(CableAndChainReading, KeepsWhatOptionsBeforeAnErrorStored) {
        {"-configdevice devicenr 1 -cable port p - esn e", kThrows, "cable.port=p device{devicenr=1}", Rest(" esn e")}});
 }
 
-// Quadratic work would take hours here.
+// A quadratic algorithm would take hours here.
 TEST(CableAndChainReading, ReadsAHundredThousandDevicesInTimeLinearInTheText) {
   constexpr std::size_t kDevices = 100000;
   std::string text;

@@ -39,7 +39,7 @@ TEST(LetterCase, KnowsTheClassicLocale) {
   EXPECT_FALSE(LetterCase().is_classic());
 }
 
-// Any two characters, in the locale of the run and in others.
+// Every pair of characters, in the locale of the test run and in others.
 TEST(LetterCase, AgreesWithTheLocaleOnEveryPairOfCharacters) {
   class Shouting : public std::ctype<char> {
     char do_toupper(char c) const override { return c == 'a' || c == '\xE4' ? '!' : c; }

@@ -21,7 +21,7 @@ std::locale classic_with(Facet* facet) {
   return {std::locale::classic(), facet};
 }
 
-// Folds case letter by letter.
+// A ctype facet with a case folding of its own.
 class Letters : public std::ctype<char> {
  protected:
   virtual char capital(char c) const = 0;
@@ -32,12 +32,12 @@ class Letters : public std::ctype<char> {
   }
 };
 
-// Knows no case at all.
+// Without case folding.
 class Caseless : public Letters {
   char capital(char c) const override { return c; }
 };
 
-// The Turkish way: the capital of "i" has a dot (0xDD), and "I" is the capital of a letter without one (0xFD).
+// Turkish in ISO-8859-9: "i" folds to 0xDD (I with a dot), and 0xFD (i without a dot) folds to "I".
 class Turkish : public Letters {
   char capital(char c) const override {
     if (c == 'i') return '\xDD';
@@ -46,7 +46,7 @@ class Turkish : public Letters {
   }
 };
 
-// Takes "x" for white space, and blanks and tabs for letters.
+// "x" is white space; blank and tab are letters.
 class OddSpaces : public std::ctype<char> {
  public:
   OddSpaces() : std::ctype<char>(table()) {}
@@ -66,7 +66,7 @@ class Grouping : public std::numpunct<char> {
   std::string do_grouping() const override { return "\3"; }
 };
 
-// Commands in our own spelling, with every keyword that reading knows.
+// Commands with every keyword, in the spelling that is written.
 const std::vector<std::string> kCommands = {
     ("qconnect ov odm -debugdevice deviceNr 2 cpunr 1 romemStartAdr 0x10000 romemSize 16 isocmStartAdr 0x10 isocmSize "
      "16 "

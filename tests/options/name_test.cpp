@@ -16,7 +16,7 @@ struct Row {
   Name name;
 };
 
-// A name of every length, with letters of both cases and characters beside the letters in ASCII.
+// Names of every length, with letters in both cases and the characters next to the letters in ASCII.
 constexpr Row kRows[] = {
     {"a"},
     {"aB"},
@@ -59,7 +59,7 @@ TEST(Name, IsWrittenWithTheBlanksAroundIt) {
   EXPECT_EQ(kNothing.written(), "");
 }
 
-// Every word that differs from a name in one byte.
+// Every word that differs from a name in at most one byte.
 TEST(Name, IsFoundInAnyCaseOfTheLettersOfAscii) {
   const GlobalLocale classic;
   for (const Row& row : kRows) {
@@ -83,7 +83,7 @@ TEST(Name, IsNotFoundByAWordOfAnotherLength) {
   EXPECT_EQ(find(std::string(100000, 'a')), nullptr);
 }
 
-// A locale in which a letter that ASCII does not have is the capital of one that it has.
+// In this locale a character outside ASCII folds to an ASCII letter.
 TEST(Name, IsFoundInAnyCaseAsTheGlobalLocaleSeesIt) {
   class Shouting : public std::ctype<char> {
     char do_toupper(char c) const override {

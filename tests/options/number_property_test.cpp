@@ -19,7 +19,7 @@ namespace {
 
 // --- Texts ---
 
-// White space, sign, prefix, digits and an end, each of which may be missing.
+// White space, sign, prefix, digits and trailing characters; each part may be empty.
 std::string number_text() {
   const auto spaces = *rc::gen::container<std::string>(rc::gen::elementOf(std::string(" \t\n\v\f\r")));
   const auto sign = *rc::gen::element<std::string>("", "-", "+", "-", "--", "+-");
@@ -33,11 +33,11 @@ std::string number_text() {
 
 std::string any_text() { return *rc::gen::arbitrary<std::string>(); }
 
-// --- The rule, in a plain loop ---
+// --- Reference implementation ---
 
 struct Plain {
   bool negative = false;
-  std::optional<std::uint64_t> size = 0;  // none: does not fit into 64 bits
+  std::optional<std::uint64_t> size = 0;  // nullopt: does not fit into 64 bits
 };
 
 int digit_of(char c) {
@@ -49,7 +49,7 @@ int digit_of(char c) {
 
 Plain plain_number(std::string text, bool anyBase) {
   constexpr std::uint64_t kMax = std::numeric_limits<std::uint64_t>::max();
-  text += '\0';  // fits nothing
+  text += '\0';  // ends every number
   Plain number;
   std::size_t i = text.find_first_not_of(" \t\n\v\f\r");
   if (text[i] == '-' || text[i] == '+') number.negative = text[i++] == '-';
@@ -116,7 +116,7 @@ RC_GTEST_PROP(NumberProperty, EveryNumberIsReadBackInEachBase, (std::uint64_t nu
 
 // --- Signed fields of 8 bits ---
 
-// The low 8 bits, of which the highest one counts -128.
+// The low 8 bits as a two's complement number.
 int low_byte(std::uint32_t number) {
   const int rest = static_cast<int>(number % 256);
   return rest < 128 ? rest : rest - 256;

@@ -163,7 +163,7 @@ TEST(Number, ReadsAnyOtherTextLikeTheCLibrary) {
   }
 }
 
-TEST(Number, LooksAtNothingBehindTheText) {
+TEST(Number, ReadsNothingBeyondTheEndOfTheText) {
   const std::string_view text = "0x1f99";
   EXPECT_EQ(to_unsigned(text.substr(0, 1)), 0U);
   EXPECT_EQ(to_unsigned(text.substr(0, 2)), 0U);

@@ -1,4 +1,4 @@
-// The option file, as the parser reads and writes it.
+// Reading and writing the option file.
 
 #include "options/option_file.h"
 
@@ -53,7 +53,7 @@ class OptionFile : public testing::Test {
   fs::path file() const { return m_folder.option_file("p"); }
   std::string content() const { return WorkFolder::read(file()); }
 
-  // What is read from a file with this content.
+  // Writes a file with this content and expects these results of reading it.
   void expect_read(const std::string& fileContent, int status, const std::string& command) {
     SCOPED_TRACE(testing::PrintToString(fileContent.substr(0, 60)) + " of " + std::to_string(fileContent.size()));
     WorkFolder::write(file(), fileContent);
@@ -68,7 +68,7 @@ class OptionFile : public testing::Test {
   }
   void expect_no_file() { expect_read_as_it_is(4, "an older command"); }
 
-  // Writing is refused, and tells so.
+  // Expects that writing fails with the error text.
   void expect_refused() {
     Writer e;
     EXPECT_EQ(e.engine.Generate(), 4);
@@ -181,7 +181,7 @@ TEST_F(OptionFile, LosesWhatStandsBehind1023Characters) {
   const std::string blanks(1023 - 14, ' ');
   expect_read("connect ov odm" + blanks + "-foo", 0, "connect ov odm" + blanks);
   expect_read("connect ov odm" + blanks.substr(2) + "xyz", 3, "connect ov odm" + blanks.substr(2) + "xy");
-  // An option of which the dash alone is left.
+  // The line is cut after the dash of an option.
   WorkFolder::write(file(), "connect ov odm" + blanks.substr(1) + "-quiet");
   SelectedEngine e;
   EXPECT_THROW(QvtOption_Parser::ReadQvtOptFile("p", e.imp), std::out_of_range);
@@ -212,7 +212,7 @@ TEST_F(OptionFile, IsCutAtALineFeedThatAWrittenTextHolds) {
   EXPECT_EQ(fresh.processor.command, "connect ov stub -comm serial -port a");
 }
 
-// --- How much of it ---
+// --- Length ---
 
 constexpr off_t kFiveGigabytes = off_t{5} << 30;
 
@@ -239,7 +239,7 @@ TEST_F(OptionFile, OfAnyDateIsReadAndReplaced) {
   expect_written();
 }
 
-// --- What is no option file ---
+// --- Anything but a regular file ---
 
 TEST_F(OptionFile, IsMissingWithoutItsFolderWhichIsNotCreated) {
   fs::remove(etc());
@@ -275,7 +275,7 @@ TEST_F(OptionFile, IsNotASocket) {
 }
 
 TEST_F(OptionFile, IsNotADevice) {
-  // Devices of its own: were one replaced, by root, it should not be the machine's.
+  // Own device nodes, so that an error in the code cannot replace those of the machine.
   for (const auto& [name, number] : {std::pair{"null", 3U}, {"zero", 5U}, {"full", 7U}}) {
     const fs::path device = folder().path() / name;
     if (::mknod(device.c_str(), S_IFCHR | 0666, makedev(1, number)) != 0) GTEST_SKIP() << "may not make devices";
@@ -289,19 +289,19 @@ TEST_F(OptionFile, IsNotADevice) {
   }
 }
 
-// Whether a process waits for something.
+// Whether a process is blocked.
 bool sleeps(pid_t process) {
   const std::string status = WorkFolder::read("/proc/" + std::to_string(process) + "/stat");
   const std::size_t state = status.rfind(") ");
   return state != std::string::npos && status[state + 2] == 'S';
 }
 
-TEST_F(OptionFile, IsNotAPipeWhichIsNotEvenOpened) {
+TEST_F(OptionFile, IsNotAPipeAndAPipeIsNotOpened) {
   for (const bool linked : {false, true}) {
     const fs::path pipe = linked ? folder().path() / "pipe" : file();
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
     if (linked) fs::create_symlink(pipe, file());
-    // Waits in open until somebody opens the other end.
+    // Blocks in open() until another process opens the other end.
     const pid_t waiting = ::fork();
     if (waiting == 0) ::_exit(::open(pipe.c_str(), O_WRONLY) >= 0 ? 0 : 1);
     ASSERT_GT(waiting, 0);
@@ -400,7 +400,7 @@ TEST_F(OptionFile, IsRefusedWhereALinkLeadsToAFolder) {
   expect_names({"qvt_p.opt"});
 }
 
-// --- What survives ---
+// --- Mode and owner ---
 
 TEST_F(OptionFile, IsReplacedWholeAndLeavesNothingBesides) {
   WorkFolder::write(file(), std::string(100000, 'o'));
@@ -443,15 +443,15 @@ TEST_F(OptionFile, KeepsItsOwner) {
   EXPECT_EQ(status.st_mode & 07777, 0640U);
 }
 
-// Reads or writes as a user without rights, in a folder that is open to everybody.
+// Reads or writes as an unprivileged user, in a folder that every user may write to.
 class OptionFileOfOthers : public OptionFile {
  protected:
   void SetUp() override {
-    if (::geteuid() != 0) GTEST_SKIP() << "needs root to become somebody else";
+    if (::geteuid() != 0) GTEST_SKIP() << "needs root to switch to another user";
     fs::permissions(folder().path(), fs::perms::all);
     fs::permissions(etc(), fs::perms::all);
   }
-  // As Generate; 100 when that user cannot be had, 101 when the error text is wrong.
+  // The result of Generate; 100 when switching the user fails, 101 when error text or command are wrong.
   static int generate_as_nobody() {
     return in_child([] {
       if (!become_nobody()) return 100;
@@ -479,7 +479,7 @@ TEST_F(OptionFileOfOthers, IsRefusedWhereTheUserMayNotWriteItAndIsNotReplaced) {
     EXPECT_EQ(content(), kOldText);
     expect_names({"qvt_p.opt"});
   }
-  // The user's own file, made read-only.
+  // A read-only file that belongs to the user.
   ASSERT_EQ(::chown(file().c_str(), 65534, 65534), 0);
   ASSERT_EQ(::chmod(file().c_str(), 0444), 0);
   EXPECT_EQ(generate_as_nobody(), 4);
@@ -496,7 +496,7 @@ TEST_F(OptionFileOfOthers, IsWrittenWhereTheUserMayWriteIt) {
   WorkFolder::write(file(), kOldText);
   EXPECT_EQ(generate_as_nobody(), 0);
   EXPECT_EQ(content(), kNewText);
-  // Root's own file, open to all: its mode survives even where its owner cannot.
+  // A file of root that every user may write to: the owner changes, the mode stays.
   fs::remove(file());
   WorkFolder::write(file(), kOldText);
   ASSERT_EQ(::chmod(file().c_str(), 0666), 0);
@@ -525,7 +525,7 @@ TEST_F(OptionFileOfOthers, KeepsItsGroupWhereTheUserIsInIt) {
   EXPECT_EQ(status.st_mode & 07777, 0660U);
 }
 
-TEST_F(OptionFileOfOthers, LosesTheMarksThatLetActAsItsOwnerOrGroupWhereNeitherCanBeKept) {
+TEST_F(OptionFileOfOthers, LosesItsSetUidAndSetGidBitsWhereOwnerAndGroupCannotBeKept) {
   WorkFolder::write(file(), kOldText);
   ASSERT_EQ(::chmod(file().c_str(), 06666), 0);
   EXPECT_EQ(generate_as_nobody(), 0);
@@ -540,7 +540,7 @@ TEST_F(OptionFileOfOthers, IsNotCreatedInAFolderThatTheUserMayNotWrite) {
   expect_names({});
 }
 
-TEST_F(OptionFileOfOthers, IsAsGoodAsMissingWhereTheUserMayNotReadIt) {
+TEST_F(OptionFileOfOthers, CountsAsMissingWhereTheUserMayNotReadIt) {
   WorkFolder::write(file(), "connect ov odm");
   EXPECT_EQ(read_as_nobody(), 0);
   ASSERT_EQ(::chmod(file().c_str(), 0600), 0);
@@ -549,7 +549,7 @@ TEST_F(OptionFileOfOthers, IsAsGoodAsMissingWhereTheUserMayNotReadIt) {
 
 // --- A file-size limit ---
 
-// Lets files grow to ten bytes and no further.
+// Limits the size of files to ten bytes.
 void limit_files() {
   const rlimit none = {0, 0};
   ::setrlimit(RLIMIT_CORE, &none);
@@ -557,8 +557,7 @@ void limit_files() {
   ::setrlimit(RLIMIT_FSIZE, &ten);
 }
 
-// As Generate under that limit, in a program that does not expect the signal or ignores it; 100 when an output is
-// wrong.
+// The result of Generate under that limit, with this handler of SIGXFSZ; 100 when error text or command are wrong.
 int generate_limited(void (*handler)(int)) {
   static_cast<void>(std::signal(SIGXFSZ, handler));
   limit_files();
@@ -567,7 +566,7 @@ int generate_limited(void (*handler)(int)) {
   return e.error() == (status == 4 ? "Error Opening File" : "") && e.processor.command == kNewText ? status : 100;
 }
 
-TEST_F(OptionFile, HoldsTheOldTextWholeUnderAFileSizeLimitWhichEndsNoProgram) {
+TEST_F(OptionFile, KeepsTheOldTextUnderAFileSizeLimitThatDoesNotEndTheProgram) {
   for (const bool ignored : {true, false}) {
     for (const bool existed : {true, false}) {
       if (existed) WorkFolder::write(file(), kOldText);
@@ -579,7 +578,7 @@ TEST_F(OptionFile, HoldsTheOldTextWholeUnderAFileSizeLimitWhichEndsNoProgram) {
   }
 }
 
-// A signal that was raised in this process.
+// Signals that were delivered to this process.
 volatile std::sig_atomic_t signals = 0;
 void count_signal(int /*signal*/) { signals = signals + 1; }
 
@@ -593,7 +592,7 @@ TEST_F(OptionFile, UnderAFileSizeLimitLeavesSignalsAsTheyWere) {
               if (signals != 0) return 2;
               ::pthread_sigmask(SIG_SETMASK, nullptr, &now);
               if (sigismember(&now, SIGXFSZ) != 0) return 3;
-              // The program's own signal waits until the program takes it.
+              // A signal that the program has blocked stays pending.
               ::pthread_sigmask(SIG_BLOCK, &limit, nullptr);
               static_cast<void>(std::raise(SIGXFSZ));
               if (generate_limited(count_signal) != 4) return 4;
@@ -606,7 +605,7 @@ TEST_F(OptionFile, UnderAFileSizeLimitLeavesSignalsAsTheyWere) {
             0);
 }
 
-// --- Several at a time ---
+// --- Several writers at the same time ---
 
 TEST_F(OptionFile, HoldsOneWholeTextWhileTwoProcessesWriteIt) {
   constexpr int kTimes = 100;
@@ -615,7 +614,7 @@ TEST_F(OptionFile, HoldsOneWholeTextWhileTwoProcessesWriteIt) {
   const std::string longText = StubWriter::text(longName);
   WorkFolder::write(file(), shortText);
 
-  // Closed when we have looked: before, no writer ends, however quick it is.
+  // Each writer continues until this pipe is closed, so that the file is read at least once meanwhile.
   int looked[2];
   ASSERT_EQ(::pipe2(looked, O_NONBLOCK | O_CLOEXEC), 0);
 
@@ -646,12 +645,12 @@ TEST_F(OptionFile, HoldsOneWholeTextWhileTwoProcessesWriteIt) {
   expect_names({"qvt_p.opt"});
 }
 
-// --- Files that a writer left when it died ---
+// --- Temporary files of killed writers ---
 
-// A new file of a writer that is gone.
+// The temporary file of a writer that no longer exists.
 constexpr char kLeft[] = ".qvt_new.4711.123456789";
 
-TEST_F(OptionFile, IsWrittenAtOnceThoughAnotherWriterIsAtWorkWhoseFileStays) {
+TEST_F(OptionFile, IsWrittenAtOnceDuringAnotherWriteWhoseTemporaryFileStays) {
   WorkFolder::write(etc() / kLeft, "half a te");
   const int held = ::open((etc() / kLeft).c_str(), O_WRONLY | O_CLOEXEC);
   ASSERT_GE(held, 0);
@@ -671,7 +670,7 @@ TEST_F(OptionFile, IsWrittenAtOnceThoughTheFolderIsLocked) {
   ::close(held);
 }
 
-TEST_F(OptionFile, IsWrittenInAFolderThatIsClearedOfOurOwnFilesAlone) {
+TEST_F(OptionFile, IsWrittenAndOnlyOurOwnTemporaryFilesAreRemoved) {
   const std::vector<std::string> others = {".qvt_new",    ".qvt_new.1.2.tmp", ".qvt_newer.1.2",
                                            "qvt_new.1.2", "qvt_q.opt",        "x.qvt_new.1.2"};
   for (const std::string& name : others) WorkFolder::write(etc() / name, "connect ov sim");
@@ -689,7 +688,7 @@ TEST_F(OptionFile, IsWrittenInAFolderThatIsClearedOfOurOwnFilesAlone) {
   EXPECT_EQ(WorkFolder::read(etc() / "qvt_q.opt"), "connect ov sim");
 }
 
-TEST_F(OptionFile, IsWrittenBesideFilesThatBearALetterMoreThanOurOwn) {
+TEST_F(OptionFile, IsWrittenAndFilesWithALetterInTheirNumbersAreKept) {
   std::vector<std::string> others;
   for (char c = 'a'; c <= 'z'; ++c) others.push_back(std::string(".qvt_new.1") + c + ".2");
   for (const std::string& name : others) WorkFolder::write(etc() / name, "connect ov sim");
@@ -698,7 +697,7 @@ TEST_F(OptionFile, IsWrittenBesideFilesThatBearALetterMoreThanOurOwn) {
   expect_names(others);
 }
 
-TEST_F(OptionFile, ThatALinkCallsLikeAFileLeftBehindIsKept) {
+TEST_F(OptionFile, ThatIsALinkToANameLikeThatOfATemporaryFileIsKept) {
   WorkFolder::write(etc() / kLeft, kOldText);
   fs::create_symlink(kLeft, file());
   WorkFolder::write(file(), kOldText);
@@ -708,14 +707,14 @@ TEST_F(OptionFile, ThatALinkCallsLikeAFileLeftBehindIsKept) {
   expect_names({kLeft, "qvt_p.opt"});
 }
 
-// Sets when a file was last written.
+// Sets the modification time of a file.
 void set_age(const fs::path& path, std::chrono::seconds age) {
   const std::time_t then = std::time(nullptr) - age.count();
   const std::array<timespec, 2> times = {{{then, 0}, {then, 0}}};
   ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
 }
 
-TEST_F(OptionFileOfOthers, IsWrittenAndFilesThatMayNotBeOpenedAreClearedAfterAnHour) {
+TEST_F(OptionFileOfOthers, IsWrittenAndTemporaryFilesThatMayNotBeOpenedAreRemovedAfterAnHour) {
   WorkFolder::write(etc() / kLeft, "half a te");
   ASSERT_EQ(::chmod((etc() / kLeft).c_str(), 0600), 0);
   set_age(etc() / kLeft, 59min);

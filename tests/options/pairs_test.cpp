@@ -53,7 +53,7 @@ struct Subject {
   Records records = records_of(selected.imp, &device);
 };
 
-// What reading pairs gives.
+// The result of reading pairs.
 struct Reading : Subject {
   PairsRead read;
   std::string rest;
@@ -86,7 +86,7 @@ TEST(ReadPairs, StoresEveryKindOfValueCutToItsField) {
 }
 
 TEST(ReadPairs, ConvertsASignedNumberTheSignedWay) {
-  // Beyond 64 bits the two ways differ in the bits that are kept.
+  // Beyond 64 bits signed and unsigned conversion differ.
   EXPECT_EQ(Reading("number 99999999999999999999").selected.processor.nCpu, -1);
   EXPECT_EQ(Reading("number -99999999999999999999").selected.processor.nCpu, 0);
   EXPECT_EQ(Reading("address -99999999999999999999").selected.processor.romemSize, 0xFFFFFFFFU);

@@ -30,7 +30,7 @@ TEST(PpcSimulator, ReadsEveryOptionInAnyCase) {
                           {"-DEBUGDEVICE", 0}});
 }
 
-// The rules of "host:port" are the same in all options that have one.
+// All options with "host:port" follow the same rules.
 TEST(PpcSimulator, SplitsAnAddressAtItsFirstColonAndReadsADecimalPortOf32Bits) {
   expect_readings(kRead,
                   {{"-ipcport :7000", 0, "simHost=localhost simPort=7000"},

@@ -1,14 +1,14 @@
 #pragma once
 
-// Tables of texts, and of all that reading each of them gives.
+// Tables of texts with the expected results of reading each of them.
 //
 //   expect_readings(QvtOption_Parser::parse_debugdevice,
 //                   {{"deviceNr 3", 3, "debugDevice=3"},
 //                    {"foo 2 deviceNr 3", 2, Error("UNKNOWN Parameter 'foo' ..."), Rest(" deviceNr 3")}});
 //
-// What a row does not name must not happen: every other setting and the error text stay as they were, and the text is
-// read to its end. A reader of a group returns 0 for a value, 1 at the next option, 2 for an error and 3 at the end of
-// the text; a reader of a target 0 or 2; a reader of a whole command 0 or 3.
+// Whatever a row does not list must stay unchanged: all other settings and the error text. Without Rest the whole text
+// must be consumed. A reader of a group returns 0 for a value, 1 at the next option, 2 for an error and 3 at the end of
+// the text; a reader of a target returns 0 or 2; a reader of a whole command 0 or 3.
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@
 #include "tests/support/SelectedEngine.h"
 #include "tests/support/changes.h"
 
-// In place of a status: a lone dash throws std::out_of_range.
+// In place of a status: reading throws std::out_of_range, because of a lone dash.
 inline constexpr int kThrows = -1;
 
 struct Expected {
@@ -34,17 +34,17 @@ struct Expected {
 struct Error : Expected {
   using Expected::Expected;
 };
-// What is left of the text.
+// The text that was not consumed.
 struct Rest : Expected {
   using Expected::Expected;
 };
-// What newoption_token is afterwards; where a row does not tell, it may be anything.
+// newoption_token afterwards; not checked in a row without it.
 struct LastOption : Expected {
   using Expected::Expected;
 };
 
-// The text, the status and, in any order and where they apply: the changed settings (as tests/support/changes.h writes
-// them) and the above.
+// The text and the status, then in any order: the changed settings (in the format of tests/support/changes.h), Error,
+// Rest and LastOption. Each of these may be missing.
 struct Reading {
   template <class... More>
   Reading(std::string givenText, int expectedStatus, More... more)
@@ -69,7 +69,7 @@ struct Reading {
 using Reader = std::function<int(std::string& text, SdkDebugDialog::EngineImp& imp)>;
 using Prepare = std::function<void(SelectedEngine&)>;
 
-// Reads on an engine of its own, which prepare may change first; the settings are compared with those after that.
+// Reads with a new engine. prepare may change its settings first; these do not count as changes.
 inline void expect_reading(const Reader& read, const Reading& expected, const Prepare& prepare = {}) {
   SCOPED_TRACE(testing::PrintToString(expected.text));
   SelectedEngine e;
@@ -96,5 +96,5 @@ inline void expect_readings(const Reader& read, const std::vector<Reading>& expe
   for (const Reading& reading : expected) expect_reading(read, reading, prepare);
 }
 
-// An error text as it is stored, cut after 2047 characters.
+// An error text is cut after 2047 characters.
 inline Error cut_error(const std::string& error) { return Error(error.substr(0, 2047)); }

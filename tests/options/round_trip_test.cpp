@@ -29,7 +29,7 @@ std::string read_and_write(const std::string& text) {
   return written;
 }
 
-// Texts that come out as they went in.
+// Texts that are written exactly as they were read.
 const char* const kUnchanged[] = {
     "connect ov sim",
     "connect ov stub -comm jtag",
@@ -65,10 +65,10 @@ const struct {
      "cpunr 1"},
     {"CONNECT OV STUB -comm serial -port COM1 -baud 0x1C200 -timeout 5",
      "connect ov stub -comm serial -port COM1  -baud  115200 -timeout 5"},
-    // Heads that are read only.
+    // Heads that are never written.
     {"qconnect ov sim", "connect ov sim"},
     {"QvpConnect OV", "vpconnect ov"},
-    // The defaults of what the text leaves out.
+    // Defaults of settings that are not in the text.
     {"connect ov odm", "connect ov odm -debugdevice cpunr 1"},
     {"connect ov stub", "connect ov stub -comm jtag"},
     {"connect ov stub -comm serial", "connect ov stub -comm serial -port /dev/ttyS0  -baud  0 -timeout 20000"},
@@ -77,10 +77,10 @@ const struct {
     {"connect ov odm -configdevice",
      "connect ov odm -configdevice devicenr 0 partname UNKNOWN irlength 0 idcode 0x0 "
      "-debugdevice cpunr 1"},
-    // A cable before another option keeps whatever frequency it has.
+    // A cable that is not the last option keeps its old frequency.
     {"connect ov odm -cable type zarvek_platformusb -quiet",
      "connect ov odm -cable type zarvek_platformusb port USB21 frequency 0 -debugdevice cpunr 1"},
-    // What is never written.
+    // Settings that are never written.
     {"connect ov sim -memsize 0x100", "connect ov sim"},
     {"connect ov odm -quiet -noattach -writeonly -pfsl port 1 type ms", "connect ov odm -debugdevice cpunr 1"},
     {"connect ov odm -sim -ipcport host1:1 -configdevice devicenr 1",
@@ -119,7 +119,7 @@ TEST(RoundTrip, WritesWhatItReadInTheFormThatItReadsBack) {
   for (const auto& row : kChanged) {
     SCOPED_TRACE(row.read);
     EXPECT_EQ(read_and_write(row.read), row.written);
-    // On-chip memory is that of a ppc405, which a written text does not name.
+    // Only a ppc405 has on-chip memory, and the written text does not contain the processor type.
     if (row.written.find("isocm") == std::string::npos) {
       EXPECT_EQ(read_and_write(row.written), row.written);
     }
@@ -256,7 +256,7 @@ TEST(DesignRoundTrip, GoesBackToTheDefaultsWhenTheTextDoesNotFitTheProcessor) {
   }
 }
 
-TEST(DesignRoundTrip, FindsTheFpuAfterAReadingThatSucceededAlone) {
+TEST(DesignRoundTrip, FindsTheFpuOnlyAfterASuccessfulRead) {
   DesignedEngine d;
   ProcessorInfo info;
   EXPECT_EQ(d.engine.ParseProcessorInfo("ppc440_0", info, "connect ov"), 3);

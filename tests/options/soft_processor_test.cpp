@@ -115,7 +115,7 @@ TEST(SoftProcessorReading, ThrowsOnALoneDashAndKeepsWhatCameBeforeIt) {
 
 // --- Writing ---
 
-// A processor with something in every group.
+// A processor with settings in every group.
 void fill(SelectedEngine& e) {
   e.engine.SetCableType(Engine::ZARVEK_PLATFORMUSB);
   e.processor.bscanPort = 2;

@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::string_literals;
 
-// Takes the option off the text; its value is what the parser reads.
+// Removes the option from the text; the parser reads only its value.
 int read(std::string& text, EngineImp& imp) {
   const std::string option = text.substr(0, text.find(' '));
   text.erase(0, option.size());

@@ -1,4 +1,4 @@
-// The tables of the syntax fit together. Whoever adds a row and forgets what belongs to it is told here.
+// The tables of the syntax are complete and consistent.
 
 #include "options/syntax.h"
 
@@ -38,7 +38,7 @@ void expect_distinct_names(const Rows& rows) {
   std::set<std::string> seen;
   for (const auto& row : rows) {
     EXPECT_TRUE(seen.insert(boost::to_lower_copy(std::string(row.name.text()))).second)
-        << row.name.text() << " stands there twice";
+        << row.name.text() << " is listed twice";
   }
 }
 
@@ -207,7 +207,7 @@ TEST(Syntax, HasARowForEveryTypeOfCable) {
     if (type.defaultFrequency != 0) {
       EXPECT_TRUE(std::ranges::binary_search(type.accepted, type.defaultFrequency));
     }
-    // What nobody can write has nothing that is written.
+    // A type that cannot be written has no keywords to write.
     EXPECT_TRUE(type.notWritten == nullptr || type.writes.empty());
     for (const Keyword* const keyword : type.writes) EXPECT_NE(keyword->written.holds, nullptr) << keyword->name.text();
   }
@@ -240,7 +240,7 @@ TEST(Syntax, HasAKeywordForEveryFieldOfACable) {
   EXPECT_TRUE(has_keyword(url));
 }
 
-// A keyword of a cable is written by some type, or says why not.
+// Each keyword of a cable is written by some type, or is marked as never written.
 TEST(Syntax, HasAWriterForEveryKeywordOfACable) {
   for (const Keyword& row : kCable.keywords) {
     if (row.written.holds == nullptr || row.name.text() == "type") continue;

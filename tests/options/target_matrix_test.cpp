@@ -1,4 +1,5 @@
-// Every head with every target, connection and option, with and without hardware, against rules told anew.
+// Every head with every target, connection and option, with and without hardware, compared with a second implementation
+// of the rules.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +17,7 @@
 namespace SdkDebugDialog {
 namespace {
 
-// The parts of a text; an empty one is not there.
+// The parts of a text; an empty part is left out.
 struct Text {
   std::string head;
   std::string target;
@@ -95,7 +96,7 @@ class Rules {
     if (text.word == "sim") {
       if (!admitted(1)) return false;
       m_now.connection = 1;
-      // A plain word after "sim" is passed over, an option other than "-memsize" is not.
+      // A plain word after "sim" is ignored, an option other than "-memsize" is an error.
       if (!text.option.empty() && text.option != "stray") return false;
       learn(1, 0, 0);
       return true;
@@ -110,7 +111,7 @@ class Rules {
   bool power_pc(const Text& text) {
     const std::uint32_t bit = text.word == "sim" ? 1 : text.word == "hw" ? 2 : 0;
     if (bit == 0 || !admitted(bit)) return false;
-    learn(0, 1, 6);  // before the options, while the connection comes after them
+    learn(0, 1, 6);  // before the options are read; the connection is set after them
     if (bit == 1 && text.option == "stray") return false;
     if (bit == 1 && !text.option.empty()) {
       m_now.error = "UNKNOWN  PowerPC Sim Option '" + text.option + "'";
@@ -138,7 +139,7 @@ class Rules {
     return true;
   }
 
-  // These take options at once, so that a connection is a stray word.
+  // These targets have no connection keyword, so it is an unexpected word.
   bool bare(const Text& text) {
     if (!text.word.empty() || text.option == "stray") return false;
     if (text.option.empty()) return true;
@@ -188,7 +189,7 @@ std::string join(const Text& text) {
   return line;
 }
 
-// A missing part ends the text, but for the connection, in whose place an option may come.
+// A missing part ends the text, except a missing connection, after which an option may follow.
 bool is_text(const Text& text) {
   if (text.head.empty()) return text.target.empty() && text.word.empty() && text.option.empty();
   return !text.target.empty() || (text.word.empty() && text.option.empty());
@@ -210,7 +211,7 @@ std::vector<Text> all_texts() {
 
 class TargetMatrix : public testing::Test {
  protected:
-  // Reads a text with every hardware, set of connections and kind of processor.
+  // Reads a text with and without hardware, for every set of connections and every kind of processor.
   template <class Read>
   void expect_by_the_rules(const Text& text, bool file, Read read) {
     for (const bool attached : {false, true}) {
@@ -264,7 +265,7 @@ TEST_F(TargetMatrix, EveryCommandIsReadByTheRules) {
 
 TEST_F(TargetMatrix, EveryCommandIsReadByTheRulesInCapitals) {
   for (const Text& text : all_texts()) {
-    // Options stay as they are, for the error texts to name them.
+    // Options are not changed, because error texts contain them.
     std::string line = join({text.head, text.target, text.word, ""});
     for (char& c : line) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
     if (!text.option.empty()) line += " " + text.option;

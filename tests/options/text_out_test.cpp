@@ -48,7 +48,7 @@ TEST(TextOut, WritesNumbersLikePrintf) {
   }
 }
 
-// Pieces of every length around that of the buffer, and numbers at every place in it.
+// Pieces of every length near the size of the buffer, and numbers at every position in it.
 TEST(TextOut, LosesNothingWhereItsBufferEnds) {
   for (std::size_t length = 1000; length < 1060; ++length) {
     for (std::size_t second : {std::size_t{0}, std::size_t{1}, std::size_t{30}, std::size_t{1024}, std::size_t{5000}}) {

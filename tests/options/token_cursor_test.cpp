@@ -21,9 +21,9 @@ TEST(TokenCursor, AnswersViewsIntoTheText) {
   EXPECT_EQ(in.rest().data(), text.data() + 9);
 }
 
-TEST(TokenCursor, LooksAtNothingBehindTheText) {
+TEST(TokenCursor, ReadsNothingBeyondTheEndOfTheText) {
   for (std::size_t length = 1; length <= 200; ++length) {
-    // No terminating character, so that the sanitizer sees a look too far.
+    // Without a terminating character, so that the sanitizer detects a read beyond the end.
     const std::vector<char> text(length, 'a');
     TokenCursor in({text.data(), text.size()});
     std::string_view token;

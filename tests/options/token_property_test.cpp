@@ -1,4 +1,4 @@
-// The tokenizer, for any text.
+// The tokenizer, with random texts.
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -22,7 +22,7 @@ int get_token(std::string& text, std::string& token) {
   }
 }
 
-// Cuts token after token off a text, until there is none.
+// Reads tokens until the end of the text, and compares each with the reference tokenizer.
 void check(const std::string& text) {
   std::string left = text;
   for (int kind = 0; kind != 3;) {

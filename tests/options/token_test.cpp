@@ -1,4 +1,4 @@
-// Tokens and pairs, as the parser cuts them off a text.
+// get_token and get_tokenpair.
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@ using namespace std::string_literals;
 
 constexpr char kOutOfRange[] = "basic_string::at: __n (which is 1) >= this->size() (which is 1)";
 
-// What cutting one token off a text gives.
+// The result of reading one token.
 struct Cut {
   int kind;
   std::string token;
@@ -62,7 +62,6 @@ void expect_pair(const std::string& text, const PairCut& expected) {
 
 // --- Tokens ---
 
-// Whatever a token's length and place in the text.
 TEST(GetToken, PartsTokensAtBlanksAndTabsWhereverTheyStand) {
   for (const char letter : {'a', '!', '~', '\x80', '\xA0', '\xFF'}) {
     for (std::size_t length = 1; length < 150; ++length) {
@@ -180,7 +179,7 @@ TEST(GetToken, SortsEveryByteAsTheClassicLocaleDoes) {
     expect_cut("a"s + c + "b", parts ? Cut{0, "a", c + "b"s} : Cut{0, "a"s + c + "b", ""});
     expect_cut("a"s + c, white ? Cut{0, "a", std::string(1, c)} : Cut{0, "a"s + c, ""});
     expect_cut(c + "a"s, white ? Cut{0, "a", ""} : Cut{c == '-' ? 1 : 0, c + "a"s, ""});
-    // A dash before a blank or a tab stands alone.
+    // A dash followed by a blank or a tab is a lone dash.
     if (!parts) expect_cut("-"s + c + "a", {c >= '0' && c <= '9' ? 0 : 1, "-"s + c + "a", ""});
   }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// A folder made for one test, which is the working directory while it lives.
+// A temporary folder for one test. It is the working directory while it exists.
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
@@ -40,7 +40,7 @@ class WorkFolder {
     std::ifstream in(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
   }
-  // The names in a folder, in order.
+  // The names in a folder, sorted.
   static std::vector<std::string> list(const std::filesystem::path& folder) {
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(folder)) names.push_back(entry.path().filename());

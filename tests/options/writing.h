@@ -1,6 +1,6 @@
 #pragma once
 
-// Tables of settings, and of the text that each is written as.
+// Tables of settings with the text that is expected to be written.
 
 #include <gtest/gtest.h>
 
@@ -11,15 +11,15 @@
 #include "tests/options/reading.h"
 
 struct Writing {
-  std::string text;      // what is appended
-  Prepare prepare = {};  // changes a fresh engine first
+  std::string text;      // the text that is appended
+  Prepare prepare = {};  // changes the settings of a new engine first
   int status = 0;
-  std::optional<std::string> error = {};  // the error text that is stored; none: the one before stays
+  std::optional<std::string> error = {};  // the error text that is stored; nullopt: the old one stays
 };
 
 using Writer = int (*)(std::string& out, SdkDebugDialog::EngineImp& imp);
 
-// Writes behind another text. No setting may change.
+// Writes to the end of another text. No setting may change.
 inline void expect_writing(Writer write, const Writing& expected) {
   SCOPED_TRACE(testing::PrintToString(expected.text));
   SelectedEngine e;

@@ -25,7 +25,7 @@ void receive(int type, const char* id, unsigned int mask, const char* text) {
 
 void ignore(int /*type*/, const char* /*id*/, unsigned int /*mask*/, const char* /*text*/) {}
 
-// Leaves the default sink behind, as each test expects to find it.
+// Restores the default sink after each test.
 class ComMsgMgrTest : public testing::Test {
  protected:
   void SetUp() override { received.clear(); }

@@ -35,7 +35,7 @@ std::string parse_error(const std::string& text) {
   return error_of([&] { DesignFile::parse(text, "x.json"); });
 }
 
-// A design with one more instance behind a processor, a debug module and a UART.
+// A design with a processor, a debug module and a UART, and one more instance after them.
 std::string design_with(const std::string& instance) {
   return R"({"instances": [
     {"name": "ovrin_0", "type": "ovrin", "class": "processor", "peripherals": ["uart_0"]},
@@ -79,7 +79,7 @@ DesignFile example(const std::string& name) {
   return DesignFile::load(PROJECT_SOURCE_DIR "/examples/designs/" + name + ".json");
 }
 
-// A folder of its own that goes away with the test.
+// A temporary folder, removed after the test.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
@@ -304,7 +304,7 @@ TEST(DesignFile, LoadsAndAnswersForAHundredThousandInstances) {
   constexpr int kProcessors = 50'000;
   std::string text = R"({"instances": [)";
   std::string all;
-  const auto add = [](std::string& to, std::string_view part, const std::string& number) {  // number for each #
+  const auto add = [](std::string& to, std::string_view part, const std::string& number) {  // replaces # by number
     for (const char c : part) c == '#' ? to += number : to += c;
   };
   for (int i = 0; i < kProcessors; ++i) {
@@ -484,7 +484,7 @@ TEST(DesignFile, NamesThePlaceInAWrongInstance) {
       {R"({"parameters": {"P/X": {}}})", "/instances/3/parameters/P~1X: found an object, expected a text"},
       {R"({"parameters": {"PX": "1", "PY": "", "PX": "1"}})",
        "/instances/3/parameters/PX: found a second member of this name, expected one"},
-      // Lists that another class has.
+      // Lists in the wrong class.
       {R"({"name": "a", "type": "t", "class": "processor", "processors": ["ovrin_0"]})",
        "/instances/3/processors: found it in class processor, expected it in class debug only"},
       {R"({"processors": [], "name": "a", "type": "t", "class": "other"})",
@@ -585,7 +585,7 @@ TEST(DesignFile, RefusesAFileThatItMayNotRead) {
   ASSERT_EQ(::chmod(path.c_str(), 0), 0);
   std::filesystem::permissions(folder.path(""), std::filesystem::perms::all);
   constexpr uid_t kNobody = 65534;
-  const bool root = ::geteuid() == 0;  // who may read everything
+  const bool root = ::geteuid() == 0;  // root may read every file
   if (root && ::seteuid(kNobody) != 0) GTEST_SKIP() << "cannot become another user";
   const std::string error = load_error(path);
   if (root) {
@@ -604,7 +604,7 @@ TEST(DesignFile, RefusesWhatIsNoRegularFileWithoutOpeningIt) {
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
   EXPECT_EQ(load_error(pipe), pipe + ": found a pipe, expected a regular file");
 
-  // A relative name, since a socket's name must be short.
+  // Relative, because the path of a socket must be short.
   const std::filesystem::path before = std::filesystem::current_path();
   std::filesystem::current_path(folder.path(""));
   const int server = ::socket(AF_UNIX, SOCK_STREAM, 0);
@@ -618,7 +618,7 @@ TEST(DesignFile, RefusesWhatIsNoRegularFileWithoutOpeningIt) {
 TEST(DesignFile, RefusesAFileFarLargerThanAnyDesign) {
   const TemporaryFolder folder;
   const std::string path = folder.write("large.json", "");
-  std::filesystem::resize_file(path, 134'217'729);  // a hole, so it takes no room
+  std::filesystem::resize_file(path, 134'217'729);  // a sparse file
   EXPECT_EQ(load_error(path), path + ": found 134217729 bytes, expected at most 128 MiB");
 }
 

@@ -1,4 +1,4 @@
-// Cable and chain as text, without a design.
+// The subcommands "cable parse" and "cable format".
 
 #include "tool.h"
 
@@ -156,7 +156,7 @@ TEST_F(CableFormat, EveryCableThatCanBeWritten) {
   }
 }
 
-// The arguments of cable format that stand for what cable parse answered.
+// The arguments of "cable format" for the settings that "cable parse" printed.
 std::vector<std::string> arguments_for(const nlohmann::json& settings) {
   std::vector<std::string> arguments = {"cable", "format"};
   const auto add = [&](const char* option, const nlohmann::json& value) {
@@ -178,7 +178,7 @@ std::vector<std::string> arguments_for(const nlohmann::json& settings) {
   return arguments;
 }
 
-TEST_F(CableFormat, ReversesCableParse) {
+TEST_F(CableFormat, IsTheInverseOfCableParse) {
   for (const char* text : {
            "-cable type zarvek_platformusb port USB21 frequency 12000000",
            "-cable type zarvek_parallel port LPT2 frequency 200000 -debugdevice deviceNr 3",

@@ -66,7 +66,7 @@ TEST_F(Files, OptionFileThatIsAPipeIsNotWaitedFor) {
 TEST_F(Files, OptionFileWithoutPermissionIsNoMissingOne) {
   write_option_file("ovrin_0", "connect ov sim");
   ASSERT_EQ(chmod((folder() / "etc/qvt_ovrin_0.opt").c_str(), 0), 0);
-  // The superuser has to put aside what makes permissions void.
+  // Root must drop the capabilities that override file permissions.
   const Result result = shell(
       "[ $(id -u) != 0 ] || aside='setpriv --bounding-set=-dac_override,-dac_read_search --';"
       "exec $aside \"$QVTCFG\" set ovrin_0 debug-device=1");
@@ -100,7 +100,7 @@ TEST_F(Files, OptionFileOfExactlyTheLongestLineIsRead) {
 
 TEST_F(Files, FullDiskKeepsTheOldFile) {
   write_option_file("ovrin_0", "connect ov sim");
-  // No file may grow beyond nothing; standard output is a pipe.
+  // A file-size limit of 0. Standard output is a pipe, to which the limit does not apply.
   const Result result =
       shell("trap '' XFSZ; (ulimit -f 0; \"$QVTCFG\" set ovrin_0 connection=hardware 2>&1; echo code $?) | cat");
   EXPECT_THAT(result.out,

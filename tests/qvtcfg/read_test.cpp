@@ -1,4 +1,4 @@
-// Commands that name no processor, and every target.
+// "read" without a processor, and with every target.
 
 #include "tool.h"
 
@@ -9,7 +9,7 @@ using testing::StartsWith;
 
 class Targets : public Tool {
  protected:
-  // The settings that a command changes, by themselves.
+  // Only the settings that a command changes.
   nlohmann::json settings(const char* command) const { return json({"read", command, "--changed"})["settings"]; }
 };
 
@@ -164,7 +164,7 @@ TEST_F(ReadWithoutDesign, OneThatIsNamedHasToBeThere) {
   EXPECT_EQ(qvtcfg({"read", "connect ov sim"}).code, 4);
 }
 
-// --- Every target, with all that it can say ---
+// --- Every target, with all of its options ---
 
 TEST_F(Targets, PowerPcOverHardware) {
   const auto s = settings(
@@ -282,7 +282,7 @@ TEST_F(Changed, ShowsNothingButTheIdentityOfTheDefaults) {
   EXPECT_EQ(json({"show", "ovrin_1", "--changed"})["settings"].size(), 1U);
 }
 
-TEST_F(Changed, LeavesOutWhatHasItsDefaultAndGroupsWithoutMore) {
+TEST_F(Changed, LeavesOutDefaultsAndEmptyGroups) {
   write_option_file("ovrin_0", "connect ov odm -cable type digilent_plugin -debugdevice deviceNr 2");
   const auto settings = json({"show", "ovrin_0", "--changed"})["settings"];
   EXPECT_EQ(settings["debug-device"], (nlohmann::json{{"debug-device", changed(2)}}));

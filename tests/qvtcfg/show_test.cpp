@@ -144,7 +144,7 @@ TEST_F(Show, UsesColourOnATerminalOnly) {
   EXPECT_THAT(qvtcfg({"show", "ovrin_0"}).out, Not(HasSubstr("\033")));
 }
 
-TEST_F(Show, AnEmptyNoColorAsksForNothing) {
+TEST_F(Show, AnEmptyNoColorHasNoEffect) {
   EXPECT_THAT(qvtcfg_on_terminal({"show", "ovrin_0"}, {"TERM=xterm", "NO_COLOR="}).out, HasSubstr("\033[1m"));
 }
 

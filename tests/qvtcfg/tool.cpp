@@ -33,7 +33,7 @@ void join(int stream, const std::filesystem::path& path, int flags) {
   close(file);
 }
 
-// The program's language is not to depend on where the tests run.
+// The program must not run in the language of the user who runs the tests.
 [[noreturn]] void become(const std::vector<std::string>& command, const std::filesystem::path& folder) {
   std::vector<char*> arguments;
   arguments.reserve(command.size() + 1);

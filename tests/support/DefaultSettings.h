@@ -1,6 +1,6 @@
 #pragma once
 
-// What a reset leaves behind, spelled out.
+// The expected values after a reset.
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include "SdkDebugDialog/EngineImp.h"
 #include "SdkDebugDialog/ProcessorInfo.h"
 
-// Every field of a record but the five that identify the processor.
+// All fields of a record except the five that identify the processor.
 inline void expect_default_settings(const SdkDebugDialog::ProcessorInfoImp& processor) {
   EXPECT_EQ(processor.connectionType, 2U);
   EXPECT_EQ(processor.memSize, 16U);

@@ -1,6 +1,6 @@
 #pragma once
 
-// A hardware design made in a test, and a record of what was asked of it.
+// A hardware design made by a test. It records the calls that it gets.
 
 #include <map>
 #include <string>
@@ -17,7 +17,7 @@ class FakeHardware : public HHSMHwManager {
   std::map<std::string, std::vector<std::string>> reached;                // debug IP: processors
   std::map<std::string, std::vector<std::string>> peripherals;            // processor: peripherals
   std::map<std::pair<std::string, std::string>, std::string> parameters;  // instance and parameter: value
-  std::vector<std::string> questions;                                     // "getIpName x", in the order asked
+  std::vector<std::string> questions;                                     // "getIpName x", in the order of the calls
 
   void getProcessorInstances(std::vector<std::string>& out, bool flag) override {
     questions.push_back(std::string("getProcessorInstances ") + (flag ? "true" : "false"));

@@ -2,8 +2,8 @@
 
 #include <locale>
 
-// Makes a locale the global one while it lives, in C as well where the locale has a name. The tests run under other
-// locales too; those that tell i from I, or quote the system's texts, say that they are about the classic one.
+// While it lives, a locale is the global one, for C as well if the locale has a name. The tests also run under other
+// locales; a test that depends on the case of i, or on texts of the system, sets the classic locale with this.
 class GlobalLocale {
  public:
   explicit GlobalLocale(const std::locale& locale = std::locale::classic()) : m_before(std::locale::global(locale)) {}

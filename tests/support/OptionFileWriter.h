@@ -1,13 +1,13 @@
 #pragma once
 
-// Writing an option file, as the tests of files do it.
+// Engines and texts for tests that write option files.
 
 #include "tests/support/SelectedEngine.h"
 
 inline constexpr char kOldText[] = "an older and rather long content of the option file\n";
 inline constexpr char kNewText[] = "connect ov odm -debugdevice deviceNr 2 cpunr 1";
 
-// An engine whose processor "p" is written as kNewText.
+// An engine with processor "p", whose command is kNewText.
 struct Writer : SelectedEngine {
   Writer() {
     processor.name = 'p';
@@ -15,7 +15,7 @@ struct Writer : SelectedEngine {
   }
 };
 
-// An engine whose processor "p" is written as the text for this port.
+// An engine with processor "p", whose command contains this stub port.
 struct StubWriter : SelectedEngine {
   explicit StubWriter(const std::string& port) {
     processor.name = 'p';

@@ -1,6 +1,6 @@
 #pragma once
 
-// Engines as the tests need them. They release what an engine never does.
+// Engines for tests. They release the records that an engine does not own.
 
 #include <string>
 #include <utility>
@@ -11,7 +11,7 @@
 #include "SdkDebugDialog/JtagOption.h"
 #include "SdkDebugDialog/ProcessorInfo.h"
 
-// Releases the devices of the chain that the engine has at the end.
+// An engine that releases the devices of its chain in the end.
 struct HeldEngine {
   SdkDebugDialog::Engine engine;
   SdkDebugDialog::EngineImp& imp = *engine.imp;
@@ -33,9 +33,9 @@ struct HeldEngine {
   }
 };
 
-// One processor is selected, as readers and writers need it.
+// An engine with a selected processor.
 struct SelectedEngine : HeldEngine {
-  SdkDebugDialog::ProcessorInfoImp processor;  // a soft processor without a name that admits the simulator alone
+  SdkDebugDialog::ProcessorInfoImp processor;  // a soft processor without a name that admits only the simulator
 
   SelectedEngine() {
     imp.currentProcessor = &processor;
@@ -43,7 +43,7 @@ struct SelectedEngine : HeldEngine {
   }
 };
 
-// The processors of a design are listed. Releases their records as well.
+// An engine with the processors of a design. It releases their records too.
 struct DiscoveredEngine : HeldEngine {
   DiscoveredEngine() = default;
   explicit DiscoveredEngine(HHSMHwManager& hw) { engine.GetProcessorList(&hw); }
@@ -54,7 +54,7 @@ struct DiscoveredEngine : HeldEngine {
   DiscoveredEngine(const DiscoveredEngine&) = delete;
   DiscoveredEngine& operator=(const DiscoveredEngine&) = delete;
 
-  // Lists a record that this then releases.
+  // Adds a record to the list and releases it in the end.
   SdkDebugDialog::ProcessorInfoImp& list(std::string name) {
     imp.processorList.push_back(new SdkDebugDialog::ProcessorInfoImp);
     imp.processorList.back()->name = std::move(name);

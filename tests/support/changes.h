@@ -10,7 +10,7 @@
 
 #include "tests/support/SelectedEngine.h"
 
-// A device of the chain, by the fields that are not those of a fresh one.
+// The fields of a device that differ from their defaults.
 inline std::string device_text(const SdkDebugDialog::JtagOption& device) {
   const SdkDebugDialog::JtagOption fresh;
   std::string text;
@@ -27,8 +27,8 @@ inline std::string device_text(const SdkDebugDialog::JtagOption& device) {
   return "device{" + text + "}";
 }
 
-// The settings of the first engine that are not those of the second. The record's command is left out. A processor
-// must be selected in both.
+// The settings of the first engine that differ from those of the second, without the record's command. Both engines
+// must have a selected processor.
 inline std::string changes(const SdkDebugDialog::EngineImp& imp, const SdkDebugDialog::EngineImp& before) {
   std::ostringstream out;
   out.imbue(std::locale::classic());
@@ -104,7 +104,7 @@ inline std::string changes(const SdkDebugDialog::EngineImp& imp, const SdkDebugD
   return out.str();
 }
 
-// The settings that are not those of a fresh engine.
+// The settings that differ from those of a new engine.
 inline std::string changes(const SelectedEngine& selected) {
   const SelectedEngine fresh;
   return changes(selected.imp, fresh.imp);

@@ -5,7 +5,8 @@
 
 #include <functional>
 
-// Runs in a process of its own; what it returns is its exit code, a signal that ends it counts 1000 more.
+// Runs a function in a child process. Returns its result (0 to 255), or 1000 plus the number of the signal that ended
+// the process.
 inline int in_child(const std::function<int()>& run) {
   const pid_t child = ::fork();
   if (child == 0) ::_exit(run());

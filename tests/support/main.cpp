@@ -1,4 +1,4 @@
-// Runs the tests of a program, under the global locale that the variable TEST_LOCALE names.
+// Runs the tests under the global locale that the environment variable TEST_LOCALE names.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

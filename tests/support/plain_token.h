@@ -1,15 +1,15 @@
 #pragma once
 
-// What a token is, stated plainly.
+// A simple reference tokenizer.
 
 #include <cstddef>
 #include <string_view>
 
 struct PlainToken {
   int kind = 3;         // 0 value, 1 option, 3 end of the text
-  bool thrown = false;  // a lone dash
+  bool thrown = false;  // a lone dash, which throws
   std::string_view token = {};
-  std::size_t end = 0;  // of what was taken off the text
+  std::size_t end = 0;  // length of the consumed text
 };
 
 inline PlainToken plain_token(std::string_view text) {

@@ -1,4 +1,4 @@
-// Engines in different threads do not meet. scripts/test tsan runs these tests under the thread sanitizer.
+// Engines in different threads do not affect each other. scripts/test tsan runs these tests with the thread sanitizer.
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ using SdkDebugDialog::QvtOption_Parser;
 constexpr int kThreads = 4;
 constexpr int kRounds = 300;
 
-// Runs a job in several threads at once; each gets its number. The threads begin together.
+// Runs a job in several threads, which begin at the same time. The argument is the number of the thread.
 void run_together(const std::function<void(int thread)>& job) {
   std::atomic<int> waiting = kThreads;
   std::vector<std::thread> threads;
@@ -40,7 +40,7 @@ void run_together(const std::function<void(int thread)>& job) {
   for (std::thread& thread : threads) thread.join();
 }
 
-TEST(Threads, ReadAndWriteWithAnEngineEach) {
+TEST(Threads, ReadAndWriteWithTheirOwnEngines) {
   run_together([](int thread) {
     const std::string number = std::to_string(thread + 1);
     const std::string text = "connect ov odm -cable type zarvek_platformusb port USB" + number +
@@ -104,7 +104,7 @@ TEST(Threads, UseTheStaticOperations) {
   });
 }
 
-// Two processors of one design, each with an engine, an option file and a hardware description of its own.
+// Each thread has its own processor, engine, option file and hardware description.
 TEST(Threads, SelectProcessorsAndStoreThem) {
   const WorkFolder folder;
   const char* const kNames[] = {"ovrin_0", "ppc405_0", "ppc440_0", "a9_0"};

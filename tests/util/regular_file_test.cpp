@@ -87,21 +87,21 @@ TEST_F(ARegularFile, ThatCannotBeOpenedIsAnErrorOfTheSystem) {
 }
 
 TEST_F(ARegularFile, ThatCannotBeReadIsAnErrorOfTheSystem) {
-  RegularFile memory("/proc/self/mem");  // there is none at address 0
+  RegularFile memory("/proc/self/mem");  // no page is mapped at address 0
   ASSERT_TRUE(memory);
   char byte = 0;
   EXPECT_LT(memory.read(&byte, 1), 0);
   EXPECT_EQ(memory.error(), EIO);
 }
 
-TEST_F(ARegularFile, IsNothingElse) {
+TEST_F(ARegularFile, IsNoDirectoryPipeOrDevice) {
   ASSERT_EQ(::mkfifo(path("pipe").c_str(), 0600), 0);
   expect_failure(path("."), "a directory", 0);
   expect_failure(path("pipe"), "a pipe", 0);
   expect_failure("/dev/null", "a character device", 0);
 }
 
-TEST_F(ARegularFile, IsWhatIsOpenedAlone) {
+TEST_F(ARegularFile, DoesNotOpenAPipe) {
   ASSERT_EQ(::mkfifo(path("pipe").c_str(), 0600), 0);
   auto writer = std::async(std::launch::async, [&] { return Descriptor(::open(path("pipe").c_str(), O_WRONLY)); });
   expect_failure(path("pipe"), "a pipe", 0);

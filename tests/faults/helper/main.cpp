@@ -1,5 +1,5 @@
-// Reads or writes the option file of processor "p" below the working directory once, between two calls that a trace
-// shows, and prints the result, the error text and the command.
+// Reads or writes the option file of processor "p" below the working directory once and prints the result, the error
+// text and the command. Calls of access() mark the begin and the end of the work in a trace.
 
 #include <unistd.h>
 
