@@ -20,10 +20,10 @@ using namespace SdkDebugDialog;
 namespace {
 
 struct Written {
-  const EngineImp& imp;  // that wrote it
+  const EngineImp& imp;  // the engine that wrote the text
   Way way;
   const std::string& text;
-  const ProcessorInfoImp* listed;  // what the design says of the processor; null without one
+  const ProcessorInfoImp* listed;  // the processor's record from the design; null without a design
 
   const ProcessorInfoImp& processor() const { return *imp.currentProcessor; }
   const CableOption& cable() const { return *imp.cable; }
@@ -39,7 +39,7 @@ bool is_zarvek(const CableOption& cable) {
          cable.type == Engine::ZARVEK_PLATFORMUSB;
 }
 
-// --- Texts that are no values ---
+// --- Settings that cannot be written as values ---
 
 constexpr std::string_view kSpace = " \t\n\v\f\r";
 
@@ -135,30 +135,32 @@ bool is_cut(const Written& w) { return w.way == Way::file && w.text.size() > 102
 
 // --- The table ---
 
+// The result of reading a written text and writing it again.
 enum class Fate {
   refused,   // the text cannot be read
-  changed,   // it is read, and another one is written then
-  whatever,  // depends on what the text happens to hold
+  changed,   // the second text differs
+  whatever,  // any result
 };
 
-// docs/connect-command.md tells users of each.
+// docs/connect-command.md documents each of these.
 constexpr struct {
   bool (*applies)(const Written&);
   Fate fate;
   const char* reason;
 } kExceptions[] = {
-    {has_odd_text, Fate::whatever, "no quoting: empty texts, those with blanks or a dash in front are no values"},
-    {is_cut, Fate::whatever, "1,023 characters of an option file's line are read"},
-    {is_another_kind, Fate::whatever, "dap and dcc make an ARM core of any processor, and no text written says so"},
-    {is_undescribed_arm, Fate::whatever, "an ARM core is written as PowerPC, and may be taken for one of the design"},
-    {is_not_admitted, Fate::refused, "the design's processor does not admit the connection that is selected"},
-    {has_own_pins, Fate::refused, "'jtagpin cpujtag' is written for 'jtagport cpu'"},
-    {has_joined_port, Fate::refused, "the virtual platform's host and port are joined to '-ipcport'"},
-    {has_bare_config, Fate::refused, "'-config' without its word"},
-    {ends_in_unchecked_frequency, Fate::refused, "a cable at the end of a text has its frequency checked"},
-    {is_off_boundary, Fate::refused, "AssignAddressMap lays out bases from any address on"},
-    {has_another_fpu, Fate::changed, "the design's FPU is looked up after a reading that succeeded, and only then"},
-    {has_lost_onchip_memory, Fate::changed, "on-chip memory is that of a ppc405, which no text written names"},
+    {has_odd_text, Fate::whatever, "no quoting: an empty text, or one with blanks or a leading dash, is no value"},
+    {is_cut, Fate::whatever, "only 1,023 characters of an option file's line are read"},
+    {is_another_kind, Fate::whatever, "dap and dcc change the processor to an ARM core, which is not written"},
+    {is_undescribed_arm, Fate::whatever, "an ARM core is written as a PowerPC, and may match one in the design"},
+    {is_not_admitted, Fate::refused, "the processor in the design does not admit the selected connection"},
+    {has_own_pins, Fate::refused, "'jtagport cpu' is written as 'jtagpin cpujtag'"},
+    {has_joined_port, Fate::refused,
+     "the virtual platform's host and port are written without a blank after '-ipcport'"},
+    {has_bare_config, Fate::refused, "'-config' is written without its value"},
+    {ends_in_unchecked_frequency, Fate::refused, "the frequency is checked only if the cable is the last option"},
+    {is_off_boundary, Fate::refused, "AssignAddressMap does not check the alignment of the base"},
+    {has_another_fpu, Fate::changed, "the FPU is taken from the design after every successful read"},
+    {has_lost_onchip_memory, Fate::changed, "only a ppc405 has on-chip memory, and the processor type is not written"},
 };
 
 struct Expected {
@@ -193,13 +195,13 @@ void check_second(const Written& w, int result, const std::string& second) {
   }
 }
 
-// Reads the text on an engine, and what the engine writes after.
+// Reads the text with an engine, writes the command again and checks both.
 template <class Read>
 void read_again(const Written& w, EngineImp& imp, Read read) {
-  // Where a line is cut, a dash may be left alone.
+  // A line of a file may be cut after the dash of an option.
   const int result = result_of(w.way == Way::file ? first_line(w.text) : w.text, read);
   std::string second;
-  // What a fresh engine makes of a text may be something that cannot be written, such as another cable.
+  // The settings that were read may be impossible to write, such as another cable type.
   if (result == 0) imp.engine->GenerateCmdString(second);
   check_second(w, result, second);
 }

@@ -1,28 +1,29 @@
 #pragma once
 
-// A text that was written, read by a fresh engine and written a second time: the second one is the first, but for the
-// exceptions that again.cpp lists.
+// Writes the settings of an engine, reads the text with a new engine and writes again. Both texts must be the same,
+// except in the cases that again.cpp lists.
 
 #include <string>
 
 #include "SdkDebugDialog/EngineImp.h"
 #include "tests/support/FakeHardware.h"
 
-// How a fresh engine is given the text.
+// How the new engine reads the text.
 enum class Way {
   command,    // as a command, without a design
   design,     // as a command for the listed processor of the same name
-  described,  // as a command that tells which listed processor it is for
+  described,  // with GetProcessorInfo, which takes the processor from the command
   file,       // in that processor's option file, in the working directory
   cable,      // as cable and chain alone
 };
 
-// The design that is known, where one is.
+// The design for the ways that have one.
 FakeHardware& known_design();
 
-// Writes the settings of the engine, and again after a fresh engine has read them. False when they cannot be written.
+// Writes the settings of the engine, reads them with a new engine and writes again. False when the settings cannot be
+// written.
 bool check_writing(SdkDebugDialog::EngineImp& imp, Way way);
 
-// The engine wrote the text. A fresh engine that read it answered result, and wrote second.
+// Checks a second text: imp wrote text, a new engine read it with this result and then wrote second.
 void check_second_text(const SdkDebugDialog::EngineImp& imp, Way way, const std::string& text, int result,
                        const std::string& second);

@@ -1,4 +1,4 @@
-// Cable and chain as text, through the operations that callers use.
+// Fuzz target: cable and chain as text, through the public operations.
 
 #include <string>
 #include <vector>
@@ -17,7 +17,7 @@ using namespace SdkDebugDialog;
 
 namespace {
 
-// A cable, a chain and a debug device, as callers hold them.
+// A caller's cable, chain and debug device.
 struct Link {
   CableOption cable;
   std::vector<JtagOption*> chain;
@@ -72,7 +72,7 @@ void parse_and_generate(const std::string& text) {
   const int second = again.parse(written);
   std::string rewritten;
   if (second == 0) again.generate(rewritten);
-  SelectedEngine wrote;  // as the operation sees what it writes
+  SelectedEngine wrote;  // an engine with the same settings
   *wrote.imp.cable = link.cable;
   wrote.engine.SetJtagChainOptions(link.chain);
   check_second_text(wrote.imp, Way::cable, written, second, rewritten);

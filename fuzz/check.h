@@ -1,12 +1,12 @@
 #pragma once
 
-// What the targets demand.
+// Checks of the fuzz targets.
 
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
-// A demand that is not met ends the program, which is how a fuzzer learns that an input failed.
+// Ends the program if the condition is false; the fuzzer then reports the input as failing.
 inline void expect(bool condition, const char* what, std::string_view detail = {}) {
   if (condition) return;
   std::fprintf(stderr, "expected: %s\n%.*s\n", what, static_cast<int>(detail.size()), detail.data());

@@ -1,4 +1,4 @@
-// Connect commands: with and without a design.
+// Fuzz target: connect commands, with and without a design.
 
 #include <string>
 

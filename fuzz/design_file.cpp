@@ -1,4 +1,5 @@
-// Design files: what is accepted and refused beside a plain statement of the format, and what the answers promise.
+// Fuzz target: design files. Compares which files are accepted with a simple validator, and checks the messages and the
+// answers of accepted designs.
 
 #include <algorithm>
 #include <cstdint>
@@ -39,7 +40,7 @@ bool are_texts(const json& values) {
   return std::ranges::all_of(values, [](const json& value) { return value.is_string(); });
 }
 
-// A list of instances of certain classes, each once.
+// Whether a list names only instances of the allowed classes, each at most once.
 bool is_list(const json& instance, const char* list, const std::map<std::string, std::string>& classes,
              const std::set<std::string>& allowed) {
   if (!instance.contains(list)) return true;
@@ -77,7 +78,7 @@ bool is_design(const json& design) {
   });
 }
 
-// Whether the text is JSON for a design in which no object has a member twice.
+// Whether the text is a valid design, without duplicate members.
 bool is_design_text(const std::string& text) {
   if (text.find('\0') != text.npos) return false;
   bool twice = false;
@@ -101,7 +102,7 @@ void check_message(std::string_view message) {
   expect(message.find(": found ") != message.npos && message.find(", expected ") != message.npos,
          "what was found and expected", message);
   expect(std::ranges::all_of(message, [](char c) { return c >= ' ' && c <= '~'; }), "one printable line", message);
-  // A step of the pointer and what was found repeat 60 bytes each, of up to four characters.
+  // The message quotes at most 60 bytes of the file twice, each written with up to four characters.
   expect(message.size() < 1000, "a bounded text", message);
 }
 

@@ -8,9 +8,9 @@
 
 namespace {
 
-constexpr std::size_t kLongest = 2047;  // longer ones are cut
+constexpr std::size_t kLongest = 2047;  // longer texts are cut
 
-// What stands before and after the part that comes from the command.
+// The text before and after the part that is copied from the command.
 struct Form {
   std::string_view before;
   std::string_view after = {};
@@ -56,7 +56,7 @@ constexpr std::string_view kWriting[] = {
 bool has_form(std::string_view text, const Form& form) {
   if (!text.starts_with(form.before)) return false;
   if (text.size() == kLongest) return true;
-  // The name of a keyword appears as it was typed.
+  // Keywords in the text have the case in which they were typed.
   return text.size() >= form.before.size() + form.after.size() &&
          boost::iequals(text.substr(text.size() - form.after.size()), form.after);
 }

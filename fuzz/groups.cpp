@@ -1,4 +1,4 @@
-// The option groups by themselves.
+// Fuzz target: the reader and the writer of each option group alone.
 
 #include <algorithm>
 #include <initializer_list>
@@ -29,7 +29,7 @@ constexpr const char* kPort = "-PORT";
 constexpr const char* kBaud = "-Baud";
 constexpr const char* kTimeout = "-timeout";
 
-// What a reader may answer.
+// The possible results of a reader.
 using Results = std::initializer_list<int>;
 constexpr Results kGroup = {1, 2, 3};
 constexpr Results kWhole = {0, 2};
@@ -84,7 +84,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto [way, text] = split(data, size, 2 * std::size(kReaders));
   const Reader& reader = kReaders[way % std::size(kReaders)];
   const bool isWholeText =
-      reader.read == P::ReadJtagCableOptions;  // 3 is a failure there, elsewhere the end of the text
+      reader.read == P::ReadJtagCableOptions;  // there 3 is an error, elsewhere the end of the text
   SelectedEngine selected;
   if (way >= std::size(kReaders)) selected.imp.hwManager = &known_design();
   selected.engine.SetErrorStr("an older text");
@@ -105,7 +105,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   expect(selected.error() == "an older text" || (failed && is_reading_error(selected.error())), "a known error text",
          selected.error());
 
-  // Whatever was read, the writers go on from there.
+  // All writers must work with any settings that were read.
   selected.engine.SetErrorStr("an older text");
   for (const auto& [write, replaces] : kWriters) {
     std::string out = "before";

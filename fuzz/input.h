@@ -1,7 +1,7 @@
 #pragma once
 
-// How the targets that read a text take an input: its first byte chooses among the ways to read, "0" being the first
-// one, and the rest is the text. So seeds are plain texts with a digit in front.
+// Inputs of the targets that read a text: the first byte selects how the text is read ('0' is the first way), the rest
+// is the text. So a seed is a plain text after a digit.
 
 #include <algorithm>
 #include <cstddef>
@@ -18,7 +18,7 @@ inline Input split(const std::uint8_t* data, std::size_t size, std::size_t ways)
   return {static_cast<std::uint8_t>(data[0] - '0') % ways, std::string(data + 1, data + size)};
 }
 
-// What counts of an option file: the first line that is not empty, as far as it is read.
+// The command in an option file: at most 1023 characters of the first line that is not empty.
 inline std::string first_line(const std::string& content) {
   const std::size_t begin = content.find_first_not_of('\n');
   if (begin == content.npos) return {};

@@ -1,6 +1,6 @@
 #pragma once
 
-// A token that is a dash alone ends every reading with an exception, and nothing else does.
+// A lone dash as a token makes every reader throw; nothing else does.
 
 #include <cstddef>
 #include <stdexcept>
@@ -25,7 +25,7 @@ inline bool has_lone_dash(std::string_view text) {
   return false;
 }
 
-// The result of a reading, or kThrown. The text is a copy, as reading may eat the original.
+// The result of a reader, or kThrown. The text is a copy, because the reader may change the original.
 template <class Read>
 int result_of(std::string text, Read read) {
   try {

@@ -1,4 +1,4 @@
-// Option files: etc/qvt_NAME.opt in a folder of our own, in memory where the system has such folders.
+// Fuzz target: option files, in a temporary folder in memory (/dev/shm) if there is one, else on the disk.
 
 #include <signal.h>
 #include <unistd.h>
@@ -32,8 +32,8 @@ namespace {
 
 constexpr std::string_view kScratchName = "fuzz_option_file_";
 
-// A folder that goes with the program, or with the next one when the program was ended by what it found: the name tells
-// whose it is.
+// A temporary folder, removed in the end. The name contains the process id, so that the next run can remove the folder
+// of a run that was aborted.
 class Scratch {
  public:
   Scratch() {
@@ -67,7 +67,7 @@ class Scratch {
   fs::path m_path;
 };
 
-// Works in a folder; the fuzzer finds its own files from where it was before.
+// Changes the working directory. The old one is restored, because the fuzzer uses relative paths.
 class Inside {
  public:
   explicit Inside(const fs::path& folder) : m_before(fs::current_path()) { fs::current_path(folder); }
@@ -95,7 +95,7 @@ std::string word_of(std::string_view text, std::size_t n) {
   }
 }
 
-// A file takes fewer heads and targets than a command.
+// Some heads and targets are accepted only in a command, not in a file.
 bool is_for_commands_only(const std::string& line) {
   const auto is_one_of = [](const std::string& word, std::initializer_list<const char*> words) {
     return std::ranges::any_of(words, [&](const char* w) { return boost::iequals(word, w); });

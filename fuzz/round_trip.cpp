@@ -1,4 +1,4 @@
-// A configuration made by setters, written, read and written again.
+// Fuzz target: settings made by setters are written, read and written again.
 
 #include <fuzzer/FuzzedDataProvider.h>
 
@@ -28,7 +28,7 @@ const char* const kTexts[] = {"",       "a",         "-5",        "-x",        "
                               "USB21",  "h:1",       "localhost", "type",      "port", "cpu", "prom32",
                               "-cable", "modulearg", "file.icf",  "/dev/ttyS0"};
 
-// A configuration in the making, and what it is made from.
+// The engine to configure, and the input that selects the setters and their values.
 struct Maker {
   FuzzedDataProvider& bytes;
   EngineImp& imp;
@@ -47,7 +47,7 @@ struct Maker {
   }
 };
 
-// What a setter stored is what the getter answers, unless it answers that nothing applies.
+// A getter must return the value that was set, unless it fails.
 template <class Value, class Get>
 void expect_kept(const Value& value, Get get) {
   Value found{};
@@ -82,7 +82,7 @@ void set_connection(Maker& m) {
   expect((m.engine().SetConnectionType(connection) == 0) == admitted, "an admitted connection to be taken");
 }
 
-// The mark that a stub is reached by stands in the connection while its type is chosen.
+// SetStubType needs a bit in the connection that tells how a stub can be reached.
 void set_stub(Maker& m) {
   const auto type = static_cast<Engine::StubType>(m.bytes.ConsumeIntegralInRange(0, 2));
   m.processor().connectionType = Engine::STUB | Engine::STUB_UART_PRESENT | Engine::STUB_JTAG_PRESENT;
@@ -114,7 +114,7 @@ void set_cable_speed(Maker& m) {
   expect_kept(value, [&](unsigned int& found) { return m.engine().GetCableSpeed(found); });
 }
 
-// Only a few, so that commands are not cut too often where they are kept in a file.
+// Few devices, so that commands in option files are not cut too often.
 void add_device(Maker& m) {
   if (m.imp.jtagChain.size() > 12) return;
   auto* const device = new JtagOption;
@@ -132,7 +132,7 @@ void set_baud_rate(Maker& m) { m.engine().SetStubBaudrate(static_cast<int>(m.num
 void unset_map(Maker& m) { m.engine().UnSetDebugAddressMap(); }
 void assign_map(Maker& m) { m.imp.AssignAddressMap(m.address()); }
 
-// What only the option text sets, in the record itself.
+// Settings without a setter are stored in the record.
 void set_simulator(Maker& m) {
   if (m.bytes.ConsumeBool()) m.processor().simConfigFile = m.text();
   m.processor().simHost = m.text();
@@ -154,7 +154,7 @@ void set_module(Maker& m) {
   m.imp.cable->modulearg = m.text();
 }
 
-// A design tells these; without one the record may hold any.
+// With a design these come from the design; without one they may have any value.
 void set_identity(Maker& m) {
   if (m.withDesign) return;
   m.processor().procFamily = m.bytes.ConsumeIntegralInRange<std::uint32_t>(0, 2);

@@ -1,4 +1,4 @@
-// The tokenizer beside a plain statement of its rule.
+// Fuzz target: the tokenizer, compared with a simple reference tokenizer.
 
 #include <algorithm>
 #include <cstdint>
@@ -16,7 +16,7 @@ using namespace SdkDebugDialog;
 
 namespace {
 
-// The entry points' number for a kind of token.
+// The result code of the entry points for a kind of token or pair.
 int number_of(Token token) { return token == Token::value ? 0 : token == Token::option ? 1 : 3; }
 int number_of(Pair pair) {
   return pair == Pair::complete ? 0 : pair == Pair::option ? 1 : pair == Pair::incomplete ? 2 : 3;
@@ -43,7 +43,7 @@ void check_cut(std::string& text, TokenCursor& cursor) {
   if (kind == 1) expect_same(cursor.option(), token, "the cursor's option");
 }
 
-// A pair is a token and another one.
+// Compares pairs with two tokens read one after the other.
 void check_pairs(std::string text) {
   TokenCursor cursor(text);
   std::string left = text;
