@@ -1,5 +1,6 @@
 # shellcheck shell=sh disable=SC2034
 # Sourced by the other scripts: installs Debian packages that are missing.
+. scripts/progress.sh
 
 # What every build needs; the scripts add what else they use.
 build_packages="g++ cmake ninja-build libboost-dev libboost-filesystem-dev libcli11-dev nlohmann-json3-dev \
@@ -28,14 +29,17 @@ need() {
   echo "Installing $missing"
   log=$(mktemp)
   # shellcheck disable=SC2086 # a list of words
-  if ! { apt-get update && DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends $missing; } \
-    >"$log" 2>&1 </dev/null; then
+  if ! with_progress "$log" install_packages $missing; then
     tail -n 20 "$log" >&2
     echo "$0: could not install $missing(the lines above are apt-get's)" >&2
     rm -f "$log"
     exit 1
   fi
   rm -f "$log"
+}
+
+install_packages() {
+  apt-get update && DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "$@"
 }
 
 # unpack ARCHITECTURE FOLDER PACKAGE...: afterwards the folder holds the contents of these packages of another
