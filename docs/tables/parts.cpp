@@ -69,7 +69,7 @@ std::string print(const std::string& part, const Links& links) {
   if (part == "all words") return print_dictionary();
   const std::vector<const Option*> options = options_of(part);
   if (options.empty()) throw std::runtime_error("there is no part of this name: " + part);
-  return options.front()->takes == Option::pairs ? print_keywords(*options.front()) : print_options(options);
+  return options.front()->takes == Option::Takes::pairs ? print_keywords(*options.front()) : print_options(options);
 }
 
 }  // namespace

@@ -51,7 +51,7 @@ std::string where(const std::vector<const Run*>& runs) {
 // The rows that describe an option: those of its pairs, or that of its value.
 std::span<const Keyword> rows_of(const Option& option) {
   const std::span<const Keyword> rows = option.group.keywords;
-  if (option.takes == Option::pairs) return rows;
+  if (option.takes == Option::Takes::pairs) return rows;
   const auto value = std::ranges::find(rows, option.name.text(), [](const Keyword& row) { return row.name.text(); });
   return {value, 1};
 }
@@ -132,17 +132,17 @@ std::string written(const Keyword& row) {
 
 const char* without_value(const Option& option) {
   switch (option.takes) {
-    case Option::nothing:
-    case Option::pairs:
-    case Option::options:
+    case Option::Takes::nothing:
+    case Option::Takes::pairs:
+    case Option::Takes::ownRun:
       return "";
-    case Option::value:
+    case Option::Takes::value:
       return "error";
-    case Option::valueOrNone:
+    case Option::Takes::valueOrNone:
       return "nothing is stored; an option in its place is skipped";
-    case Option::token:
+    case Option::Takes::token:
       return "error; an option in its place is its value";
-    case Option::tokenOrNone:
+    case Option::Takes::tokenOrNone:
       return "nothing is stored; an option in its place is its value";
   }
   return "";
@@ -153,7 +153,7 @@ template <class Reason>
 std::vector<Row> reasons(Reason reason) {
   std::vector<Row> rows;
   for (const Option& option : options()) {
-    const std::string place = option.takes == Option::pairs ? code(option.name) : where(runs_of(option));
+    const std::string place = option.takes == Option::Takes::pairs ? code(option.name) : where(runs_of(option));
     for (const Keyword& keyword : rows_of(option)) {
       const std::string why = reason(keyword);
       if (why.empty()) continue;
