@@ -101,8 +101,9 @@ bool is_written(const Keyword& row, const Records& from) {
 
 namespace {
 
-// The word that the value stands for; the last word for any other value.
-void write_word(const Keyword& row, TextOut& out, const Records& from) {
+// The word that the value stands for; the last word for any other value. Not inline: write_pair would be slower with
+// it.
+[[gnu::noinline]] void write_word(const Keyword& row, TextOut& out, const Records& from) {
   const Word* word = row.words.data();
   const Word* const last = &row.words.back();
   with_field(row, from, [&]<class Value>(const Value& value) {

@@ -54,7 +54,7 @@ enum class Kind {
 struct Keyword;
 
 // When something is written: the condition, and the same in words. Without a condition it is never written, and the
-// words say why.
+// words say why. The rows "type" of a cable and "jtagport" are written by the writers of their groups, which know when.
 struct When {
   bool (*holds)(const Keyword& row, const Records& records) = nullptr;
   const char* words = "";
