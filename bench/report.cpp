@@ -26,7 +26,7 @@ struct Goal {
 
 constexpr Goal kGoals[] = {
     {"read hardware", "hand-written", 1.0},
-    {"read hardware", "CLI11", 1.0 / 25},
+    {"read hardware", "CLI11", 1.0 / 20},
     {"read hardware", "Boost.Program_options", 1.0 / 50},
     {"read hardware, retyped", "hand-written", 0.95},
     {"read chain", "hand-written", 1.0},

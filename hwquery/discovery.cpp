@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <iterator>
 #include <memory>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -68,7 +69,9 @@ class Discovery {
   void find_soft_without_debug_module() {
     std::vector<std::string> names;
     m_hw.getIpInstances(names, "ovrin", false);
-    std::unordered_set<std::string_view> listed;
+    // The nodes are allocated in a few blocks.
+    std::pmr::monotonic_buffer_resource nodes;
+    std::pmr::unordered_set<std::string_view> listed(&nodes);
     listed.reserve(m_imp.processorList.size() + names.size());
     for (const ProcessorInfoImp* const processor : m_imp.processorList) listed.insert(processor->name);
     for (const std::string& name : names) {

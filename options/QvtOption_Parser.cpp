@@ -133,7 +133,7 @@ int write_target_named(std::string& text, EngineImp& imp, const Target& named) {
 
 int write_cable_of_type(std::string& text, CableOption cable, Engine::CableType type) {
   return write_end(text, [&](TextOut& out) {
-    write_cable_keywords(out, cable, type);
+    write_cable_keywords(out, cable, cable_type(type));
     return 0;
   });
 }

@@ -218,17 +218,16 @@ bool check_cable(EngineImp& imp, bool hasFrequency) {
 }  // namespace
 
 Outcome read_cable(const Option& /*option*/, TokenCursor& in, std::string_view /*typed*/, EngineImp& imp) {
-  const PairsRead read = read_pairs(in, kCable, records_of(imp));
+  const PairsRead read = read_pairs(in, kCable, records_of(imp), row("frequency"));
   if (read.outcome != Outcome::end) return read.outcome;
-  constexpr auto kFrequency = row("frequency") - kKeywords;
-  return check_cable(imp, (read.seen >> kFrequency & 1U) != 0) ? Outcome::end : Outcome::error;
+  return check_cable(imp, read.noted) ? Outcome::end : Outcome::error;
 }
 
 // --- Writing ---
 
-void write_cable_keywords(TextOut& out, CableOption& cable, Engine::CableType type) {
+void write_cable_keywords(TextOut& out, CableOption& cable, const CableType& type) {
   const Records from = {.cable = &cable};
-  for (const Keyword* const keyword : cable_type(type).writes) {
+  for (const Keyword* const keyword : type.writes) {
     if (is_written(*keyword, from)) write_pair(out, *keyword, from);
   }
 }
@@ -244,7 +243,7 @@ bool write_cable(TextOut& out, EngineImp& imp) {
   }
   out.put_name(row("type")->name);
   out.put_name(type.names.front());
-  write_cable_keywords(out, cable, cable.type);
+  write_cable_keywords(out, cable, type);
   return true;
 }
 

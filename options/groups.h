@@ -25,9 +25,8 @@ const Option* find_option(std::string_view word, const Run& run, const LetterCas
 
 // --- Writing: false where the group cannot be written ---
 
-bool write_cable(TextOut& out, EngineImp& imp);  // nothing without a cable
-void write_cable_keywords(TextOut& out, CableOption& cable,
-                          Engine::CableType type);  // as a cable of this type has them
+bool write_cable(TextOut& out, EngineImp& imp);                                      // nothing without a cable
+void write_cable_keywords(TextOut& out, CableOption& cable, const CableType& type);  // as a cable of this type has them
 bool write_cable_and_chain(TextOut& out, EngineImp& imp);
 bool write_chain_and_device(TextOut& out, EngineImp& imp);  // the cable first
 void write_debugdevice(TextOut& out, EngineImp& imp);

@@ -64,7 +64,7 @@ bool read_word(const Keyword& row, const KeywordAndValue& pair, const Records& t
   return word != nullptr;
 }
 
-PairsRead read_pairs(TokenCursor& in, const Group& group, const Records& to) {
+PairsRead read_pairs(TokenCursor& in, const Group& group, const Records& to, const Keyword* toNote) {
   KeywordAndValue pair = {{}, {}, in.letter_case()};
   PairsRead read = {};
   for (;;) {
@@ -88,7 +88,7 @@ PairsRead read_pairs(TokenCursor& in, const Group& group, const Records& to) {
       read.refused = true;
       return read;
     }
-    read.seen |= 1U << (row - group.keywords.data());
+    read.noted |= row == toNote;
   }
 }
 

@@ -2,7 +2,6 @@
 
 // Reads and writes the rows of a group.
 
-#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -12,13 +11,13 @@ namespace SdkDebugDialog {
 
 // How the reading of pairs ended.
 struct PairsRead {
-  Outcome outcome;         // never done
-  bool refused = false;    // a complete pair was the error
-  std::uint32_t seen = 0;  // a bit for each row of the group (at most 32) whose pair was read without an error
+  Outcome outcome;       // never done
+  bool refused = false;  // a complete pair was the error
+  bool noted = false;    // the pair of the row to be noted was read without an error
 };
 
-// Reads pairs until something else comes.
-PairsRead read_pairs(TokenCursor& in, const Group& group, const Records& to);
+// Reads pairs until something else comes, and notes whether one of a row, which may be null, was there.
+PairsRead read_pairs(TokenCursor& in, const Group& group, const Records& to, const Keyword* toNote = nullptr);
 
 // Reads one value; false for an error.
 bool read_value(const Keyword& row, const KeywordAndValue& pair, const Records& to);

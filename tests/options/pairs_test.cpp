@@ -133,11 +133,18 @@ TEST(ReadPairs, TellsWhatEndedThem) {
   }
 }
 
-TEST(ReadPairs, MarksTheRowsThatWereRead) {
-  EXPECT_EQ(Reading("").read.seen, 0U);
-  EXPECT_EQ(Reading("nothing x").read.seen, 1U << 13);
-  EXPECT_EQ(Reading("byte 1 NARROW 2 byte 3").read.seen, 0x3U);
-  EXPECT_EQ(Reading("byte 1 noted no").read.seen, 0x2U);
+TEST(ReadPairs, NotesWhetherAPairOfARowWasRead) {
+  const auto noted = [](const std::string& text) {
+    Subject s;
+    TokenCursor in(text);
+    return read_pairs(in, kGroup, s.records, &kRows[1]).noted;
+  };
+  EXPECT_FALSE(noted(""));
+  EXPECT_FALSE(noted("nothing x narrow 2"));
+  EXPECT_TRUE(noted("narrow 1 BYTE 2 narrow 3"));
+  EXPECT_TRUE(noted("byte 1 noted no"));
+  EXPECT_FALSE(noted("byte"));
+  EXPECT_FALSE(Reading("byte 1").read.noted);
 }
 
 TEST(ReadPairs, HandsThePairAsItWasTypedToTheRowsOwnReader) {
