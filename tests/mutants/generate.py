@@ -26,8 +26,9 @@ class Token(NamedTuple):
     end: int
 
 
+# What stands behind an #else is compiled on other machines only.
 LEXER = re.compile(
-    r"""(?P<skip>\s+|//[^\n]*|/\*.*?\*/|\#(?:[^\n\\]|\\.)*)
+    r"""(?P<skip>\s+|//[^\n]*|/\*.*?\*/|\#else\b.*?\#endif|\#(?:[^\n\\]|\\.)*)
     |(?P<string>(?:u8|[uUL])?R"(?P<raw>[^(\s]*)\(.*?\)(?P=raw)"|(?:u8|[uUL])?"(?:[^"\\\n]|\\.)*")
     |(?P<char>'(?:[^'\\\n]|\\.)+')
     |(?P<number>\.?\d(?:[\w.]|'\w)*)

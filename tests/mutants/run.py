@@ -3,8 +3,8 @@
 A mutant is compiled in a folder under build/ and its tests run in sandbox.sh. Two files beside this one hold
 paragraphs: a line "# FILE: what is broken", then lines "- text" and "+ text", the text that stands exactly once in the
 source file and what takes its place. listed.txt: mutants that generate.py does not make. equivalent.txt: mutants that
-it makes and that are left out, because a program with this change does the same; without lines "+ text", all changes of
-the order of the rows in the table that begins with the text.
+it makes and that are left out, because a program with this change does the same; without lines "+ text", all changes in
+the text, and of the order of the rows in the table that begins with it.
 """
 
 import argparse
@@ -80,9 +80,9 @@ def is_equivalent(mutant, equivalent):
     text = text_of(mutant.source)
     for same in equivalent:
         if same.source == mutant.source:
-            table_end = text.find(";\n", same.start)
+            end = text.find(";\n", same.start) if mutant.kind == "rows" else same.end
             if mutant.broken(text) == same.broken(text) or (
-                    mutant.kind == "rows" and not same.new and same.start <= mutant.start < table_end):
+                    not same.new and same.start <= mutant.start and mutant.end <= end):
                 return True
     return False
 
