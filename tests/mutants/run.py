@@ -4,7 +4,7 @@ A mutant is compiled in a folder under build/ and its tests run in sandbox.sh. T
 paragraphs: a line "# FILE: what is broken", then lines "- text" and "+ text", the text that stands exactly once in the
 source file and what takes its place. listed.txt: mutants that generate.py does not make. equivalent.txt: mutants that
 it makes and that are left out, because a program with this change does the same; without lines "+ text", all changes in
-the text, and of the order of the rows in the table that begins with it.
+the text, and of the order of the rows in the table, or the rest of a table, that begins with it.
 """
 
 import argparse

@@ -163,6 +163,14 @@ TEST(Syntax, HasAWriterForEveryConnectionOfAWrittenTarget) {
   }
 }
 
+TEST(Syntax, HasOneHeadThatIsWrittenForCommandsOfEveryKind) {
+  for (const bool virtualPlatform : {false, true}) {
+    EXPECT_EQ(std::ranges::count_if(
+                  heads(), [&](const Head& head) { return head.written && head.virtualPlatform == virtualPlatform; }),
+              1);
+  }
+}
+
 TEST(Syntax, HasAWrittenTargetForEveryFamily) {
   for (const std::uint32_t family : {kFamilySoft, kFamilyPowerPC, kFamilyArm}) {
     const auto target = std::ranges::find(targets(), family, &Target::family);
