@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "options/pairs.h"
 #include "tests/options/reading.h"
 #include "tests/options/writing.h"
 #include "tests/support/GlobalLocale.h"
@@ -94,6 +95,18 @@ TEST(StubWriting, WritesTwoBlanksOnBothSidesOfTheRatesOptionAndNumbersAsSigned) 
                       e.processor.stubBaudRate = -1;
                       e.processor.stubTimeout = INT32_MIN;
                     }}});
+}
+
+// The writer goes by the connection; the rows tell others the same.
+TEST(StubWriting, HasRowsForTheSerialStubAlone) {
+  for (const std::uint32_t type : {0U, 1U, 2U, 0xFFFFFFFFU}) {
+    SelectedEngine e;
+    e.processor.stubType = type;
+    for (const Keyword& row : kStub.keywords) {
+      EXPECT_EQ(is_written(row, records_of(e.imp)), row.name.text() == "-comm" || type != Engine::STUB_OVER_JTAG)
+          << row.name.text() << " of " << type;
+    }
+  }
 }
 
 TEST(StubWriting, WritesPortsWholeAndAsTheyAre) {

@@ -37,6 +37,26 @@ TEST(TokenCursor, ReadsNothingBeyondTheEndOfTheText) {
   EXPECT_EQ(token, "before");
 }
 
+TEST(TokenCursor, StaysAtTheEnd) {
+  const std::string sixty(60, 'a');
+  for (const std::string text : {"", " ", "  ", "a ", "a  ", "a   ", "a b", "a b \t ", "a b \n"}) {
+    for (const std::string& whole : {text, sixty + text, sixty + text + sixty + text}) {
+      SCOPED_TRACE(testing::PrintToString(whole));
+      TokenCursor in(whole);
+      std::string_view token;
+      while (in.next(token) != Token::end) {
+      }
+      const std::string_view last = token;
+      for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(in.next(token), Token::end);
+        EXPECT_EQ(token.data(), last.data());
+        EXPECT_EQ(token, last);
+        EXPECT_EQ(in.rest(), "");
+      }
+    }
+  }
+}
+
 TEST(TokenCursor, TellsTheLastOptionThatItRead) {
   const std::string text = "value -One 5 -two- x";
   TokenCursor in(text);
