@@ -105,7 +105,8 @@ def changed_lines():
 
 def chosen(options, problems):
     lines = changed_lines() if options.changed else dict.fromkeys(sources())
-    values = constants(text_of(source) for source in sources())
+    headers = [path.read_text() for path in (ROOT / "include").rglob("*.h")]
+    values = constants(headers + [text_of(source) for source in sources()])
     equivalent = read_list("equivalent.txt", problems)
     listed = read_list("listed.txt", problems)
     mutants = []
