@@ -33,7 +33,7 @@ constexpr Goal kGoals[] = {
     {"write hardware", "append + to_chars", 0.9},
     {"write chain", "append + to_chars", 0.9},
     {"discovery", "the same questions", 2, 100, 10000},
-    {"look-up in 100,000", "std::unordered_map", 3},
+    {"look-up in 100,000", "std::unordered_map", 4},
     {"qvtcfg command", "empty program", 2},
     {"qvtcfg command, 100,000", "nlohmann::json document", 0.5},
 };

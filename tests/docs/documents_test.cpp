@@ -37,7 +37,12 @@ std::vector<std::string> lines_of(const std::string& text) {
 TEST(Documents, SayWhatTheTablesOfTheSyntaxSay) {
   for (const char* const document : kDocuments) {
     const std::string text = content(document);
-    EXPECT_EQ(text, with_parts(text)) << document << " is not up to date: run scripts/docs";
+    const std::string printed = with_parts(text);
+    const auto differs = static_cast<std::size_t>(std::ranges::mismatch(text, printed).in1 - text.begin());
+    EXPECT_TRUE(text == printed) << document << " is not up to date: run scripts/docs. The first difference is in line "
+                                 << std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(differs),
+                                               '\n') +
+                                        1;
   }
 }
 
