@@ -26,7 +26,7 @@ struct Scratch {
   Scratch() { imp.currentProcessor = &processor; }
 };
 
-// A scratch configuration that is read into. Devices that the reader made and nobody took are destroyed with it.
+// A scratch configuration for reading. It owns the devices that the reader creates, until a caller takes the chain.
 struct ReadScratch : Scratch {
   ReadScratch() = default;
   ~ReadScratch() {

@@ -5,8 +5,8 @@
 
 namespace SdkDebugDialog {
 
-// Case folding by the program's global locale, which is asked once: whoever reads a text keeps one of these for as
-// long.
+// Case folding by the program's global locale, which is asked once, in the constructor. A reader keeps one of these for
+// a whole text.
 class LetterCase {
  public:
   LetterCase() : m_isClassic(m_locale == std::locale::classic()) {}

@@ -1,7 +1,7 @@
-// Nearly every token stands between two single blanks. So the cursor looks at 64 characters at once and keeps a bit for
-// each blank among them: the lowest bit is the end of the next token. Where two blanks meet, and in a block with any
-// character below the blank (a tab, a line end), a plain loop cuts the token instead, as it does on machines for which
-// no quick look is written here.
+// Nearly every token stands between two single blanks. So the cursor looks 64 characters ahead at once and keeps a bit
+// for each blank among them: the lowest bit is the end of the next token. Two cases are left to a plain loop: a run of
+// blanks, and a block that contains any character below the blank, such as a tab or a line end. On machines without
+// SSE2 the plain loop reads every token.
 
 #include "options/TokenCursor.h"
 

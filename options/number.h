@@ -8,19 +8,18 @@
 
 namespace SdkDebugDialog {
 
-// The rule of the C library's strtoul with base 0 on 64 bits, whatever the width of long: white space and a sign
-// before the number, "0x" hexadecimal, a leading "0" octal, else decimal; reading stops at the first character that
-// does not fit; nothing that fits is 0, what does not fit into 64 bits is the largest value. Callers cut the result
-// to their field.
+// As strtoul with base 0, on 64 bits whatever the width of long: white space and a sign may come first, "0x" is
+// hexadecimal, a leading "0" octal, everything else decimal. Reading stops at the first character that is no digit. A
+// text without a digit is 0, a number beyond 64 bits the largest value. Callers truncate the result to their field.
 inline std::uint64_t to_unsigned(std::string_view text);
 
-// The rule of strtol with base 0 on 64 bits.
+// As strtol with base 0, on 64 bits.
 std::int64_t to_signed(std::string_view text);
 
-// The rule of strtol with base 10 on 64 bits.
+// As strtol with base 10, on 64 bits.
 std::int64_t to_decimal(std::string_view text);
 
-// The same for any text; to_unsigned is quicker for most.
+// The same for any text; to_unsigned is faster for plain decimal numbers.
 std::uint64_t to_unsigned_any(std::string_view text);
 
 inline std::uint64_t to_unsigned(std::string_view text) {

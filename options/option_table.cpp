@@ -122,7 +122,7 @@ bool read_options(TokenCursor& in, EngineImp& imp, const Run& run) {
   std::string_view lastToken;
   Token found = in.next(token);
   while (found == Token::option) {
-    // The name of the option, whoever read it.
+    // The option may have been read by the group before it.
     const std::string_view typed = in.option();
     const Option* const option = find_option(typed, run, in.letter_case());
     if (option == nullptr) {
