@@ -101,20 +101,6 @@ constexpr Target kTargets[] = {
      .write = write_virtual_platform},
 };
 
-constexpr const Target* first_of(std::uint32_t family) { return std::ranges::find(kTargets, family, &Target::family); }
-static_assert(std::ranges::all_of(kTargets,
-                                  [](const Target& t) {
-                                    return t.family == kNoKind || first_of(t.family)->write != nullptr;
-                                  }),
-              "the processors of a family that a target names are written by its first target");
-static_assert(std::ranges::all_of(kTargets,
-                                  [](const Target& t) {
-                                    return t.write != write_target ||
-                                           std::ranges::all_of(t.connections,
-                                                               [](const Connection& c) { return c.write != nullptr; });
-                                  }),
-              "a target that is written needs a writer for each connection");
-
 }  // namespace
 
 std::span<const Target> targets() { return kTargets; }
