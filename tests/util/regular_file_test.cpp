@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <future>
 #include <string>
+#include <system_error>
 
 #include "tests/options/work_folder.h"
 
@@ -29,6 +30,7 @@ class ARegularFile : public testing::Test {
     EXPECT_FALSE(opened);
     EXPECT_STREQ(opened.other_kind(), otherKind);
     EXPECT_EQ(opened.error(), error);
+    EXPECT_EQ(opened.size(), 0U);
   }
 
  private:
@@ -49,6 +51,20 @@ TEST_F(ARegularFile, IsReadToItsEnd) {
   EXPECT_EQ(std::string(buffer, 2), "89");
   EXPECT_EQ(file.read(buffer, sizeof buffer), 0);
   EXPECT_EQ(file.error(), 0);
+}
+
+TEST_F(ARegularFile, IsNotInheritedByOtherPrograms) {
+  WorkFolder::write(path("file"), "");
+  const RegularFile file(path("file"));
+  ASSERT_TRUE(file);
+  int found = 0;
+  for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+    std::error_code gone;  // the iterator's own
+    if (fs::read_symlink(entry, gone) != fs::canonical(path("file"))) continue;
+    ++found;
+    EXPECT_EQ(::fcntl(std::stoi(entry.path().filename()), F_GETFD), FD_CLOEXEC);
+  }
+  EXPECT_EQ(found, 1);
 }
 
 TEST_F(ARegularFile, MayBeEmptyOrBehindALink) {
@@ -96,8 +112,10 @@ TEST_F(ARegularFile, ThatCannotBeReadIsAnErrorOfTheSystem) {
 
 TEST_F(ARegularFile, IsNoDirectoryPipeOrDevice) {
   ASSERT_EQ(::mkfifo(path("pipe").c_str(), 0600), 0);
+  ASSERT_EQ(::mknod(path("socket").c_str(), S_IFSOCK | 0600, 0), 0);
   expect_failure(path("."), "a directory", 0);
   expect_failure(path("pipe"), "a pipe", 0);
+  expect_failure(path("socket"), "a socket", 0);
   expect_failure("/dev/null", "a character device", 0);
 }
 
