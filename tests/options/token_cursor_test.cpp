@@ -37,6 +37,24 @@ TEST(TokenCursor, ReadsNothingBeyondTheEndOfTheText) {
   EXPECT_EQ(token, "before");
 }
 
+TEST(TokenCursor, CutsLongTokensOfAnyCharacter) {
+  for (int c = 0; c < 256; ++c) {
+    if (is_space(static_cast<char>(c))) continue;
+    SCOPED_TRACE(c);
+    std::string word(150, '~');
+    for (std::size_t i = 1; i < word.size(); i += 2) word[i] = static_cast<char>(c);
+    const std::string text = "a " + word + " " + word;
+    TokenCursor in(text);
+    std::string_view token;
+    EXPECT_TRUE(in.cut(token));
+    for (int i = 0; i < 2; ++i) {
+      EXPECT_TRUE(in.cut(token));
+      EXPECT_EQ(token, word);
+    }
+    EXPECT_FALSE(in.cut(token));
+  }
+}
+
 TEST(TokenCursor, StaysAtTheEnd) {
   const std::string sixty(60, 'a');
   for (const std::string text : {"", " ", "  ", "a ", "a  ", "a   ", "a b", "a b \t ", "a b \n"}) {

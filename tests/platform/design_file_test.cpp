@@ -115,7 +115,7 @@ TEST(DesignFile, IsAHardwareManagerThatCanBeMovedAndCopied) {
     copy = design;
   }
   DesignFile second = copy;
-  DesignFile moved = std::move(second);
+  DesignFile moved = std::move(second);  // NOLINT(performance-move-const-arg): what a move does is tested
   EXPECT_THAT(processors(copy), ElementsAre("ovrin_0"));
   EXPECT_THAT(processors(moved), ElementsAre("ovrin_0"));
 }
