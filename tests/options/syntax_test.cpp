@@ -125,11 +125,11 @@ TEST(Syntax, DescribesWhatFollowsEveryOption) {
 }
 
 TEST(Syntax, HasAnOptionForEveryKeywordThatIsOne) {
-  for (const auto& [name, group] : kGroups) {
-    for (const Keyword& row : group.keywords) {
+  for (const NamedGroup& named : kGroups) {
+    for (const Keyword& row : named.group.keywords) {
       if (!row.name.text().starts_with('-')) continue;
       EXPECT_TRUE(std::ranges::any_of(options(), [&](const Option& o) {
-        return &o.group == &group && o.name.text() == row.name.text();
+        return &o.group == &named.group && o.name.text() == row.name.text();
       })) << row.name.text();
     }
   }

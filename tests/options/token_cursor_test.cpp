@@ -43,7 +43,8 @@ TEST(TokenCursor, CutsLongTokensOfAnyCharacter) {
     SCOPED_TRACE(c);
     std::string word(150, '~');
     for (std::size_t i = 1; i < word.size(); i += 2) word[i] = static_cast<char>(c);
-    const std::string text = "a " + word + " " + word;
+    std::string text = "a ";
+    text.append(word).append(" ").append(word);
     TokenCursor in(text);
     std::string_view token;
     EXPECT_TRUE(in.cut(token));
@@ -58,7 +59,9 @@ TEST(TokenCursor, CutsLongTokensOfAnyCharacter) {
 TEST(TokenCursor, StaysAtTheEnd) {
   const std::string sixty(60, 'a');
   for (const std::string text : {"", " ", "  ", "a ", "a  ", "a   ", "a b", "a b \t ", "a b \n"}) {
-    for (const std::string& whole : {text, sixty + text, sixty + text + sixty + text}) {
+    std::string twice = sixty;
+    twice.append(text).append(sixty).append(text);
+    for (const std::string& whole : {text, sixty + text, twice}) {
       SCOPED_TRACE(testing::PrintToString(whole));
       TokenCursor in(whole);
       std::string_view token;

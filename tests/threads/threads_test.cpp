@@ -31,6 +31,7 @@ constexpr int kRounds = 300;
 void run_together(const std::function<void(int thread)>& job) {
   std::atomic<int> waiting = kThreads;
   std::vector<std::thread> threads;
+  threads.reserve(kThreads);
   for (int i = 0; i < kThreads; ++i) {
     threads.emplace_back([&, i] {
       for (--waiting; waiting != 0;) std::this_thread::yield();
