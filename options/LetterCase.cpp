@@ -3,6 +3,7 @@
 #include <algorithm>
 
 namespace SdkDebugDialog {
+
 bool LetterCase::same(std::string_view a, std::string_view b) const {
   if (a.size() != b.size()) return false;
   if (a == b) return true;

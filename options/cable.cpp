@@ -1,7 +1,6 @@
 // The "-cable" option and the types of cables.
 
 #include <algorithm>
-#include <array>
 #include <boost/algorithm/string/replace.hpp>
 #include <string>
 
