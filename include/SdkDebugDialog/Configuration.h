@@ -1,0 +1,206 @@
+#pragma once
+
+// The debug configuration of one processor as a value: copied, compared, changed, stored.
+//
+//   Design design(hardware);
+//   Configuration now = Configuration::open(*design.find("cpu0"), "etc/qvt_cpu0.opt").value();
+//   Configuration edited = now;                      // Cancel: forget the copy
+//   if (auto set = edited.set("frequency", "12M"); !set) show(set.error().message);
+//   for (const Difference& d : differences(now, edited)) ...
+//   if (auto stored = edited.store(); !stored) show(stored.error().message);
+//
+// Nothing needs to be released, and every error has a text. Objects in different threads are independent, also copies
+// of one another, but for the hardware description that they ask.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "SdkDebugDialog/Annotation.h"
+#include "SdkDebugDialog/CableOption.h"
+#include "SdkDebugDialog/Expected.h"
+#include "SdkDebugDialog/Export.h"
+#include "SdkDebugDialog/JtagOption.h"
+#include "SdkDebugDialog/ProcessorInfo.h"
+#include "SdkDebugDialog/Settings.h"
+
+class HHSMHwManager;
+
+namespace SdkDebugDialog {
+
+// A processor of a design, or none. Copies share what was discovered.
+class SDKDEBUGDIALOG_API Processor {
+ public:
+  // No processor of a design: a text alone tells what it is for.
+  Processor() = default;
+
+  // Its instance name; empty for no processor of a design.
+  const std::string& name() const { return m_identity.name; }
+  // As discovered; the settings in it are the defaults.
+  const ProcessorInfoImp& identity() const { return m_identity; }
+  // Null for no processor of a design.
+  HHSMHwManager* hardware() const { return m_hardware.get(); }
+
+ private:
+  friend class Design;
+  ProcessorInfoImp m_identity;
+  std::shared_ptr<HHSMHwManager> m_hardware;
+};
+
+// The processors of a hardware description, found once.
+class SDKDEBUGDIALOG_API Design {
+ public:
+  // The description is queried now and by the configurations of its processors: it must outlive them. Exceptions of the
+  // description are passed on.
+  explicit Design(HHSMHwManager& hardware);
+  // The same; the description is kept as long as it is needed.
+  explicit Design(std::shared_ptr<HHSMHwManager> hardware);
+
+  // Every processor, debuggable or not, in the order of discovery.
+  const std::vector<std::string>& names() const;
+  // Those that can be debugged.
+  const std::vector<Processor>& processors() const;
+  // ErrorCode::noSuchProcessor, with the nearest name.
+  Expected<Processor> find(std::string_view name) const;
+  // The first one of the family and number that a connect command tells; one without a name when there is none.
+  // ErrorCode::notUnderstood.
+  Expected<Processor> identify(std::string_view command) const;
+
+ private:
+  struct Content;
+  std::shared_ptr<const Content> m_content;
+};
+
+// A setting in one configuration.
+struct SettingState {
+  SettingValue value;
+  SettingValue initial;  // the default, here
+  bool applies = true;
+  bool changeable = true;
+  std::string whyNot;                // why it does not apply, or may not be changed
+  std::vector<std::string> choices;  // the values accepted now, as text; empty: any of its kind
+  bool written = false;              // whether it is in command()
+  std::string whyNotWritten;
+};
+
+// A setting that differs between two configurations.
+struct Difference {
+  const Setting* setting = nullptr;
+  SettingValue before;
+  SettingValue after;
+};
+
+// Something that a text has and the text to be stored has not.
+struct Loss {
+  const Setting* setting = nullptr;  // null for words that set nothing
+  std::string what;                  // "bscan USER3", "-quiet"
+  std::string why;
+};
+
+// A text with its changes made.
+struct Edit {
+  std::string text;                     // the whole text
+  bool anew = false;                    // written anew; otherwise every byte that needed no change is as it was
+  std::vector<Difference> differences;  // what the new text means differently, and what follows from it
+  std::vector<Loss> losses;             // what storing it loses
+  std::string notReadBack;              // why the reader refuses it, or reads it otherwise; empty: it is read back
+
+  bool is_safe() const { return losses.empty() && notReadBack.empty(); }
+};
+
+// A change of a setting: a value as text, or back to the default.
+struct Change {
+  std::string setting;
+  std::string value;
+  bool toDefault = false;
+};
+
+// Whether storing goes on where it would lose something, or would store what is not read back.
+enum class OnLoss { refuse, goOn };
+
+class SDKDEBUGDIALOG_API Configuration {
+ public:
+  // The defaults, with no text.
+  explicit Configuration(Processor processor = {});
+
+  // Read from a text. ErrorCode::notUnderstood.
+  static Expected<Configuration> read(Processor processor, std::string_view text, TextKind kind = TextKind::command);
+  // Read from an option file; the defaults when there is no such file, or nothing in it. The path is relative to the
+  // working directory. ErrorCode::notUnderstood, ErrorCode::file.
+  static Expected<Configuration> open(Processor processor, const std::string& path);
+
+  Configuration(const Configuration& other);
+  Configuration(Configuration&& other) noexcept;
+  Configuration& operator=(const Configuration& other);
+  Configuration& operator=(Configuration&& other) noexcept;
+  ~Configuration();
+
+  // Equal: the same settings of the same processor, and the same text to be stored.
+  friend SDKDEBUGDIALOG_API bool operator==(const Configuration& a, const Configuration& b);
+  friend bool operator!=(const Configuration& a, const Configuration& b) { return !(a == b); }
+
+  // --- Settings ---
+
+  SettingValue value(const Setting& setting) const;
+  SettingState state(const Setting& setting) const;
+
+  // A refusal changes nothing. What is returned are warnings: what is accepted and yet looks wrong.
+  // ErrorCode::noSuchSetting, invalidValue, refused.
+  Expected<std::vector<std::string>> set(const Setting& setting, const SettingValue& value);
+  Expected<std::vector<std::string>> set(std::string_view name, std::string_view text);
+  // Back to the default; also where the setting does not apply. ErrorCode::refused for a setting that is read-only.
+  Expected<void> reset(const Setting& setting);
+  // All settings back to their defaults. The text to be stored is then written anew.
+  void reset();
+
+  // Takes over the settings of another processor; returns those that it could not take, each with the reason.
+  std::vector<Loss> copy_settings(const Configuration& from);
+
+  // --- Text ---
+
+  // The connect command that the engine writes for the settings. ErrorCode::cannotBeWritten.
+  Expected<std::string> command() const;
+  // The text that was read with the changes made in it; what store() writes. A command becomes the content of an option
+  // file: one that its reader would not understand alike is written anew. ErrorCode::cannotBeWritten.
+  Expected<Edit> edited() const;
+  Expected<std::string> text() const;
+  // The same, written anew: what edited() keeps and command() does not tell is listed as lost.
+  Expected<Edit> written_anew() const;
+
+  // --- The option file ---
+
+  // Where open() read it; empty for a configuration that was not read from a file.
+  const std::string& path() const;
+  // Stores edited() in the file that was read, which must be as it was then. Nothing is written when it would not
+  // change. Returns what was stored. ErrorCode::cannotBeWritten, wouldLose, changedMeanwhile, file.
+  Expected<Edit> store(OnLoss onLoss = OnLoss::refuse);
+  // The same in another file, which must not be there yet, unless onLoss is goOn.
+  Expected<Edit> store(const std::string& path, OnLoss onLoss = OnLoss::refuse);
+  Expected<Edit> store(const Edit& edit, const std::string& path, OnLoss onLoss);
+
+  // --- What the settings are kept in ---
+
+  const Processor& processor() const;
+  const ProcessorInfoImp& record() const;
+  const CableOption& cable() const;
+  const std::vector<JtagOption>& chain() const;
+  bool cpu_jtag() const;
+
+ private:
+  struct Content;
+  std::unique_ptr<Content> m_content;
+};
+
+// By setting, in the order of the catalogue; the identity is compared too.
+SDKDEBUGDIALOG_API std::vector<Difference> differences(const Configuration& before, const Configuration& after);
+
+// Makes changes in a text: the words of the settings given change, a missing keyword joins its group, a missing option
+// is put where the writer would put it, or at the first place where it reads right. Every other byte stays. Where that
+// is impossible the command is written anew; see Edit. "cpu-jtag" is put to its default also in a text that is refused
+// for it alone. ErrorCode as Configuration::set and Configuration::edited, and notUnderstood.
+SDKDEBUGDIALOG_API Expected<Edit> edit(const Processor& processor, std::string_view text, TextKind kind,
+                                       const std::vector<Change>& changes);
+
+}  // namespace SdkDebugDialog
