@@ -3,7 +3,6 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <pthread.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -17,23 +16,12 @@
 #include <utility>
 
 #include "util/Descriptor.h"
+#include "util/lock.h"
 
 namespace SdkDebugDialog {
 namespace {
 
 namespace fs = boost::filesystem;
-
-// The target of a chain of symbolic links, which need not exist; empty for a loop.
-fs::path follow_links(fs::path path) {
-  boost::system::error_code error;
-  for (int links = 0; links < 40; ++links) {
-    if (fs::symlink_status(path, error).type() != fs::symlink_file) return path;
-    const fs::path next = fs::read_symlink(path, error);
-    if (error) return {};
-    path = fs::absolute(next, path.parent_path());
-  }
-  return {};
-}
 
 // Blocks SIGXFSZ in this thread, so that a write beyond the file-size limit fails with EFBIG instead of terminating the
 // program. The destructor removes the pending signal and restores the signal mask.
@@ -109,13 +97,6 @@ bool is_new_file(std::string_view name) {
 std::string new_file_name() {
   const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
   return std::string(kNewFile) + std::to_string(::getpid()) + "." + std::to_string(now);
-}
-
-enum class Lock { got, heldByAnother, unknown };  // unknown: the file system does not support locks
-
-Lock lock(const Descriptor& file) {
-  if (::flock(file.get(), LOCK_EX | LOCK_NB) == 0) return Lock::got;
-  return errno == EWOULDBLOCK ? Lock::heldByAnother : Lock::unknown;
 }
 
 // A temporary file, created empty. The destructor removes it unless it was renamed. False when it cannot be created.
@@ -199,6 +180,17 @@ void clear_left_behind(const fs::path& path, int folder, const std::string& targ
 }
 
 }  // namespace
+
+fs::path follow_links(fs::path path) {
+  boost::system::error_code error;
+  for (int links = 0; links < 40; ++links) {
+    if (fs::symlink_status(path, error).type() != fs::symlink_file) return path;
+    const fs::path next = fs::read_symlink(path, error);
+    if (error) return {};
+    path = next.is_absolute() ? next : path.parent_path() / next;
+  }
+  return {};
+}
 
 bool replace_file(const fs::path& path, std::string_view text) {
   const fs::path target = follow_links(path);

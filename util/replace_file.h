@@ -23,4 +23,7 @@ namespace SdkDebugDialog {
 // leave its temporary file, which the next writer removes.
 bool replace_file(const boost::filesystem::path& path, std::string_view text);
 
+// The target of a chain of symbolic links, which need not exist; the path itself if it is no link; empty for a loop.
+boost::filesystem::path follow_links(boost::filesystem::path path);
+
 }  // namespace SdkDebugDialog

@@ -29,6 +29,7 @@
 #include "tests/options/reading.h"
 #include "tests/options/work_folder.h"
 #include "tests/support/OptionFileWriter.h"
+#include "tests/support/become_nobody.h"
 #include "tests/support/in_child.h"
 
 namespace SdkDebugDialog {
@@ -37,8 +38,6 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 using namespace std::string_literals;
-
-bool become_nobody() { return ::setgroups(0, nullptr) == 0 && ::setgid(65534) == 0 && ::setuid(65534) == 0; }
 
 mode_t mode_of(const fs::path& path) {
   struct stat status = {};
