@@ -27,15 +27,19 @@ const Target& target_of(const ProcessorInfoImp& processor) {
 
 std::span<const Head> heads() { return kHeads; }
 
+const Target* find_target(std::string_view word, bool virtualPlatform, const LetterCase& letterCase) {
+  const Bytes bytes = bytes_of(word);
+  for (const Target& target : targets()) {
+    if (target.virtualPlatform == virtualPlatform && target.name.is(word, bytes, letterCase)) return &target;
+  }
+  return nullptr;
+}
+
 bool read_target(TokenCursor& in, EngineImp& imp, Source source, bool virtualPlatform) {
   std::string_view word;
   if (in.next(word) == Token::end) return false;
-  const Bytes bytes = bytes_of(word);
-  for (const Target& target : targets()) {
-    if (target.virtualPlatform != virtualPlatform || !target.name.is(word, bytes, in.letter_case())) continue;
-    return (target.inFile || source == Source::command) && target.read(target, in, imp);
-  }
-  return false;
+  const Target* const target = find_target(word, virtualPlatform, in.letter_case());
+  return target != nullptr && (target->inFile || source == Source::command) && target->read(*target, in, imp);
 }
 
 bool read_connect(TokenCursor& in, EngineImp& imp, Source source) {

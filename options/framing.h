@@ -2,12 +2,17 @@
 
 // The frame of a connect command: its head and its target, which select a reader and a writer.
 
+#include <string_view>
+
 #include "options/syntax.h"
 
 namespace SdkDebugDialog {
 
 // An option file takes fewer heads and targets than a command.
 enum class Source { file, command };
+
+// The target that the word names behind a head of this kind; null when it names none.
+const Target* find_target(std::string_view word, bool virtualPlatform, const LetterCase& letterCase);
 
 // False when the text is not understood.
 bool read_connect(TokenCursor& in, EngineImp& imp, Source source);

@@ -23,6 +23,9 @@ bool read_options(TokenCursor& in, EngineImp& imp, const Run& run);
 // The option that the word names in this run; null when it names none.
 const Option* find_option(std::string_view word, const Run& run, const LetterCase& letterCase);
 
+// The row that describes the option's own value, or the flag that it sets; null for an option with pairs.
+const Keyword* value_row(const Option& option);
+
 // --- Writing: false where the group cannot be written ---
 
 bool write_cable(TextOut& out, EngineImp& imp);                                      // nothing without a cable

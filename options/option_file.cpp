@@ -23,23 +23,31 @@ fs::path option_path(const std::string& processor) {
   return directory.string() + "/etc/qvt_" + processor + ".opt";
 }
 
+std::string_view without_empty_lines(std::string_view content) {
+  content.remove_prefix(std::min(content.find_first_not_of('\n'), content.size()));
+  return content;
+}
+
 }  // namespace
+
+std::string_view option_line(std::string_view content) {
+  content = without_empty_lines(content);
+  return content.substr(0, std::min(content.find('\n'), kLongestLine));
+}
 
 std::string read_option_line(const std::string& processor) {
   RegularFile file(option_path(processor).string());
   if (!file) return {};
-  std::string line;
+  std::string content;
   char buffer[kLongestLine + 1];
   std::ptrdiff_t count = 0;
   while ((count = file.read(buffer, sizeof buffer)) > 0) {
-    std::string_view part(buffer, static_cast<std::size_t>(count));
-    if (line.empty()) part.remove_prefix(std::min(part.find_first_not_of('\n'), part.size()));
-    const std::size_t end = part.find('\n');
-    line += part.substr(0, end);
-    if (line.size() >= kLongestLine) line.resize(kLongestLine);
-    if (line.size() == kLongestLine || end != std::string_view::npos) return line;
+    const std::string_view part(buffer, static_cast<std::size_t>(count));
+    content += content.empty() ? without_empty_lines(part) : part;
+    const std::size_t size = option_line(content).size();
+    if (size < content.size() || size == kLongestLine) return content.substr(0, size);
   }
-  return count == 0 ? line : std::string();
+  return count == 0 ? content : std::string();
 }
 
 bool write_option_file(const std::string& processor, const std::string& text) {

@@ -1,5 +1,6 @@
 // Which options there are, where each may stand, and the reading of a run of them.
 
+#include <algorithm>
 #include <string>
 
 #include "model/error_text.h"
@@ -17,11 +18,9 @@ Outcome read_group(const Option& option, TokenCursor& in, std::string_view /*typ
   return read_pairs(in, option.group, records_of(imp)).outcome;
 }
 
-// Stores the value of an option, which the row of its name describes; syntax_test sees to it that there is one.
+// syntax_test sees to it that the option has a row.
 Outcome store_value(const Option& option, const KeywordAndValue& pair, EngineImp& imp) {
-  const Keyword* row = option.group.keywords.data();
-  while (row->name.text() != option.name.text()) ++row;
-  return read_value(*row, pair, records_of(imp)) ? Outcome::done : Outcome::error;
+  return read_value(*value_row(option), pair, records_of(imp)) ? Outcome::done : Outcome::error;
 }
 
 Outcome read_one(const Option& option, TokenCursor& in, std::string_view typed, EngineImp& imp) {
@@ -106,6 +105,12 @@ constexpr Option kOptions[] = {
 constinit const Group kFlags = {kFlagKeywords};
 
 std::span<const Option> options() { return kOptions; }
+
+const Keyword* value_row(const Option& option) {
+  const auto row = std::ranges::find(option.group.keywords, option.name.text(),
+                                     [](const Keyword& keyword) { return keyword.name.text(); });
+  return row != option.group.keywords.end() ? &*row : nullptr;
+}
 
 // --- Reading ---
 

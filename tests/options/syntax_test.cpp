@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "model/processor_kind.h"
+#include "options/groups.h"
 #include "options/target.h"
 
 namespace SdkDebugDialog {
@@ -41,12 +42,6 @@ void expect_distinct_names(const Rows& rows) {
     EXPECT_TRUE(seen.insert(boost::to_lower_copy(std::string(row.name.text()))).second)
         << row.name.text() << " is listed twice";
   }
-}
-
-const Keyword* value_of(const Option& option) {
-  const auto found =
-      std::ranges::find(option.group.keywords, option.name.text(), [](const Keyword& row) { return row.name.text(); });
-  return found != option.group.keywords.end() ? &*found : nullptr;
 }
 
 TEST(Syntax, HasAReadingAWritingAndAReasonForEveryKeyword) {
@@ -116,7 +111,7 @@ TEST(Syntax, DescribesWhatFollowsEveryOption) {
     EXPECT_NE(option.runs, 0U);
     EXPECT_NE(option.read, nullptr);
     EXPECT_STRNE(option.meaning, "");
-    const Keyword* const value = value_of(option);
+    const Keyword* const value = value_row(option);
     EXPECT_EQ(value == nullptr, option.takes == Option::Takes::pairs);
     if (value == nullptr) continue;
     const bool flag = option.takes == Option::Takes::nothing || option.takes == Option::Takes::ownRun;
