@@ -26,6 +26,9 @@ const Option* find_option(std::string_view word, const Run& run, const LetterCas
 // The row that describes the option's own value, or the flag that it sets; null for an option with pairs.
 const Keyword* value_row(const Option& option);
 
+// The chain's way through the processor's own JTAG pins as it is written. It is not read back.
+inline constexpr std::string_view kOwnPinsWritten = " jtagpin cpujtag";
+
 // --- Writing: false where the group cannot be written ---
 
 bool write_cable(TextOut& out, EngineImp& imp);                                      // nothing without a cable

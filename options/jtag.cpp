@@ -97,7 +97,7 @@ bool write_cable_and_chain(TextOut& out, EngineImp& imp) {
   write_bscan(out, imp);
   if (imp.cpuJtag == 1) {
     out.put_name(kOption);
-    out.put(" jtagpin cpujtag");
+    out.put(kOwnPinsWritten);
   }
   for (JtagOption* const device : imp.jtagChain) {
     out.put_name(kOption);

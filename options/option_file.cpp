@@ -13,8 +13,6 @@ namespace {
 
 namespace fs = boost::filesystem;
 
-constexpr std::size_t kLongestLine = 1023;
-
 // Empty when the working directory cannot be told, or when the name holds a byte that no path may hold.
 fs::path option_path(const std::string& processor) {
   boost::system::error_code error;

@@ -2,12 +2,15 @@
 
 // The file in which a processor's connect command is kept: <working directory>/etc/qvt_<processor>.opt.
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace SdkDebugDialog {
 
-// The part of the content of a file that is read: its first line that is not empty, or the first 1,023 bytes of it.
+inline constexpr std::size_t kLongestLine = 1023;  // bytes
+
+// The part of the content of a file that is read: its first line that is not empty, or its first 1,023 bytes.
 // Empty when there is no such line.
 std::string_view option_line(std::string_view content);
 

@@ -75,17 +75,19 @@ constexpr unsigned kInHdlSim = kHdlSimOptions.bit;
 constexpr unsigned kPlatform = kPlatformOptions.bit;
 constexpr unsigned kCableText = kCableTextOptions.bit;
 
+// In the order in which they are written; of those that are never written "-sim", which takes all that follow, comes
+// last.
 constexpr Option kOptions[] = {
-    {"-cable", kGeneral | kOdm | kDcc | kQmtc | kCableText, Takes::pairs, kCable, read_cable, "download cable"},
-    {"-configdevice", kGeneral | kOdm | kQmtc | kInHdlSim | kCableText, Takes::pairs, kConfigdevice, read_configdevice,
-     "a device of the JTAG chain"},
-    {"-debugdevice", kGeneral | kOdm | kDcc | kQmtc | kInPpcSim | kCableText, Takes::pairs, kDebugdevice, read_group,
-     "debug device, processor, memories"},
-    {"-bscan", kGeneral | kOdm | kCableText, Takes::value, kBscan, read_one, "JTAG user register of the debug module"},
     {"-comm", kGeneral, Takes::valueOrNone, kStub, read_one, "how the stub is reached"},
     {"-port", kGeneral, Takes::valueOrNone, kStub, read_one, "serial stub: device"},
     {"-baud", kGeneral, Takes::valueOrNone, kStub, read_one, "serial stub: rate"},
     {"-timeout", kGeneral, Takes::valueOrNone, kStub, read_one, "stub: time-out"},
+    {"-cable", kGeneral | kOdm | kDcc | kQmtc | kCableText, Takes::pairs, kCable, read_cable, "download cable"},
+    {"-bscan", kGeneral | kOdm | kCableText, Takes::value, kBscan, read_one, "JTAG user register of the debug module"},
+    {"-configdevice", kGeneral | kOdm | kQmtc | kInHdlSim | kCableText, Takes::pairs, kConfigdevice, read_configdevice,
+     "a device of the JTAG chain"},
+    {"-debugdevice", kGeneral | kOdm | kDcc | kQmtc | kInPpcSim | kCableText, Takes::pairs, kDebugdevice, read_group,
+     "debug device, processor, memories"},
     {"-uart", kOdm | kDcc, Takes::nothing, kFlags, read_flag, "UART of the target"},
     {"-pfsl", kGeneral, Takes::pairs, kPfsl, read_group, "checked, no effect"},
     {"-quiet", kGeneral, Takes::nothing, kFlags, read_flag, "accepted, no effect"},

@@ -4,37 +4,15 @@
 #include <type_traits>
 
 #include "model/error_text.h"
+#include "options/field.h"
 #include "options/number.h"
 
 namespace SdkDebugDialog {
 namespace {
 
-template <class Value>
-Value& field_of(const Records& records, Value ProcessorInfoImp::*field) {
-  return records.processor->*field;
-}
-template <class Value>
-Value& field_of(const Records& records, Value CableOption::*field) {
-  return records.cable->*field;
-}
-template <class Value>
-Value& field_of(const Records& records, Value JtagOption::*field) {
-  return records.device->*field;
-}
-
-// Calls use with the stored value, unless the row has no field.
-template <class Use>
-void with_field(const Keyword& row, const Records& records, Use use) {
-  std::visit(
-      [&](auto field) {
-        if constexpr (!std::is_same_v<decltype(field), std::monostate>) use(field_of(records, field));
-      },
-      row.field);
-}
-
 // A number is cut to the width of its field.
 void store(const Keyword& row, std::uint64_t number, const Records& to) {
-  with_field(row, to, [&]<class Value>(Value& value) {
+  with_field(row.field, to, [&]<class Value>(Value& value) {
     if constexpr (std::is_integral_v<Value>) value = static_cast<Value>(number);
   });
 }
@@ -46,7 +24,7 @@ void store(const Keyword& row, std::uint64_t number, const Records& to) {
 bool read_value(const Keyword& row, const KeywordAndValue& pair, const Records& to) {
   if (row.read != nullptr) return row.read(row, pair, to);
   if (row.kind == Kind::word) return read_word(row, pair, to);
-  with_field(row, to, [&]<class Value>(Value& value) {
+  with_field(row.field, to, [&]<class Value>(Value& value) {
     if constexpr (std::is_same_v<Value, std::string>) {
       value = pair.value;
     } else if (row.kind == Kind::signedNumber) {
@@ -106,7 +84,7 @@ namespace {
 [[gnu::noinline]] void write_word(const Keyword& row, TextOut& out, const Records& from) {
   const Word* word = row.words.data();
   const Word* const last = &row.words.back();
-  with_field(row, from, [&]<class Value>(const Value& value) {
+  with_field(row.field, from, [&]<class Value>(const Value& value) {
     if constexpr (std::is_integral_v<Value>) {
       while (word != last && word->value != static_cast<std::uint32_t>(value)) ++word;
     }
@@ -120,7 +98,7 @@ namespace {
 void write_pair(TextOut& out, const Keyword& row, const Records& from) {
   if (row.write != nullptr) return row.write(row, out, from);
   if (row.kind == Kind::word) return write_word(row, out, from);
-  with_field(row, from, [&]<class Value>(const Value& value) {
+  with_field(row.field, from, [&]<class Value>(const Value& value) {
     if constexpr (std::is_same_v<Value, std::string>) {
       out.put(row.name, value);
     } else if (row.kind == Kind::hexadecimal || row.kind == Kind::address) {

@@ -78,7 +78,7 @@ TEST(Syntax, HasTheseNames) {
   EXPECT_EQ(names(heads()), "connect vpconnect qconnect qvpconnect");
   EXPECT_EQ(names(targets()), "ov ppc arm r5 dap odm dcc qmtc ov");
   EXPECT_EQ(names(options()),
-            "-cable -configdevice -debugdevice -bscan -comm -port -baud -timeout -uart -pfsl -quiet -noattach "
+            "-comm -port -baud -timeout -cable -bscan -configdevice -debugdevice -uart -pfsl -quiet -noattach "
             "-writeonly -sim -ipcport -memsize -icf -ipcport -config -ipcport");
   EXPECT_EQ(names(kCable.keywords), "type port frequency esn modulename modulearg fname url");
   EXPECT_EQ(names(kConfigdevice.keywords), "devicenr partname irlength idcode isfpga hardppc nppc jtagport");
