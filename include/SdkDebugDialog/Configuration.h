@@ -80,7 +80,8 @@ struct SettingState {
   bool applies = true;
   bool changeable = true;
   std::string whyNot;                // why it does not apply, or may not be changed
-  std::vector<std::string> choices;  // the values accepted now, as text; empty: any of its kind
+  std::vector<std::string> choices;  // values accepted now, as text
+  bool freeText = true;              // whether other values of its kind are accepted too
   bool written = false;              // whether it is in command()
   std::string whyNotWritten;
 };
@@ -145,6 +146,8 @@ class SDKDEBUGDIALOG_API Configuration {
 
   SettingValue value(const Setting& setting) const;
   SettingState state(const Setting& setting) const;
+  // Of all settings at once, in the order of settings().
+  std::vector<SettingState> states() const;
 
   // A refusal changes nothing. What is returned are warnings: what is accepted and yet looks wrong.
   // ErrorCode::noSuchSetting, invalidValue, refused.
@@ -162,10 +165,12 @@ class SDKDEBUGDIALOG_API Configuration {
 
   // The connect command that the engine writes for the settings. ErrorCode::cannotBeWritten.
   Expected<std::string> command() const;
-  // The text that was read with the changes made in it; what store() writes. A command becomes the content of an option
-  // file: one that its reader would not understand alike is written anew. ErrorCode::cannotBeWritten.
+  // The text that was read with the changes made in it. ErrorCode::cannotBeWritten.
   Expected<Edit> edited() const;
   Expected<std::string> text() const;
+  // The same as the content of an option file, which store() writes: a command that the option file's reader would not
+  // understand alike, byte for byte, is written anew.
+  Expected<Edit> for_file() const;
   // The same, written anew: what edited() keeps and command() does not tell is listed as lost.
   Expected<Edit> written_anew() const;
 
@@ -173,7 +178,7 @@ class SDKDEBUGDIALOG_API Configuration {
 
   // Where open() read it; empty for a configuration that was not read from a file.
   const std::string& path() const;
-  // Stores edited() in the file that was read, which must be as it was then. Nothing is written when it would not
+  // Stores for_file() in the file that was read, which must be as it was then. Nothing is written when it would not
   // change. Returns what was stored. ErrorCode::cannotBeWritten, wouldLose, changedMeanwhile, file.
   Expected<Edit> store(OnLoss onLoss = OnLoss::refuse);
   // The same in another file, which must not be there yet, unless onLoss is goOn.

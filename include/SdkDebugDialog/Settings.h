@@ -62,7 +62,7 @@ SDKDEBUGDIALOG_API const std::vector<Setting>& settings();
 SDKDEBUGDIALOG_API const Setting* find_setting(std::string_view name);
 
 // A value as text, which parse_value reads back: "12 MHz", "0x70000000", "on", "USER3",
-// "1,prom32,16,0xa5059093:2,fpga,10,0x0a001093"; empty for "not set".
+// "1,prom32,16,0xa5059093:2,fpga,10,0x0a001093" (but for a part name with a comma or a colon); empty for "not set".
 SDKDEBUGDIALOG_API std::string value_text(const Setting& setting, const SettingValue& value);
 
 // A text as people type it. Errors: ErrorCode::invalidValue, with what is accepted.
@@ -78,5 +78,9 @@ SDKDEBUGDIALOG_API std::string value_text(const Setting& setting, const SettingV
 //
 // A number with a leading 0, such as 010, is refused: the connect command would take it as octal.
 SDKDEBUGDIALOG_API Expected<SettingValue> parse_value(const Setting& setting, std::string_view text);
+
+// The candidate that a mistyped name resembles most; empty when it resembles none.
+SDKDEBUGDIALOG_API std::string_view nearest_name(std::string_view name,
+                                                 const std::vector<std::string_view>& candidates);
 
 }  // namespace SdkDebugDialog

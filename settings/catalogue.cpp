@@ -1,0 +1,825 @@
+// The settings: their table, and what is special about some of them.
+
+#include "settings/catalogue.h"
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+
+#include "SdkDebugDialog/Engine.h"
+#include "SdkDebugDialog/EngineImp.h"
+#include "model/base_address.h"
+#include "model/processor_kind.h"
+#include "options/field.h"
+#include "options/groups.h"
+#include "settings/number_text.h"
+#include "settings/words.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+using P = ProcessorInfoImp;
+using C = CableOption;
+
+constexpr std::int64_t kMaxSignedByte = std::numeric_limits<std::int8_t>::max();
+constexpr std::int64_t kMaxSigned = std::numeric_limits<std::int32_t>::max();
+constexpr std::int64_t kMaxUnsigned = std::numeric_limits<std::uint32_t>::max();
+constexpr std::int64_t kMaxAddress = kMaxUnsigned - 1;  // the largest number stands for "not set"
+constexpr std::int64_t kMaxPort = 65535;
+constexpr std::uint32_t kBlock = 0x10000;
+
+std::string text_of(const SettingValue& value) { return std::get<std::string>(value); }
+
+// --- When settings apply ---
+
+bool has(const State& s, std::uint32_t connection) { return (s.processor.connectionType & connection) != 0; }
+bool is_hardware(const State& s) { return s.processor.connectionType == Engine::HARDWARE; }
+bool is_serial(const State& s) { return has(s, Engine::STUB) && s.processor.stubType != Engine::STUB_OVER_JTAG; }
+bool is_powerpc(const State& s) { return s.processor.procFamily == kFamilyPowerPC; }
+bool uses_cable(const State& s) { return !has(s, Engine::SIMULATOR | Engine::VIRTUAL_PLATFORM) && !is_serial(s); }
+const CableType& type_of(const State& s) { return cable_type(s.cable.type); }
+bool is_clocked(const State& s) { return uses_cable(s) && !type_of(s).accepted.empty(); }
+bool is_plugin(const State& s) { return uses_cable(s) && s.cable.type == Engine::ZARVEK_PLUGIN; }
+
+constexpr Applies kEverywhere = {[](const State&) { return true; }, ""};
+constexpr Applies kWithStub = {[](const State& s) { return (s.processor.allowedConnections & Engine::STUB) != 0; },
+                               "the processor has no stub connection"};
+constexpr Applies kSerialStub = {is_serial, "it is for the connection 'stub' over a serial line"};
+constexpr Applies kSoftSimulator = {
+    [](const State& s) { return has(s, Engine::SIMULATOR) && s.processor.procFamily == kFamilySoft; },
+    "it is for the simulator of a soft processor"};
+bool is_ppc_simulator(const State& s) { return has(s, Engine::SIMULATOR) && s.processor.procFamily != kFamilySoft; }
+constexpr Applies kPpcSimulator = {is_ppc_simulator, "it is for the simulator of a PowerPC"};
+constexpr Applies kSimulatorPort = {
+    [](const State& s) { return is_ppc_simulator(s) || has(s, Engine::VIRTUAL_PLATFORM); },
+    "it is for the simulator of a PowerPC and for the virtual platform"};
+constexpr Applies kPlatform = {[](const State& s) { return has(s, Engine::VIRTUAL_PLATFORM); },
+                               "it is for the connection 'virtual-platform'"};
+bool takes_general_options(const State& s) {
+  return has(s, Engine::HARDWARE | Engine::STUB) &&
+         (s.processor.allowedConnections & (Engine::ODM_TARGET | Engine::DCC_TARGET | Engine::QMTC_TARGET)) == 0;
+}
+constexpr Applies kHdlSimulator = {takes_general_options, "it is for the connections 'hardware' and 'stub'"};
+constexpr Applies kWithHdlSimulator = {
+    [](const State& s) { return takes_general_options(s) && s.processor.modelSimEnabled != 0; },
+    "the hardware simulator is not enabled"};
+constexpr const char* kNoCableInUse = "the connection uses no cable";
+constexpr Applies kOnCable = {uses_cable, kNoCableInUse};
+constexpr Applies kUart = {
+    [](const State& s) { return (s.processor.allowedConnections & (Engine::ODM_TARGET | Engine::DCC_TARGET)) != 0; },
+    "only the targets 'odm' and 'dcc' take it"};
+constexpr Applies kPpcHardware = {[](const State& s) { return is_powerpc(s) && is_hardware(s); },
+                                  "it is for a PowerPC with the connection 'hardware'"};
+constexpr Applies kPpc405Hardware = {
+    [](const State& s) { return s.processor.procVariant == kVariantPpc405 && is_hardware(s); },
+    "it is for a ppc405 with the connection 'hardware'"};
+constexpr Applies kHardware = {is_hardware, "it is for the connection 'hardware'"};
+constexpr Applies kPowerPC = {is_powerpc, "only a PowerPC has one"};
+constexpr Applies kClocked = {is_clocked, "the cable has no such setting"};
+constexpr Applies kPlugin = {is_plugin, "it is for a cable of the type 'zarvek_plugin'"};
+
+// --- Words ---
+
+std::vector<SettingWord> words_of(const Group& group, std::string_view keyword) {
+  const auto row = std::ranges::find(group.keywords, keyword, [](const Keyword& k) { return k.name.text(); });
+  std::vector<SettingWord> words;
+  for (const Word& word : row->words) words.push_back({word.name.text(), word.value});
+  return words;
+}
+
+// A type is called by its last name, which is also the longest.
+std::vector<SettingWord> cable_words() {
+  std::vector<SettingWord> words = {{"none", Engine::CABLE_NONE}};
+  for (const CableType& type : cable_types()) words.push_back({type.names.back().text(), type.type});
+  std::ranges::sort(words, {}, &SettingWord::value);
+  return words;
+}
+
+std::vector<SettingWord> fpu_words() {
+  std::vector<SettingWord> words = words_of(kDebugdevice, "fpuType");
+  words.insert(words.begin(), SettingWord{"none", kFpuNone});
+  return words;
+}
+
+constexpr SettingWord kFamilies[] = {{"ovrin", kFamilySoft}, {"ppc", kFamilyPowerPC}, {"arm", kFamilyArm}};
+constexpr SettingWord kVariants[] = {{"soft", kVariantSoft},     {"ppc405", kVariantPpc405},
+                                     {"ppc440", kVariantPpc440}, {"cortex-a9", kVariantCortexA9},
+                                     {"r5", kVariantR5},         {"other", kVariantOtherPowerPC}};
+
+// Bits. The first four are the connections that can be selected.
+constexpr std::size_t kSelectable = 4;
+constexpr SettingWord kConnections[] = {
+    {"simulator", Engine::SIMULATOR},
+    {"hardware", Engine::HARDWARE},
+    {"stub", Engine::STUB},
+    {"virtual-platform", Engine::VIRTUAL_PLATFORM},
+    {"odm-target", Engine::ODM_TARGET},
+    {"qmtc-target", Engine::QMTC_TARGET},
+    {"dcc-target", Engine::DCC_TARGET},
+    {"dap-target", Engine::DAP_TARGET},
+    {"stub-jtag", Engine::STUB_JTAG_PRESENT},
+    {"stub-uart", Engine::STUB_UART_PRESENT},
+};
+
+std::vector<std::string> names_in_set(std::uint32_t set) {
+  std::vector<std::string> names;
+  for (const SettingWord& word : kConnections) {
+    if ((set & word.value) != 0) names.emplace_back(word.name);
+  }
+  return names;
+}
+
+// --- Engines for a call ---
+
+// Runs an operation of the engine on the state; empty, or the engine's error text.
+template <class Operation>
+std::string by_engine(State& state, Operation operation) {
+  Engine engine;
+  engine.imp->currentProcessor = &state.processor;
+  std::swap(*engine.imp->cable, state.cable);
+  const int result = operation(engine);
+  std::swap(*engine.imp->cable, state.cable);
+  std::string text;
+  engine.GetErrorStr(text);
+  return result == 0 ? "" : text.empty() ? "refused" : text;
+}
+
+// --- Identity ---
+
+const char* as_in_design(const State& /*s*/, bool hasDesign) { return hasDesign ? "it is as in the design" : nullptr; }
+
+std::vector<std::string> choose_variant(const SettingRow& /*row*/, const State& /*s*/) {
+  std::vector<std::string> names;
+  for (const SettingWord& word : words_of(kDebugdevice, "proctype")) names.emplace_back(word.name);
+  return names;
+}
+
+SettingValue get_connections(const SettingRow& /*row*/, const State& s) {
+  return names_in_set(s.processor.allowedConnections);
+}
+
+SettingValue initial_cpu(const State& /*s*/, const State& defaults) {
+  return std::int64_t{static_cast<std::int8_t>(defaults.processor.cpuNr)};
+}
+SettingValue initial_fpu(const State& /*s*/, const State& defaults) { return value_of(row_named("fpu"), defaults); }
+SettingValue initial_variant(const State& s, const State& /*defaults*/) { return value_of(row_named("variant"), s); }
+
+// --- Connection and stub ---
+
+// All bits, joined by "+": a stub connection can have several.
+SettingValue get_connection(const SettingRow& /*row*/, const State& s) {
+  return joined(names_in_set(s.processor.connectionType), "+");
+}
+
+std::vector<std::string> choose_connection(const SettingRow& row, const State& s) {
+  std::vector<std::string> names;
+  for (const SettingWord& word : std::span(row.words).first(kSelectable)) {
+    if ((s.processor.allowedConnections & word.value) != 0) names.emplace_back(word.name);
+  }
+  return names;
+}
+
+std::string set_connection(const SettingRow& row, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  const auto type = std::ranges::find(row.words, text_of(value), &SettingWord::name)->value;
+  if ((s.processor.allowedConnections & type) == 0) {
+    return "the processor does not admit this connection; it admits " + joined(choose_connection(row, s), ", ");
+  }
+  return by_engine(s, [&](Engine& e) { return e.SetConnectionType(static_cast<Engine::ConnectionType>(type)); });
+}
+
+// The engine wants the flag of the stub's link in the selected connection, and the writer no flag. Without a design
+// nobody knows the flags, and any link is accepted.
+std::string set_stub(const SettingRow& row, State& s, const SettingValue& value, bool hasDesign) {
+  const auto type =
+      static_cast<Engine::StubType>(std::ranges::find(row.words, text_of(value), &SettingWord::name)->value);
+  State changed = s;
+  const unsigned present =
+      changed.processor.allowedConnections & (Engine::STUB_JTAG_PRESENT | Engine::STUB_UART_PRESENT);
+  const unsigned flags = hasDesign ? present : Engine::STUB_JTAG_PRESENT | Engine::STUB_UART_PRESENT;
+  changed.processor.connectionType = Engine::STUB | flags;
+  std::string why = by_engine(changed, [&](Engine& e) { return e.SetStubType(type); });
+  if (!why.empty()) return why;
+  changed.processor.connectionType = Engine::STUB;
+  s = std::move(changed);
+  return {};
+}
+
+std::vector<std::string> choose_stub(const SettingRow& row, const State& s) {
+  std::vector<std::string> names;
+  for (const SettingWord& word : row.words) {
+    const auto flag = word.value == Engine::STUB_OVER_JTAG ? Engine::STUB_JTAG_PRESENT : Engine::STUB_UART_PRESENT;
+    constexpr unsigned kBoth = Engine::STUB_JTAG_PRESENT | Engine::STUB_UART_PRESENT;
+    const bool known = (s.processor.allowedConnections & kBoth) != 0;
+    if (!known || (s.processor.allowedConnections & flag) != 0 || s.processor.stubType == word.value) {
+      names.emplace_back(word.name);
+    }
+  }
+  return names;
+}
+
+// --- Simulators ---
+
+// A port is a signed number, as in the command.
+template <std::uint32_t P::*port>
+SettingValue get_port(const SettingRow& /*row*/, const State& s) {
+  return std::int64_t{static_cast<std::int32_t>(s.processor.*port)};
+}
+
+// A text has no port without a host.
+std::string set_sim_port(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  s.processor.simPort = static_cast<std::uint32_t>(std::get<std::int64_t>(value));
+  if (s.processor.simPort != 0 && s.processor.simHost.empty()) s.processor.simHost = "localhost";
+  return {};
+}
+
+std::string set_sim_host(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  s.processor.simHost = text_of(value);
+  if (s.processor.simHost.empty()) s.processor.simPort = 0;
+  return {};
+}
+
+// A text can only say both.
+std::string set_accuracy(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  s.processor.vpCycleApproximate = std::get<bool>(value) ? 1 : 0;
+  s.processor.vpConfigured = s.processor.vpCycleApproximate;
+  return {};
+}
+std::string set_configured(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  s.processor.vpConfigured = std::get<bool>(value) ? 1 : 0;
+  if (s.processor.vpConfigured == 0) s.processor.vpCycleApproximate = 0;
+  return {};
+}
+
+// What goes with the simulator is told behind it.
+std::string set_hdl_simulator(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  s.processor.modelSimEnabled = std::get<bool>(value) ? 1 : 0;
+  if (s.processor.modelSimEnabled == 0) {
+    const P fresh;
+    s.processor.modelSimHost = fresh.modelSimHost;
+    s.processor.modelSimPort = fresh.modelSimPort;
+  }
+  return {};
+}
+
+// --- Debug device and addresses ---
+
+SettingValue get_cpu(const SettingRow& /*row*/, const State& s) {
+  return std::int64_t{static_cast<std::int8_t>(s.processor.cpuNr)};
+}
+
+// Sets a base, or unsets it; of the map's base the whole map follows.
+template <std::uint32_t P::*base>
+std::string set_base(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  if (std::holds_alternative<std::monostate>(value)) {
+    s.processor.*base = kAddressNotSet;
+    if (base == &P::icacheStartAddr) s.processor.debugAddressMap = kAddressNotSet;
+    return {};
+  }
+  const auto address = static_cast<std::uint32_t>(std::get<std::int64_t>(value));
+  if (address % kBlock != 0) {
+    const std::uint32_t below = address - address % kBlock;
+    std::string nearest = address_text(below);
+    if (below + kBlock != 0) nearest += " and " + address_text(below + kBlock);
+    return "it must be a multiple of 64 KB (0x10000); the nearest are " + nearest;
+  }
+  return by_engine(s, [&](Engine& e) { return set_map_base(*e.imp, base, address) ? 0 : 1; });
+}
+
+std::string set_address_map(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  if (!std::holds_alternative<std::monostate>(value)) return "it can only be unset; it is set with icache";
+  return by_engine(s, [](Engine& e) { return e.UnSetDebugAddressMap(); });
+}
+
+// --- Cable ---
+
+std::string_view cable_name(Engine::CableType type) {
+  if (type == Engine::CABLE_NONE) return "none";
+  const CableType& row = cable_type(type);
+  return row.names.empty() ? std::string_view() : row.names.back().text();
+}
+
+SettingValue get_cable(const SettingRow& /*row*/, const State& s) {
+  const std::string_view name = cable_name(s.cable.type);
+  return name.empty() ? std::to_string(s.cable.type) : std::string(name);
+}
+
+std::vector<std::string> choose_cable(const SettingRow& row, const State& /*s*/) {
+  std::vector<std::string> names;
+  for (const SettingWord& word : row.words) {
+    const auto type = static_cast<Engine::CableType>(word.value);
+    if (cable_type(type).notRead == nullptr) names.emplace_back(word.name);
+  }
+  return names;
+}
+
+// A new type has its own defaults; the type that there is keeps everything.
+std::string set_cable(const SettingRow& row, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  const auto type =
+      static_cast<Engine::CableType>(std::ranges::find(row.words, text_of(value), &SettingWord::name)->value);
+  if (type == s.cable.type) return {};
+  if (cable_type(type).notRead != nullptr) {
+    return "this type is not read; the types are " + joined(choose_cable(row, s), ", ");
+  }
+  return by_engine(s, [&](Engine& e) { return e.SetCableType(type); });
+}
+
+std::vector<std::string> choose_frequency(const SettingRow& row, const State& s) {
+  std::vector<std::string> texts;
+  for (const std::uint32_t hz : type_of(s).accepted) texts.push_back(value_text(*row.setting, std::int64_t{hz}));
+  return texts;
+}
+
+// The error names both neighbours.
+std::string set_frequency_of_cable(const SettingRow& row, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  const std::int64_t hz = std::get<std::int64_t>(value);
+  const auto accepted = type_of(s).accepted;
+  if (hz != 0 && std::ranges::find(accepted, hz) == accepted.end()) {
+    const auto above = std::ranges::upper_bound(accepted, hz);
+    std::vector<std::string> nearest;
+    if (above != accepted.begin()) nearest.push_back(value_text(*row.setting, std::int64_t{*std::prev(above)}));
+    if (above != accepted.end()) nearest.push_back(value_text(*row.setting, std::int64_t{*above}));
+    const std::string all = joined(choose_frequency(row, s), ", ");
+    return "cable " + std::string(cable_name(s.cable.type)) + " does not support " + value_text(*row.setting, value) +
+           (accepted.empty() ? "; it has no frequency"
+                             : "; the nearest: " + joined(nearest, " and ") + "; all: " + all);
+  }
+  s.cable.frequency = static_cast<std::uint32_t>(hz);
+  return {};
+}
+
+SettingValue initial_frequency(const State& s, const State& /*defaults*/) {
+  return std::int64_t{type_of(s).defaultFrequency};
+}
+SettingValue initial_port(const State& s, const State& /*defaults*/) { return std::string(type_of(s).defaultPort); }
+
+std::vector<std::string> choose_port(const SettingRow& /*row*/, const State& s) {
+  const std::string port(type_of(s).defaultPort);
+  return port.empty() ? std::vector<std::string>() : std::vector<std::string>{port};
+}
+
+std::string set_arguments(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  const std::string arguments = text_of(value);
+  if (!arguments.empty()) {
+    for (const std::string_view argument : split(arguments, ';')) {
+      if (!is_plain_word(argument)) return "each argument must be one word without a dash in front; ';' separates them";
+    }
+  }
+  s.cable.modulearg = arguments;
+  return {};
+}
+
+std::string set_svf_file(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  s.cable.fname = text_of(value);
+  s.processor.svfFileSet = s.cable.fname.empty() ? 0 : 1;
+  return {};
+}
+
+// --- Chain ---
+
+SettingValue get_cpu_jtag(const SettingRow& /*row*/, const State& s) { return s.cpuJtag != 0; }
+
+// Reading "-configdevice jtagport cpu" makes a device without any value, which goes with it.
+std::string set_cpu_jtag(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  const bool on = std::get<bool>(value);
+  if (!on && s.cpuJtag != 0) std::erase(s.chain, JtagOption());
+  s.cpuJtag = on ? 1 : 0;
+  return {};
+}
+
+SettingValue get_devices(const SettingRow& /*row*/, const State& s) { return s.chain; }
+
+std::string set_devices(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  const auto& devices = std::get<std::vector<JtagOption>>(value);
+  for (const JtagOption& device : devices) {
+    if (!is_plain_word(device.partname)) return "a part name must be one word without a dash in front";
+  }
+  s.chain = devices;
+  return {};
+}
+
+// --- The table ---
+
+constexpr std::string_view kCableParts = "frequency port esn svf-file svf-file-named module module-arguments url";
+constexpr std::string_view kBases = "icache itag dcache dtag tlb dcr";
+
+// What only some rows have.
+struct Special {
+  std::string_view unit = {};
+  std::int64_t max = 0;
+  std::vector<SettingWord> words = {};
+  std::string_view follows = {};
+  decltype(SettingRow::get) get = nullptr;
+  decltype(SettingRow::set) set = nullptr;
+  std::string_view initialInWords = {};
+  decltype(SettingRow::initial) initial = nullptr;
+  decltype(SettingRow::choices) choices = nullptr;
+  decltype(SettingRow::fixed) fixed = nullptr;
+  bool readOnly = false;
+};
+
+struct Entry {
+  Setting setting;
+  SettingRow row;
+};
+
+Entry row(std::string_view group, std::string_view name, std::string_view label, std::string_view meaning,
+          SettingKind kind, Field field, const Applies& applies, Special special = {}) {
+  return {.setting = {.name = name,
+                      .group = group,
+                      .label = label,
+                      .meaning = meaning,
+                      .kind = kind,
+                      .unit = special.unit,
+                      .initial = special.initialInWords,
+                      .follows = special.follows,
+                      .readOnly = special.readOnly},
+          .row = {.field = field,
+                  .words = std::move(special.words),
+                  .applies = applies,
+                  .max = special.max,
+                  .get = special.get,
+                  .set = special.set,
+                  .initial = special.initial,
+                  .choices = special.choices,
+                  .fixed = special.fixed}};
+}
+
+template <std::uint32_t P::*field>
+Entry base(std::string_view name, std::string_view label, std::string_view meaning, std::string_view follows = {}) {
+  return row("address-map", name, label, meaning, SettingKind::address, field, kPpcHardware,
+             {.max = kMaxAddress, .follows = follows, .set = set_base<field>});
+}
+
+// In the order in which changes are applied; settings of a group follow each other.
+std::vector<Entry> make_entries() {
+  using enum SettingKind;
+  return {
+      row("identity", "name", "Name", "Instance name of the processor in the design.", text, &P::name, kEverywhere,
+          {.readOnly = true}),
+      row("identity", "family", "Family", "Kind of processor.", word, &P::procFamily, kEverywhere,
+          {.words = {std::begin(kFamilies), std::end(kFamilies)}, .readOnly = true}),
+      row("identity", "variant", "Variant",
+          "Core of the processor; the address map and the memories of a PowerPC depend on it.", word, &P::procVariant,
+          kPowerPC,
+          {.words = {std::begin(kVariants), std::end(kVariants)},
+           .initialInWords = "as in the design",
+           .initial = initial_variant,
+           .choices = choose_variant,
+           .fixed = as_in_design}),
+      row("identity", "cpu", "Number", "Number of the processor on its debug link.", number, &P::cpuNr, kEverywhere,
+          {.max = kMaxSignedByte,
+           .get = get_cpu,
+           .initialInWords = "1, or as in the design",
+           .initial = initial_cpu,
+           .fixed = as_in_design}),
+      row("identity", "connections", "Connections", "The connections that the processor admits.", words,
+          &P::allowedConnections, kEverywhere,
+          {.words = {std::begin(kConnections), std::end(kConnections)}, .get = get_connections, .readOnly = true}),
+      row("identity", "fpu", "FPU", "Floating-point unit of a PowerPC: single or double precision.", word, &P::fpuType,
+          kPowerPC,
+          {.words = fpu_words(), .initialInWords = "as in the design", .initial = initial_fpu, .fixed = as_in_design}),
+
+      row("connection", "connection", "Connection", "What the debugger connects to.", word, &P::connectionType,
+          kEverywhere,
+          {.words = {std::begin(kConnections), std::end(kConnections)},
+           .get = get_connection,
+           .set = set_connection,
+           .choices = choose_connection}),
+
+      row("stub", "stub", "Link", "How the software stub is reached; setting it selects the connection 'stub'.", word,
+          &P::stubType, kWithStub,
+          {.words = words_of(kStub, "-comm"), .follows = "connection", .set = set_stub, .choices = choose_stub}),
+      row("stub", "stub-port", "Serial device", "Serial device of this computer that the stub is connected to.", text,
+          &P::stubSerialPort, kSerialStub),
+      row("stub", "stub-baud", "Baud rate", "Rate of the serial line; 0 for none.", number, &P::stubBaudRate,
+          kSerialStub, {.unit = "baud", .max = kMaxSigned}),
+      row("stub", "stub-timeout", "Time-out", "Handed to the debugger as it is.", number, &P::stubTimeout, kSerialStub,
+          {.max = kMaxSigned}),
+
+      row("simulator", "memory-size", "Memory", "Memory of the soft-processor simulator.", number, &P::memSize,
+          kSoftSimulator, {.max = kMaxUnsigned}),
+      row("simulator", "config-file", "Configuration file",
+          "Configuration file of the PowerPC simulator; it has precedence over host and port.", text, &P::simConfigFile,
+          kPpcSimulator),
+      row("simulator", "sim-host", "Host", "Host on which the simulator or the virtual platform runs.", text,
+          &P::simHost, kSimulatorPort, {.follows = "sim-port", .set = set_sim_host}),
+      row("simulator", "sim-port", "Port", "Port of the simulator or the virtual platform.", number, &P::simPort,
+          kSimulatorPort, {.max = kMaxPort, .follows = "sim-host", .get = get_port<&P::simPort>, .set = set_sim_port}),
+
+      row("virtual-platform", "configured", "Configured",
+          "The accuracy of the virtual platform is set; without an accuracy the text is not read back.", flag,
+          &P::vpConfigured, kPlatform, {.follows = "cycle-approximate", .set = set_configured}),
+      row("virtual-platform", "cycle-approximate", "Cycle approximate",
+          "The virtual platform counts cycles approximately.", flag, &P::vpCycleApproximate, kPlatform,
+          {.follows = "configured", .set = set_accuracy}),
+
+      row("hardware-simulator", "enabled", "Enabled",
+          "The hardware is run by a hardware-description-language simulator.", flag, &P::modelSimEnabled, kHdlSimulator,
+          {.follows = "hardware-simulator-host hardware-simulator-port", .set = set_hdl_simulator}),
+      row("hardware-simulator", "hardware-simulator-host", "Host", "Host on which the hardware simulator runs.", text,
+          &P::modelSimHost, kWithHdlSimulator),
+      row("hardware-simulator", "hardware-simulator-port", "Port", "Port of the hardware simulator.", number,
+          &P::modelSimPort, kWithHdlSimulator, {.max = kMaxPort, .get = get_port<&P::modelSimPort>}),
+
+      row("debug-device", "debug-device", "Debug device",
+          "Number of the device in the JTAG chain that holds the processor; 0 for none.", number, &P::debugDevice,
+          kOnCable, {.max = kMaxSignedByte}),
+      row("debug-device", "bscan", "BSCAN register", "JTAG user register that the debug module uses.", word,
+          &P::bscanPort, kOnCable, {.words = words_of(kBscan, "-bscan")}),
+      row("debug-device", "uart", "UART", "The UART of the debug module is used.", flag, &P::uartEnabled, kUart),
+      row("debug-device", "cpu-version", "Processor version", "Version of the processor, kept for programs.", text,
+          &P::cpuVersion, kOnCable),
+      row("debug-device", "odm-version", "Debug module version", "Version of the debug module, kept for programs.",
+          text, &P::odmVersion, kOnCable),
+      row("debug-device", "cpu-count", "Processors", "Number of processors, kept for programs.", number, &P::nCpu,
+          kOnCable, {.max = kMaxSigned}),
+
+      row("address-map", "address-map", "Debug address map",
+          "Base of the debug address map: that of the instruction cache. Unset, all bases are unset.", address,
+          &P::debugAddressMap, kPpcHardware, {.max = kMaxAddress, .follows = kBases, .set = set_address_map}),
+      base<&P::icacheStartAddr>("icache", "Instruction cache",
+                                "Base of the instruction cache and of the debug address map.", "address-map"),
+      base<&P::itagStartAddr>("itag", "Instruction tags", "Base of the instruction tags."),
+      base<&P::dcacheStartAddr>("dcache", "Data cache", "Base of the data cache."),
+      base<&P::dtagStartAddr>("dtag", "Data tags", "Base of the data tags."),
+      base<&P::tlbStartAddr>("tlb", "TLB", "Base of the translation look-aside buffer."),
+      base<&P::dcrStartAddr>("dcr", "DCR", "Base of the device control registers."),
+
+      row("memories", "isocm", "On-chip instruction memory", "Base of the on-chip instruction memory of a ppc405.",
+          address, &P::isocmStartAddr, kPpc405Hardware, {.max = kMaxAddress}),
+      row("memories", "isocm-size", "Its size", "Size of the on-chip instruction memory.", size, &P::isocmSize,
+          kPpc405Hardware, {.unit = "bytes", .max = kMaxUnsigned}),
+      row("memories", "isocm-dcr", "Its DCR base", "DCR base of the on-chip instruction memory.", address,
+          &P::isocmDcrStartAddr, kPpc405Hardware, {.max = kMaxAddress}),
+      row("memories", "rom", "Read-only memory", "Base of the read-only memory.", address, &P::romemStartAddr,
+          kHardware, {.max = kMaxAddress}),
+      row("memories", "rom-size", "Its size", "Size of the read-only memory.", size, &P::romemSize, kHardware,
+          {.unit = "bytes", .max = kMaxUnsigned}),
+
+      row("cable", "cable", "Cable", "Type of the download cable; a new type comes with its own port and frequency.",
+          word, {}, kOnCable,
+          {.words = cable_words(),
+           .follows = kCableParts,
+           .get = get_cable,
+           .set = set_cable,
+           .choices = choose_cable}),
+      row("cable", "frequency", "Frequency", "JTAG clock of the cable.", frequency, &C::frequency, kClocked,
+          {.unit = "Hz",
+           .max = kMaxUnsigned,
+           .set = set_frequency_of_cable,
+           .initialInWords = "that of the cable",
+           .initial = initial_frequency,
+           .choices = choose_frequency}),
+      row("cable", "port", "Port", "Where the cable is plugged in.", text, &C::port, kClocked,
+          {.initialInWords = "that of the cable", .initial = initial_port, .choices = choose_port}),
+      row("cable", "esn", "Serial number", "Electronic serial number that selects one of several cables.", text,
+          &C::esn, kClocked),
+      row("cable", "svf-file", "SVF file", "Output file of a cable that writes one.", text, &C::fname, kOnCable,
+          {.follows = "svf-file-named", .set = set_svf_file}),
+      row("cable", "svf-file-named", "SVF file named", "A name was given for the SVF file.", flag, &P::svfFileSet,
+          kOnCable, {.readOnly = true}),
+      row("cable", "module", "Module", "Module of a plug-in cable.", text, &C::modulename, kPlugin),
+      row("cable", "module-arguments", "Module arguments", "Arguments of the module, separated by ';'.", text,
+          &C::modulearg, kPlugin, {.set = set_arguments}),
+      row("cable", "url", "URL", "Address of a cable on the network.", text, &C::url, kOnCable),
+
+      row("jtag-chain", "cpu-jtag", "Own JTAG pins",
+          "The processor is reached through its own JTAG pins; such a command is not read back.", flag, {}, kOnCable,
+          {.follows = "devices", .get = get_cpu_jtag, .set = set_cpu_jtag}),
+      row("jtag-chain", "devices", "JTAG chain", "The devices of the JTAG chain, in their order.", devices, {},
+          kOnCable, {.get = get_devices, .set = set_devices}),
+  };
+}
+
+struct Catalogue {
+  std::vector<Setting> settings;
+  std::vector<SettingRow> rows;  // each points to the setting of the same place
+};
+
+const Catalogue& catalogue() {
+  static const Catalogue made = [] {
+    Catalogue all;
+    for (Entry& entry : make_entries()) {
+      all.settings.push_back(entry.setting);
+      all.rows.push_back(std::move(entry.row));
+    }
+    for (std::size_t i = 0; i < all.rows.size(); ++i) all.rows[i].setting = &all.settings[i];
+    return all;
+  }();
+  return made;
+}
+
+Records records_of(const State& state) {
+  // Reading needs records that are not const, as writing does.
+  auto& s = const_cast<State&>(state);
+  return {.processor = &s.processor, .cable = &s.cable};
+}
+
+// --- Plain values ---
+
+SettingValue plain_value(const SettingRow& row, const State& state) {
+  SettingValue value;
+  with_field(row.field, records_of(state), [&]<class Stored>(const Stored& stored) {
+    if constexpr (std::is_same_v<Stored, std::string>) {
+      value = stored;
+    } else {
+      switch (row.setting->kind) {
+        case SettingKind::flag:
+          value = stored != 0;
+          break;
+        case SettingKind::address:
+          if (static_cast<std::uint32_t>(stored) != kAddressNotSet) value = static_cast<std::int64_t>(stored);
+          break;
+        case SettingKind::word: {
+          const auto word = std::ranges::find(row.words, static_cast<std::uint32_t>(stored), &SettingWord::value);
+          value = word != row.words.end() ? std::string(word->name) : std::to_string(stored);
+          break;
+        }
+        default:
+          value = static_cast<std::int64_t>(stored);
+      }
+    }
+  });
+  return value;
+}
+
+void store_plain(const SettingRow& row, State& state, const SettingValue& value) {
+  with_field(row.field, records_of(state), [&]<class Stored>(Stored& stored) {
+    if constexpr (std::is_same_v<Stored, std::string>) {
+      stored = std::get<std::string>(value);
+    } else if (const auto* const number = std::get_if<std::int64_t>(&value)) {
+      stored = static_cast<Stored>(*number);
+    } else if (const auto* const flag = std::get_if<bool>(&value)) {
+      stored = static_cast<Stored>(*flag);
+    } else if (const auto* const name = std::get_if<std::string>(&value)) {
+      stored = static_cast<Stored>(std::ranges::find(row.words, *name, &SettingWord::name)->value);
+    } else {
+      stored = static_cast<Stored>(kAddressNotSet);
+    }
+  });
+}
+
+// --- Checks that hold for a kind of value ---
+
+std::string check_number(const SettingRow& row, std::int64_t number) {
+  if (number >= 0 && number <= row.max) return {};
+  const bool isAddress = row.setting->kind == SettingKind::address;
+  const std::string max = isAddress ? address_text(static_cast<std::uint32_t>(row.max)) : std::to_string(row.max);
+  return "it must be from 0 to " + max;
+}
+
+std::string check_text(const SettingRow& row, const std::string& text) {
+  if (text.empty() || row.set == set_arguments || is_plain_word(text)) return {};
+  return "it must be one word, without blanks and without a dash in front: a connect command has no quoting";
+}
+
+std::string check_word(const SettingRow& row, const State& state, const std::string& word) {
+  const auto known = std::ranges::find(row.words, word, &SettingWord::name);
+  const auto choices = row.choices != nullptr ? row.choices(row, state) : std::vector<std::string>();
+  if (known != row.words.end() &&
+      (row.choices == nullptr || row.set != nullptr || std::ranges::find(choices, word) != choices.end())) {
+    return {};
+  }
+  std::vector<std::string> accepted = choices;
+  if (row.choices == nullptr) {
+    for (const SettingWord& w : row.words) accepted.emplace_back(w.name);
+  }
+  return "it must be one of " + joined(accepted, ", ");
+}
+
+// Which alternative of SettingValue a kind has; an address may be not set.
+bool has_kind(const SettingRow& row, const SettingValue& value) {
+  switch (row.setting->kind) {
+    case SettingKind::flag:
+      return std::holds_alternative<bool>(value);
+    case SettingKind::number:
+    case SettingKind::frequency:
+    case SettingKind::size:
+      return std::holds_alternative<std::int64_t>(value);
+    case SettingKind::address:
+      return std::holds_alternative<std::int64_t>(value) || std::holds_alternative<std::monostate>(value);
+    case SettingKind::text:
+    case SettingKind::word:
+      return std::holds_alternative<std::string>(value);
+    case SettingKind::words:
+      return std::holds_alternative<std::vector<std::string>>(value);
+    case SettingKind::devices:
+      return std::holds_alternative<std::vector<JtagOption>>(value);
+  }
+  return false;
+}
+
+std::string check(const SettingRow& row, const State& state, const SettingValue& value) {
+  if (!has_kind(row, value)) return "it is no value of this kind";
+  if (const auto* const number = std::get_if<std::int64_t>(&value)) return check_number(row, *number);
+  if (row.setting->kind == SettingKind::text) return check_text(row, std::get<std::string>(value));
+  if (row.setting->kind == SettingKind::word) return check_word(row, state, std::get<std::string>(value));
+  return {};
+}
+
+}  // namespace
+
+std::span<const SettingRow> setting_rows() { return catalogue().rows; }
+
+const SettingRow& row_of(const Setting& setting) {
+  return catalogue().rows[static_cast<std::size_t>(&setting - settings().data())];
+}
+
+const SettingRow& row_named(std::string_view name) { return row_of(*find_setting(name)); }
+
+const std::vector<Setting>& settings() { return catalogue().settings; }
+
+const Setting* find_setting(std::string_view name) {
+  const auto found = std::ranges::find(settings(), name, &Setting::name);
+  return found != settings().end() ? &*found : nullptr;
+}
+
+const Setting* setting_of(const Keyword& keyword) {
+  const auto named = [](std::string_view name) { return find_setting(name); };
+  const auto in = [&](const Group& group) {
+    return &keyword >= group.keywords.data() && &keyword < group.keywords.data() + group.keywords.size();
+  };
+  if (in(kConfigdevice)) return named(keyword.field.index() == 0 ? "cpu-jtag" : "devices");
+  if (keyword.field.index() == 0) return in(kCable) ? named("cable") : nullptr;
+  const auto row = std::ranges::find(catalogue().rows, keyword.field, &SettingRow::field);
+  return row != catalogue().rows.end() ? row->setting : nullptr;
+}
+
+SettingValue value_of(const SettingRow& row, const State& state) {
+  return row.get != nullptr ? row.get(row, state) : plain_value(row, state);
+}
+
+SettingValue initial_of(const SettingRow& row, const State& state, const State& defaults) {
+  return row.initial != nullptr ? row.initial(state, defaults) : value_of(row, defaults);
+}
+
+std::string set_value(const SettingRow& row, State& state, const SettingValue& value, bool hasDesign) {
+  if (row.setting->readOnly) return "it cannot be set";
+  if (row.fixed != nullptr) {
+    if (const char* const why = row.fixed(state, hasDesign)) return std::string(why) + " and cannot be set";
+  }
+  if (std::string why = check(row, state, value); !why.empty()) return why;
+  if (row.set != nullptr) return row.set(row, state, value, hasDesign);
+  store_plain(row, state, value);
+  return {};
+}
+
+void reset_value(const SettingRow& row, State& state, const State& defaults) {
+  const SettingValue initial = initial_of(row, state, defaults);
+  // The stub's link may be put back without selecting the stub, and the connection to one that is not admitted.
+  const bool plain = row.set == nullptr || row.set == set_stub || row.set == set_connection;
+  if (row.set == set_connection) {
+    state.processor.connectionType = defaults.processor.connectionType;
+  } else if (plain) {
+    store_plain(row, state, initial);
+  } else {
+    row.set(row, state, initial, true);
+  }
+}
+
+std::vector<std::string> warnings_of(const SettingRow& row, const State& s) {
+  std::vector<std::string> warnings;
+  const std::string_view name = row.setting->name;
+  const int device = s.processor.debugDevice;
+  if (name == "debug-device" || name == "devices") {
+    const auto number = [](const JtagOption& d) { return int{d.devicenr}; };
+    if (device != 0 && !s.chain.empty() && std::ranges::find(s.chain, device, number) == s.chain.end()) {
+      warnings.push_back("no device of the JTAG chain has the number " + std::to_string(device) +
+                         " of the debug device");
+    }
+    std::vector<int> numbers;
+    std::ranges::transform(s.chain, std::back_inserter(numbers), number);
+    std::ranges::sort(numbers);
+    const auto twice = std::ranges::adjacent_find(numbers);
+    if (twice != numbers.end()) {
+      warnings.push_back("two devices of the JTAG chain have the number " + std::to_string(*twice));
+    }
+  }
+  if (name == "cable" && s.cable.type == Engine::ZARVEK_PLUGIN && s.cable.modulename.empty()) {
+    warnings.emplace_back("a zarvek_plugin cable needs a module");
+  }
+  if (name == "cable" && s.cable.type != Engine::CABLE_NONE && type_of(s).notWritten != nullptr) {
+    warnings.emplace_back("a command with this cable cannot be written anew: " + std::string(type_of(s).notWritten));
+  }
+  if ((name == "rom" || name == "rom-size") &&
+      (s.processor.romemStartAddr == kAddressNotSet) != (s.processor.romemSize == 0)) {
+    warnings.emplace_back("the read-only memory needs both, rom and rom-size");
+  }
+  return warnings;
+}
+
+std::vector<const SettingRow*> differing(const State& a, const State& b) {
+  std::vector<const SettingRow*> found;
+  for (const SettingRow& row : setting_rows()) {
+    if (value_of(row, a) != value_of(row, b)) found.push_back(&row);
+  }
+  return found;
+}
+
+bool is_plain_word(std::string_view text) {
+  const auto isText = [](char c) { return static_cast<unsigned char>(c) > ' ' && c != 0x7F; };
+  if (text.empty() || !std::ranges::all_of(text, isText)) return false;
+  return text.front() != '-' || (text.size() > 1 && text[1] >= '0' && text[1] <= '9');
+}
+
+}  // namespace SdkDebugDialog

@@ -1,0 +1,418 @@
+// A configuration: the settings, the text that they were read from, and the file that the text stands in.
+
+#include "SdkDebugDialog/Configuration.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+#include "SdkDebugDialog/Engine.h"
+#include "SdkDebugDialog/EngineImp.h"
+#include "options/option_file.h"
+#include "platform/HHSMHwManager.h"
+#include "settings/catalogue.h"
+#include "settings/edit.h"
+#include "settings/engine_text.h"
+#include "settings/words.h"
+#include "util/guarded_file.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+constexpr std::size_t kLargestFile = std::size_t{16} << 20;  // bytes
+
+std::size_t place_of(const SettingRow& row) { return static_cast<std::size_t>(&row - setting_rows().data()); }
+
+std::string quoted(std::string_view name) { return "'" + std::string(name) + "'"; }
+
+Error no_such_setting(std::string_view name) {
+  std::vector<std::string_view> names;
+  for (const Setting& setting : settings()) names.push_back(setting.name);
+  const std::string_view nearest = nearest_name(name, names);
+  return {ErrorCode::noSuchSetting,
+          "no setting is called " + quoted(name) + (nearest.empty() ? "" : " (did you mean " + quoted(nearest) + "?)"),
+          {}};
+}
+
+std::string listed(const Edit& edit) {
+  std::vector<std::string> parts;
+  for (const Loss& loss : edit.losses) parts.push_back(loss.what);
+  std::string text = parts.empty() ? "" : "storing it would lose " + joined(parts, ", ");
+  if (!edit.notReadBack.empty()) text += (text.empty() ? "" : "; ") + edit.notReadBack;
+  return text;
+}
+
+}  // namespace
+
+// --- Design ---
+
+struct Design::Content {
+  std::vector<std::string> names;
+  std::vector<Processor> processors;
+};
+
+Design::Design(HHSMHwManager& hardware) : Design(std::shared_ptr<HHSMHwManager>(std::shared_ptr<void>(), &hardware)) {}
+
+Design::Design(std::shared_ptr<HHSMHwManager> hardware) {
+  auto content = std::make_shared<Content>();
+  // The engine does not delete the records.
+  struct Found {
+    Engine engine;
+    ~Found() {
+      for (const ProcessorInfoImp* const record : engine.imp->processorList) delete record;
+    }
+  } found;
+  found.engine.GetProcessorList(hardware.get(), content->names);
+  content->processors.reserve(found.engine.imp->processorList.size());
+  for (ProcessorInfoImp* const record : found.engine.imp->processorList) {
+    Processor& processor = content->processors.emplace_back();
+    processor.m_identity = std::move(*record);
+    processor.m_hardware = hardware;
+  }
+  m_content = std::move(content);
+}
+
+const std::vector<std::string>& Design::names() const { return m_content->names; }
+
+const std::vector<Processor>& Design::processors() const { return m_content->processors; }
+
+Expected<Processor> Design::find(std::string_view name) const {
+  const auto found = std::ranges::find(processors(), name, &Processor::name);
+  if (found != processors().end()) return *found;
+  std::vector<std::string_view> known;
+  for (const Processor& processor : processors()) known.push_back(processor.name());
+  const std::string_view nearest = nearest_name(name, known);
+  const bool isThere = std::ranges::find(names(), name) != names().end();
+  std::string message = isThere ? "processor " + quoted(name) + " cannot be debugged: no debug module reaches it"
+                                : "the design has no processor " + quoted(name);
+  if (!nearest.empty()) message += " (did you mean " + quoted(nearest) + "?)";
+  return Error{ErrorCode::noSuchProcessor, std::move(message), {}};
+}
+
+Expected<Processor> Design::identify(std::string_view command) const {
+  const Reading reading = read_state({}, command, TextKind::command);
+  if (!reading.understood) return not_understood(reading);
+  const ProcessorInfoImp& told = reading.state.processor;
+  constexpr unsigned kBare = Engine::ODM_TARGET | Engine::QMTC_TARGET | Engine::DCC_TARGET | Engine::DAP_TARGET;
+  const auto found = std::ranges::find_if(processors(), [&](const Processor& processor) {
+    const ProcessorInfoImp& known = processor.identity();
+    return known.procFamily == told.procFamily && known.cpuNr == told.cpuNr;
+  });
+  const bool isBare = (told.allowedConnections & kBare) != 0;
+  return isBare || found == processors().end() ? Processor() : *found;
+}
+
+// --- Configuration ---
+
+struct Configuration::Content {
+  Processor processor;
+  State defaults;
+  State state;
+  SettingSet toDefault;  // settings that were put back, whose words are not needed
+
+  TextKind kind = TextKind::optionFile;
+  std::string text;  // as read
+  State read;        // what it means
+
+  std::string path;
+  FileContent file;
+
+  bool has_design() const { return processor.hardware() != nullptr; }
+  EditTask task() const { return {processor, text, kind, read, state, toDefault}; }
+};
+
+Configuration::Configuration(Processor processor) : m_content(std::make_unique<Content>()) {
+  m_content->defaults = defaults_of(processor);
+  m_content->state = m_content->defaults;
+  m_content->read = m_content->defaults;
+  m_content->processor = std::move(processor);
+}
+
+Configuration::Configuration(const Configuration& other) : m_content(std::make_unique<Content>(*other.m_content)) {}
+Configuration::Configuration(Configuration&& other) noexcept = default;
+Configuration& Configuration::operator=(const Configuration& other) {
+  if (this != &other) *this = Configuration(other);
+  return *this;
+}
+Configuration& Configuration::operator=(Configuration&& other) noexcept = default;
+Configuration::~Configuration() = default;
+
+Expected<Configuration> Configuration::read(Processor processor, std::string_view text, TextKind kind) {
+  Reading reading = read_state(processor, text, kind);
+  if (!reading.understood) return not_understood(reading);
+  Configuration configuration(std::move(processor));
+  Content& content = *configuration.m_content;
+  content.kind = kind;
+  content.text = text;
+  content.state = reading.state;
+  content.read = std::move(reading.state);
+  return configuration;
+}
+
+Expected<Configuration> Configuration::open(Processor processor, const std::string& path) {
+  FileContent file = read_whole_file(path, kLargestFile);
+  if (!file.error.empty()) return Error{ErrorCode::file, path + ": " + file.error, {}};
+  Expected<Configuration> configuration = read(std::move(processor), file.bytes, TextKind::optionFile);
+  if (!configuration) {
+    Error error = configuration.error();
+    error.message = path + ": " + error.message;
+    return error;
+  }
+  configuration->m_content->path = path;
+  configuration->m_content->file = std::move(file);
+  return configuration;
+}
+
+bool operator==(const Configuration& a, const Configuration& b) {
+  const Configuration::Content& x = *a.m_content;
+  const Configuration::Content& y = *b.m_content;
+  return x.processor.hardware() == y.processor.hardware() && x.kind == y.kind && x.text == y.text && x.path == y.path &&
+         differing(x.state, y.state).empty() && differing(x.read, y.read).empty();
+}
+
+// --- Settings ---
+
+SettingValue Configuration::value(const Setting& setting) const { return value_of(row_of(setting), m_content->state); }
+
+namespace {
+
+SettingState state_of(const SettingRow& row, const State& state, const State& defaults, bool hasDesign,
+                      const Expected<SettingSet>& written) {
+  SettingState found;
+  found.value = value_of(row, state);
+  found.initial = initial_of(row, state, defaults);
+  found.applies = row.applies.holds(state);
+  found.changeable = found.applies;
+  if (!found.applies) {
+    found.whyNot = row.applies.otherwise;
+  } else if (row.setting->readOnly) {
+    found.changeable = false;
+    found.whyNot = "it cannot be set";
+  } else if (const char* const why = row.fixed != nullptr ? row.fixed(state, hasDesign) : nullptr) {
+    found.changeable = false;
+    found.whyNot = why;
+  }
+  if (row.choices != nullptr) {
+    found.choices = row.choices(row, state);
+  } else if (row.setting->kind == SettingKind::flag) {
+    found.choices = {"off", "on"};
+  } else {
+    for (const SettingWord& word : row.words) found.choices.emplace_back(word.name);
+  }
+  found.freeText = found.choices.empty() || row.setting->kind == SettingKind::text;
+
+  found.written = written && written->test(place_of(row));
+  if (found.written) return found;
+  if (!written) {
+    found.whyNotWritten = written.error().message;
+  } else if (found.value == found.initial) {
+    found.whyNotWritten = "it has its default";
+  } else {
+    found.whyNotWritten = why_not_written(row, state);
+  }
+  return found;
+}
+
+}  // namespace
+
+SettingState Configuration::state(const Setting& setting) const {
+  const Content& c = *m_content;
+  return state_of(row_of(setting), c.state, c.defaults, c.has_design(), written_settings(c.state));
+}
+
+std::vector<SettingState> Configuration::states() const {
+  const Content& c = *m_content;
+  const Expected<SettingSet> written = written_settings(c.state);
+  std::vector<SettingState> all;
+  all.reserve(settings().size());
+  for (const SettingRow& row : setting_rows()) {
+    all.push_back(state_of(row, c.state, c.defaults, c.has_design(), written));
+  }
+  return all;
+}
+
+Expected<std::vector<std::string>> Configuration::set(const Setting& setting, const SettingValue& value) {
+  Content& c = *m_content;
+  const SettingRow& row = row_of(setting);
+  const std::string name(setting.name);
+  if (value == value_of(row, c.state) && value != SettingValue(std::string("serial"))) {
+    return std::vector<std::string>();
+  }
+  if (!row.applies.holds(c.state)) {
+    return Error{ErrorCode::refused, name + " does not apply: " + row.applies.otherwise, {}};
+  }
+  std::string why = set_value(row, c.state, value, c.has_design());
+  if (!why.empty()) return Error{ErrorCode::refused, name + ": " + why, {}};
+  c.toDefault.reset(place_of(row));
+  return warnings_of(row, c.state);
+}
+
+Expected<std::vector<std::string>> Configuration::set(std::string_view name, std::string_view text) {
+  const Setting* const setting = find_setting(name);
+  if (setting == nullptr) return no_such_setting(name);
+  Expected<SettingValue> value = parse_value(*setting, text);
+  if (!value) return value.error();
+  return set(*setting, *value);
+}
+
+Expected<void> Configuration::reset(const Setting& setting) {
+  Content& c = *m_content;
+  const SettingRow& row = row_of(setting);
+  const char* const why = row.fixed != nullptr ? row.fixed(c.state, c.has_design()) : nullptr;
+  if (setting.readOnly || why != nullptr) {
+    return Error{ErrorCode::refused, std::string(setting.name) + ": it cannot be set", {}};
+  }
+  reset_value(row, c.state, c.defaults);
+  c.toDefault.set(place_of(row));
+  return {};
+}
+
+void Configuration::reset() {
+  m_content->state = m_content->defaults;
+  m_content->toDefault.set();
+}
+
+std::vector<Loss> Configuration::copy_settings(const Configuration& from) {
+  std::vector<Loss> left;
+  const State& source = from.m_content->state;
+  for (const SettingRow& row : setting_rows()) {
+    const Setting& setting = *row.setting;
+    if (setting.group == "identity" || setting.readOnly || !row.applies.holds(source)) continue;
+    const SettingValue value = value_of(row, source);
+    if (value == value_of(row, m_content->state)) continue;
+    if (value == initial_of(row, source, from.m_content->defaults)) {
+      reset(setting);
+      continue;
+    }
+    if (const auto done = set(setting, value); !done) {
+      left.push_back({&setting, std::string(setting.name) + " " + value_text(setting, value), done.error().message});
+    }
+  }
+  return left;
+}
+
+// --- Text ---
+
+Expected<std::string> Configuration::command() const { return write_state(m_content->state, TextKind::command); }
+
+Expected<Edit> Configuration::edited() const { return edit_text(m_content->task()); }
+
+Expected<std::string> Configuration::text() const {
+  Expected<Edit> edit = edited();
+  if (!edit) return edit.error();
+  return std::move(edit->text);
+}
+
+Expected<Edit> Configuration::for_file() const {
+  const Content& c = *m_content;
+  Expected<Edit> edit = edited();
+  if (c.kind == TextKind::optionFile || !edit) return edit;
+  if (c.kind == TextKind::cableText) {
+    return Error{ErrorCode::cannotBeWritten, "a text of cable and chain alone is no connect command", {}};
+  }
+  const Reading asCommand = read_state(c.processor, edit->text, TextKind::command);
+  const Reading asFile = read_state(c.processor, edit->text, TextKind::optionFile);
+  if (!edit->notReadBack.empty() || (asFile.understood && option_line(edit->text).size() == edit->text.size() &&
+                                     differing(asCommand.state, asFile.state).empty())) {
+    return edit;
+  }
+  return write_anew({c.processor, edit->text, TextKind::optionFile, c.read, c.state, {}});
+}
+
+Expected<Edit> Configuration::written_anew() const { return write_anew(m_content->task()); }
+
+// --- The option file ---
+
+const std::string& Configuration::path() const { return m_content->path; }
+
+Expected<Edit> Configuration::store(OnLoss onLoss) { return store(m_content->path, onLoss); }
+
+Expected<Edit> Configuration::store(const std::string& path, OnLoss onLoss) {
+  const Expected<Edit> edit = for_file();
+  return edit ? store(*edit, path, onLoss) : edit;
+}
+
+Expected<Edit> Configuration::store(const Edit& edit, const std::string& path, OnLoss onLoss) {
+  Content& c = *m_content;
+  if (!edit.is_safe() && onLoss == OnLoss::refuse) return Error{ErrorCode::wouldLose, listed(edit), {}};
+  const bool isOwn = path == c.path;
+  const FileContent expected = isOwn ? c.file : FileContent();
+  if (!isOwn || edit.text != c.file.bytes) {
+    const ReplaceResult replaced =
+        replace_file_if_unchanged(path, expected, edit.text, !isOwn && onLoss == OnLoss::goOn);
+    if (replaced.result == Replaced::changed) {
+      return Error{
+          ErrorCode::changedMeanwhile,
+          path + (isOwn ? ": the file has changed since it was read; read it again" : ": there is such a file already"),
+          {}};
+    }
+    if (replaced.result == Replaced::failed) return Error{ErrorCode::file, path + ": " + replaced.error, {}};
+  }
+  c.path = path;
+  c.file = {.exists = true, .bytes = edit.text, .error = {}};
+  c.kind = TextKind::optionFile;
+  c.text = edit.text;
+  Reading reading = read_state(c.processor, c.text, c.kind);
+  c.read = reading.understood ? std::move(reading.state) : c.state;
+  c.state = c.read;
+  c.toDefault.reset();
+  return edit;
+}
+
+// --- What the settings are kept in ---
+
+const Processor& Configuration::processor() const { return m_content->processor; }
+const ProcessorInfoImp& Configuration::record() const { return m_content->state.processor; }
+const CableOption& Configuration::cable() const { return m_content->state.cable; }
+const std::vector<JtagOption>& Configuration::chain() const { return m_content->state.chain; }
+bool Configuration::cpu_jtag() const { return m_content->state.cpuJtag != 0; }
+
+// --- Functions ---
+
+std::vector<Difference> differences(const Configuration& before, const Configuration& after) {
+  std::vector<Difference> found;
+  for (const Setting& setting : settings()) {
+    SettingValue a = before.value(setting);
+    SettingValue b = after.value(setting);
+    if (a != b) found.push_back({&setting, std::move(a), std::move(b)});
+  }
+  return found;
+}
+
+Expected<Edit> edit(const Processor& processor, std::string_view text, TextKind kind,
+                    const std::vector<Change>& changes) {
+  std::string from(text);
+  Expected<Configuration> configuration = Configuration::read(processor, from, kind);
+  const auto offPins = [](const Change& change) {
+    return change.setting == "cpu-jtag" && (change.toDefault || change.value == "off");
+  };
+  const bool pinsRemoved = !configuration && std::ranges::any_of(changes, offPins);
+  if (pinsRemoved) {
+    from = without_own_pins(text, kind);
+    configuration = Configuration::read(processor, from, kind);
+  }
+  if (!configuration) return configuration.error();
+  // In the order of the catalogue, so that a setting comes before those that depend on it.
+  std::vector<std::pair<const Setting*, const Change*>> ordered;
+  for (const Change& change : changes) {
+    const Setting* const setting = find_setting(change.setting);
+    if (setting == nullptr) return no_such_setting(change.setting);
+    ordered.emplace_back(setting, &change);
+  }
+  std::ranges::stable_sort(ordered, {}, [](const auto& item) { return item.first; });
+  for (const auto& [setting, change] : ordered) {
+    if (change->toDefault) {
+      if (const auto done = configuration->reset(*setting); !done) return done.error();
+    } else if (const auto done = configuration->set(setting->name, change->value); !done) {
+      return done.error();
+    }
+  }
+  Expected<Edit> edited = configuration->edited();
+  if (edited && pinsRemoved) {
+    const Setting& pins = *find_setting("cpu-jtag");
+    edited->differences.insert(edited->differences.begin(), Difference{&pins, true, false});
+  }
+  return edited;
+}
+
+}  // namespace SdkDebugDialog

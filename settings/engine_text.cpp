@@ -1,0 +1,111 @@
+#include "settings/engine_text.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "SdkDebugDialog/Engine.h"
+#include "SdkDebugDialog/EngineImp.h"
+#include "SdkDebugDialog/Result.h"
+#include "options/QvtOption_Parser.h"
+#include "options/framing.h"
+#include "options/groups.h"
+#include "options/option_file.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+// An engine for one call, with a processor selected.
+struct BoundEngine {
+  explicit BoundEngine(ProcessorInfoImp& processor, HHSMHwManager* hardware) {
+    imp.hwManager = hardware;
+    imp.currentProcessor = &processor;
+  }
+  Engine engine;
+  EngineImp& imp = *engine.imp;
+};
+
+// An engine that reads: it owns the devices that the reader creates.
+struct ReadingEngine : BoundEngine {
+  using BoundEngine::BoundEngine;
+  ~ReadingEngine() {
+    for (const JtagOption* const device : imp.jtagChain) delete device;
+  }
+  ReadingEngine(const ReadingEngine&) = delete;
+  ReadingEngine& operator=(const ReadingEngine&) = delete;
+};
+
+bool read_text(TokenCursor& in, EngineImp& imp, TextKind kind) {
+  if (kind == TextKind::cableText) return read_options(in, imp, kCableTextOptions);
+  return read_connect(in, imp, kind == TextKind::optionFile ? Source::file : Source::command);
+}
+
+void find_fpu(BoundEngine& engine) {
+  if (engine.imp.hwManager != nullptr) engine.imp.GetFPUType();
+}
+
+}  // namespace
+
+State defaults_of(const Processor& processor) {
+  State state;
+  state.processor = processor.identity();
+  BoundEngine engine(state.processor, processor.hardware());
+  engine.imp.EngineImpInit();
+  find_fpu(engine);
+  return state;
+}
+
+Reading read_state(const Processor& processor, std::string_view text, TextKind kind) {
+  Reading reading;
+  const std::string_view read = kind == TextKind::optionFile ? option_line(text) : text;
+  if (kind == TextKind::optionFile && read.empty()) {
+    reading.understood = true;
+    reading.state = defaults_of(processor);
+    return reading;
+  }
+  State& state = reading.state;
+  state.processor = processor.identity();
+  ReadingEngine engine(state.processor, processor.hardware());
+  EngineImp& imp = engine.imp;
+  imp.EngineImpInit();
+  TokenCursor cursor(read);
+  try {
+    reading.understood = read_text(cursor, imp, kind);
+  } catch (const std::out_of_range&) {
+    reading.loneDash = true;
+  }
+  reading.consumed = static_cast<std::size_t>(cursor.rest().data() - text.data());
+  engine.engine.GetErrorStr(reading.engineText);
+  if (!reading.understood) return reading;
+  if (kind != TextKind::cableText) find_fpu(engine);
+  state.cable = std::move(*imp.cable);
+  state.cpuJtag = imp.cpuJtag;
+  state.chain.reserve(imp.jtagChain.size());
+  for (JtagOption* const device : imp.jtagChain) state.chain.push_back(std::move(*device));
+  return reading;
+}
+
+Error not_understood(const Reading& reading) {
+  std::string message = "the text is not understood";
+  if (reading.loneDash) message = "a lone '-' stands in the place of an option or a value";
+  return {ErrorCode::notUnderstood, std::move(message), reading.engineText};
+}
+
+Expected<std::string> write_state(const State& state, TextKind kind) {
+  ProcessorInfoImp processor = state.processor;
+  std::vector<JtagOption> chain = state.chain;
+  BoundEngine engine(processor, nullptr);
+  EngineImp& imp = engine.imp;
+  *imp.cable = state.cable;
+  imp.cpuJtag = state.cpuJtag;
+  imp.jtagChain.reserve(chain.size());
+  for (JtagOption& device : chain) imp.jtagChain.push_back(&device);
+  std::string text;
+  const int result = kind == TextKind::cableText ? QvtOption_Parser::WriteJtagCableOptionsString(imp, text)
+                                                 : engine.engine.GenerateCmdString(text);
+  if (result == kOk) return text;
+  std::string engineText;
+  engine.engine.GetErrorStr(engineText);
+  return Error{ErrorCode::cannotBeWritten, "no connect command can be written for these settings", engineText};
+}
+
+}  // namespace SdkDebugDialog

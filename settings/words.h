@@ -1,0 +1,18 @@
+#pragma once
+
+// Lists of words in texts.
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace SdkDebugDialog {
+
+std::string joined(std::span<const std::string> items, std::string_view separator);
+
+// At every separator; the result has at least one item, and items can be empty.
+std::vector<std::string_view> split(std::string_view text, char separator);
+
+}  // namespace SdkDebugDialog
