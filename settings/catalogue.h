@@ -40,6 +40,8 @@ struct SettingRow {
   // nothing and answers why.
   SettingValue (*get)(const SettingRow& row, const State& state) = nullptr;
   std::string (*set)(const SettingRow& row, State& state, const SettingValue& value, bool hasDesign) = nullptr;
+  bool resetPlainly = false;  // the default is kept in the field, without set
+  bool manyWords = false;     // a text that set checks, not one word
   // The default, where it depends on other settings or on the design.
   SettingValue (*initial)(const State& state, const State& defaults) = nullptr;
   // The values accepted now as text, and whether others are accepted too.

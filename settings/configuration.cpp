@@ -235,10 +235,10 @@ Expected<std::vector<std::string>> Configuration::set(const Setting& setting, co
   Content& c = *m_content;
   const SettingRow& row = row_of(setting);
   const std::string name(setting.name);
-  if (value == value_of(row, c.state) && value != SettingValue(std::string("serial"))) {
-    return std::vector<std::string>();
-  }
-  if (!row.applies.holds(c.state)) {
+  const bool isFixed = row.setting->readOnly || (row.fixed != nullptr && row.fixed(c.state, c.has_design()) != nullptr);
+  const bool applies = row.applies.holds(c.state);
+  if ((isFixed || !applies) && value == value_of(row, c.state)) return std::vector<std::string>();
+  if (!applies) {
     return Error{ErrorCode::refused, name + " does not apply: " + row.applies.otherwise, {}};
   }
   std::string why = set_value(row, c.state, value, c.has_design());

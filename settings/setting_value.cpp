@@ -1,0 +1,194 @@
+// The values of settings: kept, checked, compared.
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+
+#include "SdkDebugDialog/Engine.h"
+#include "options/field.h"
+#include "settings/catalogue.h"
+#include "settings/number_text.h"
+#include "settings/words.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+Records records_of(const State& state) {
+  // Reading needs records that are not const, as writing does.
+  auto& s = const_cast<State&>(state);
+  return {.processor = &s.processor, .cable = &s.cable};
+}
+
+// --- Plain values ---
+
+SettingValue plain_value(const SettingRow& row, const State& state) {
+  SettingValue value;
+  with_field(row.field, records_of(state), [&]<class Stored>(const Stored& stored) {
+    if constexpr (std::is_same_v<Stored, std::string>) {
+      value = stored;
+    } else {
+      switch (row.setting->kind) {
+        case SettingKind::flag:
+          value = stored != 0;
+          break;
+        case SettingKind::address:
+          if (static_cast<std::uint32_t>(stored) != kAddressNotSet) value = static_cast<std::int64_t>(stored);
+          break;
+        case SettingKind::word: {
+          const auto word = std::ranges::find(row.words, static_cast<std::uint32_t>(stored), &SettingWord::value);
+          value = word != row.words.end() ? std::string(word->name) : std::to_string(stored);
+          break;
+        }
+        default:
+          value = static_cast<std::int64_t>(stored);
+      }
+    }
+  });
+  return value;
+}
+
+void store_plain(const SettingRow& row, State& state, const SettingValue& value) {
+  with_field(row.field, records_of(state), [&]<class Stored>(Stored& stored) {
+    if constexpr (std::is_same_v<Stored, std::string>) {
+      stored = std::get<std::string>(value);
+    } else if (const auto* const number = std::get_if<std::int64_t>(&value)) {
+      stored = static_cast<Stored>(*number);
+    } else if (const auto* const flag = std::get_if<bool>(&value)) {
+      stored = static_cast<Stored>(*flag);
+    } else if (const auto* const name = std::get_if<std::string>(&value)) {
+      stored = static_cast<Stored>(std::ranges::find(row.words, *name, &SettingWord::name)->value);
+    } else {
+      stored = static_cast<Stored>(kAddressNotSet);
+    }
+  });
+}
+
+// --- Checks that hold for a kind of value ---
+
+std::string check_number(const SettingRow& row, std::int64_t number) {
+  if (number >= 0 && number <= row.max) return {};
+  const bool isAddress = row.setting->kind == SettingKind::address;
+  const std::string max = isAddress ? address_text(static_cast<std::uint32_t>(row.max)) : std::to_string(row.max);
+  return "it must be from 0 to " + max;
+}
+
+std::string check_text(const SettingRow& row, const std::string& text) {
+  if (text.empty() || row.manyWords || is_plain_word(text)) return {};
+  return "it must be one word, without blanks and without a dash in front: a connect command has no quoting";
+}
+
+std::string check_word(const SettingRow& row, const State& state, const std::string& word) {
+  const auto known = std::ranges::find(row.words, word, &SettingWord::name);
+  const auto choices = row.choices != nullptr ? row.choices(row, state) : std::vector<std::string>();
+  if (known != row.words.end() &&
+      (row.choices == nullptr || row.set != nullptr || std::ranges::find(choices, word) != choices.end())) {
+    return {};
+  }
+  std::vector<std::string> accepted = choices;
+  if (row.choices == nullptr) {
+    for (const SettingWord& w : row.words) accepted.emplace_back(w.name);
+  }
+  return "it must be one of " + joined(accepted, ", ");
+}
+
+// Which alternative of SettingValue a kind has; an address may be not set.
+bool has_kind(const SettingRow& row, const SettingValue& value) {
+  switch (row.setting->kind) {
+    case SettingKind::flag:
+      return std::holds_alternative<bool>(value);
+    case SettingKind::number:
+    case SettingKind::frequency:
+    case SettingKind::size:
+      return std::holds_alternative<std::int64_t>(value);
+    case SettingKind::address:
+      return std::holds_alternative<std::int64_t>(value) || std::holds_alternative<std::monostate>(value);
+    case SettingKind::text:
+    case SettingKind::word:
+      return std::holds_alternative<std::string>(value);
+    case SettingKind::words:
+      return std::holds_alternative<std::vector<std::string>>(value);
+    case SettingKind::devices:
+      return std::holds_alternative<std::vector<JtagOption>>(value);
+  }
+  return false;
+}
+
+std::string check(const SettingRow& row, const State& state, const SettingValue& value) {
+  if (!has_kind(row, value)) return "it is no value of this kind";
+  if (const auto* const number = std::get_if<std::int64_t>(&value)) return check_number(row, *number);
+  if (row.setting->kind == SettingKind::text) return check_text(row, std::get<std::string>(value));
+  if (row.setting->kind == SettingKind::word) return check_word(row, state, std::get<std::string>(value));
+  return {};
+}
+
+}  // namespace
+
+SettingValue value_of(const SettingRow& row, const State& state) {
+  return row.get != nullptr ? row.get(row, state) : plain_value(row, state);
+}
+
+SettingValue initial_of(const SettingRow& row, const State& state, const State& defaults) {
+  return row.initial != nullptr ? row.initial(state, defaults) : value_of(row, defaults);
+}
+
+std::string set_value(const SettingRow& row, State& state, const SettingValue& value, bool hasDesign) {
+  if (row.setting->readOnly) return "it cannot be set";
+  if (row.fixed != nullptr) {
+    if (const char* const why = row.fixed(state, hasDesign)) return std::string(why) + " and cannot be set";
+  }
+  if (std::string why = check(row, state, value); !why.empty()) return why;
+  if (row.set != nullptr) return row.set(row, state, value, hasDesign);
+  store_plain(row, state, value);
+  return {};
+}
+
+void reset_value(const SettingRow& row, State& state, const State& defaults) {
+  const SettingValue initial = initial_of(row, state, defaults);
+  if (row.set == nullptr || row.resetPlainly) {
+    store_plain(row, state, initial);
+  } else {
+    row.set(row, state, initial, true);
+  }
+}
+
+std::vector<std::string> warnings_of(const SettingRow& row, const State& s) {
+  std::vector<std::string> warnings;
+  const std::string_view name = row.setting->name;
+  const int device = s.processor.debugDevice;
+  if (name == "debug-device" || name == "devices") {
+    const auto number = [](const JtagOption& d) { return int{d.devicenr}; };
+    if (device != 0 && !s.chain.empty() && std::ranges::find(s.chain, device, number) == s.chain.end()) {
+      warnings.push_back("no device of the JTAG chain has the number " + std::to_string(device) +
+                         " of the debug device");
+    }
+    std::vector<int> numbers;
+    std::ranges::transform(s.chain, std::back_inserter(numbers), number);
+    std::ranges::sort(numbers);
+    const auto twice = std::ranges::adjacent_find(numbers);
+    if (twice != numbers.end()) {
+      warnings.push_back("two devices of the JTAG chain have the number " + std::to_string(*twice));
+    }
+  }
+  if (name == "cable" && s.cable.type == Engine::ZARVEK_PLUGIN && s.cable.modulename.empty()) {
+    warnings.emplace_back("a zarvek_plugin cable needs a module");
+  }
+  if (name == "cable" && s.cable.type != Engine::CABLE_NONE && cable_type(s.cable.type).notWritten != nullptr) {
+    warnings.emplace_back("a command with this cable cannot be written anew: " +
+                          std::string(cable_type(s.cable.type).notWritten));
+  }
+  if ((name == "rom" || name == "rom-size") &&
+      (s.processor.romemStartAddr == kAddressNotSet) != (s.processor.romemSize == 0)) {
+    warnings.emplace_back("the read-only memory needs both, rom and rom-size");
+  }
+  return warnings;
+}
+
+std::vector<const SettingRow*> differing(const State& a, const State& b) {
+  std::vector<const SettingRow*> found;
+  for (const SettingRow& row : setting_rows()) {
+    if (value_of(row, a) != value_of(row, b)) found.push_back(&row);
+  }
+  return found;
+}
+
+}  // namespace SdkDebugDialog
