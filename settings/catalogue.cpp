@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <iterator>
 #include <limits>
+#include <unordered_map>
 
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
@@ -618,6 +619,17 @@ const Catalogue& catalogue() {
   return made;
 }
 
+const Setting* find_setting_of(const Keyword& keyword) {
+  const auto named = [](std::string_view name) { return find_setting(name); };
+  const auto in = [&](const Group& group) {
+    return &keyword >= group.keywords.data() && &keyword < group.keywords.data() + group.keywords.size();
+  };
+  if (in(kConfigdevice)) return named(keyword.field.index() == 0 ? "cpu-jtag" : "devices");
+  if (keyword.field.index() == 0) return in(kCable) ? named("cable") : nullptr;
+  const auto row = std::ranges::find(catalogue().rows, keyword.field, &SettingRow::field);
+  return row != catalogue().rows.end() ? row->setting : nullptr;
+}
+
 }  // namespace
 
 std::span<const SettingRow> setting_rows() { return catalogue().rows; }
@@ -636,14 +648,15 @@ const Setting* find_setting(std::string_view name) {
 }
 
 const Setting* setting_of(const Keyword& keyword) {
-  const auto named = [](std::string_view name) { return find_setting(name); };
-  const auto in = [&](const Group& group) {
-    return &keyword >= group.keywords.data() && &keyword < group.keywords.data() + group.keywords.size();
-  };
-  if (in(kConfigdevice)) return named(keyword.field.index() == 0 ? "cpu-jtag" : "devices");
-  if (keyword.field.index() == 0) return in(kCable) ? named("cable") : nullptr;
-  const auto row = std::ranges::find(catalogue().rows, keyword.field, &SettingRow::field);
-  return row != catalogue().rows.end() ? row->setting : nullptr;
+  static const auto all = [] {
+    std::unordered_map<const Keyword*, const Setting*> found;
+    for (const Option& option : options()) {
+      for (const Keyword& row : option.group.keywords) found.emplace(&row, find_setting_of(row));
+    }
+    return found;
+  }();
+  const auto found = all.find(&keyword);
+  return found != all.end() ? found->second : nullptr;
 }
 
 bool is_plain_word(std::string_view text) {

@@ -1,0 +1,59 @@
+#include "settings/Draft.h"
+
+#include <algorithm>
+
+namespace SdkDebugDialog {
+
+Draft::Draft(std::string t, TextKind k) : text(std::move(t)), kind(k), words(walk(text, k)) {
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    if (!is_read(i)) continue;
+    const std::size_t group = words[i].group;
+    if (group >= groups.size()) groups.resize(group + 1, {i, i, words[i].option});
+    groups[group].last = i;
+  }
+}
+
+std::string_view Draft::word(std::size_t i) const {
+  return std::string_view(text).substr(words[i].begin, words[i].end - words[i].begin);
+}
+
+std::size_t Draft::last_read() const {
+  for (std::size_t i = words.size(); i > 0; --i) {
+    if (is_read(i - 1)) return i - 1;
+  }
+  return words.size();
+}
+
+void Changes::replace(std::size_t word, std::string_view by) {
+  m_splices.push_back({m_draft.words[word].begin, m_draft.words[word].end, std::string(by)});
+}
+
+void Changes::remove(std::size_t word) {
+  const std::size_t begin = word == 0 ? 0 : m_draft.words[word - 1].end;
+  m_splices.push_back({begin, m_draft.words[word].end, {}});
+}
+
+void Changes::add_behind(std::size_t word, std::string_view text) {
+  m_splices.push_back({m_draft.words[word].end, m_draft.words[word].end, std::string(text)});
+}
+
+std::string Changes::made() const {
+  std::vector<Splice> splices = m_splices;
+  std::ranges::stable_sort(splices, {}, &Splice::end);
+  std::string text;
+  std::size_t from = 0;
+  for (const Splice& splice : splices) {
+    text.append(m_draft.text, from, splice.begin - from);
+    text += splice.text;
+    from = splice.end;
+  }
+  return text.append(m_draft.text, from);
+}
+
+std::string with_behind(const Draft& draft, std::size_t word, std::string_view text) {
+  Changes changes(draft);
+  changes.add_behind(word, text);
+  return changes.made();
+}
+
+}  // namespace SdkDebugDialog

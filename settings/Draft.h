@@ -1,0 +1,63 @@
+#pragma once
+
+// A text with its words, and changes in it.
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "settings/walk.h"
+
+namespace SdkDebugDialog {
+
+struct Draft {
+  Draft(std::string text, TextKind kind);
+
+  std::string text;
+  TextKind kind;
+  std::vector<WalkedWord> words;
+
+  std::string_view word(std::size_t i) const;
+  // Whether the reader looks at the word.
+  bool is_read(std::size_t i) const { return words[i].role != Role::ignored; }
+  // The last word that is read; that of the number of words when there is none.
+  std::size_t last_read() const;
+
+  // The first and the last word of an option and what belongs to it, which is read.
+  struct Group {
+    std::size_t first = 0;
+    std::size_t last = 0;
+    const Option* option = nullptr;  // null for an unknown one
+  };
+  // By the number of the group; that of the words before the first option is 0.
+  std::vector<Group> groups;
+};
+
+// Changes in a draft, collected and made at once. They are made in the order of the words, those at one place in the
+// order in which they came.
+class Changes {
+ public:
+  explicit Changes(const Draft& draft) : m_draft(draft) {}
+
+  void replace(std::size_t word, std::string_view by);
+  // With the white space in front.
+  void remove(std::size_t word);
+  void add_behind(std::size_t word, std::string_view text);
+
+  std::string made() const;
+
+ private:
+  struct Splice {
+    std::size_t begin;
+    std::size_t end;
+    std::string text;
+  };
+  const Draft& m_draft;
+  std::vector<Splice> m_splices;
+};
+
+std::string with_behind(const Draft& draft, std::size_t word, std::string_view text);
+
+}  // namespace SdkDebugDialog
