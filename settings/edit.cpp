@@ -67,27 +67,32 @@ std::optional<Meant> all_at_once(const EditTask& task) {
 
 // --- Anew ---
 
+// The line of a file that is read, of any length; the whole of any other text.
+std::string_view command_in(std::string_view text, TextKind kind) {
+  if (kind != TextKind::optionFile) return text;
+  text.remove_prefix(std::min(text.find_first_not_of('\n'), text.size()));
+  return text.substr(0, text.find('\n'));
+}
+
 // The text with its command, which for a file is the line that is read, replaced.
 std::string with_command(const EditTask& task, std::string_view command) {
-  if (task.kind != TextKind::optionFile) return std::string(command);
-  const std::size_t begin = std::min(task.text.find_first_not_of('\n'), task.text.size());
-  std::size_t end = std::min(task.text.find('\n', begin), task.text.size());
-  if (end > begin && task.text[end - 1] == '\r') --end;
-  return std::string(task.text).replace(begin, end - begin, command);
+  std::string_view old = command_in(task.text, task.kind);
+  if (old.ends_with('\r')) old.remove_suffix(1);
+  return std::string(task.text).replace(static_cast<std::size_t>(old.data() - task.text.data()), old.size(), command);
 }
 
 // Words that set nothing, as they stand: options that are accepted and forgotten, and what is not looked at.
 std::vector<std::string> words_without_setting(std::string_view text, TextKind kind) {
+  const std::string_view command = command_in(text, kind);
+  const auto begin = static_cast<std::size_t>(command.data() - text.data());
+  const std::size_t end = begin + command.size();
   const Draft draft{std::string(text), kind};
-  const std::string_view line = kind == TextKind::optionFile ? option_line(text) : text;
-  const auto from = static_cast<std::size_t>(line.empty() ? 0 : line.data() - text.data());
   std::vector<std::string> found;
   std::size_t group = 0;
   for (std::size_t i = 0; i < draft.words.size(); ++i) {
     const WalkedWord& word = draft.words[i];
-    const bool inCommand = word.begin >= from && text.substr(from, word.begin - from).find('\n') == std::string::npos;
     const bool isForgotten = word.option != nullptr && sets_nothing(*word.option);
-    if (!inCommand || (!isForgotten && draft.is_read(i))) continue;
+    if (word.begin < begin || word.end > end || (!isForgotten && draft.is_read(i))) continue;
     if (isForgotten && word.group == group) {
       found.back() += " " + std::string(draft.word(i));
     } else {
@@ -120,8 +125,7 @@ std::vector<Loss> losses_between(const EditTask& task, std::string_view text, co
 }
 
 std::string why_not_read(const std::string& text, TextKind kind, const Reading& reading) {
-  const std::size_t begin = std::min(text.find_first_not_of('\n'), text.size());
-  const std::size_t size = std::min(text.find('\n', begin), text.size()) - begin;
+  const std::size_t size = command_in(text, kind).size();
   if (kind == TextKind::optionFile && size > kLongestLine) {
     return "the command has " + std::to_string(size) + " characters, and " + std::to_string(kLongestLine) +
            " are read back";
