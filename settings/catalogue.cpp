@@ -188,18 +188,20 @@ std::string set_connection(const SettingRow& row, State& s, const SettingValue& 
   return by_engine(s, [&](Engine& e) { return e.SetConnectionType(static_cast<Engine::ConnectionType>(type)); });
 }
 
-// The engine wants the flag of the stub's link in the selected connection, and the writer no flag. Without a design
-// nobody knows the flags, and any link is accepted.
+constexpr unsigned kStubFlags = Engine::STUB_JTAG_PRESENT | Engine::STUB_UART_PRESENT;
+
+// Selects the stub. The engine wants the flag of a new link in the selected connection, and the writer no flag. Without
+// a design nobody knows the flags, and any link is accepted.
 std::string set_stub(const SettingRow& row, State& s, const SettingValue& value, bool hasDesign) {
   const auto type =
       static_cast<Engine::StubType>(std::ranges::find(row.words, text_of(value), &SettingWord::name)->value);
   State changed = s;
-  const unsigned present =
-      changed.processor.allowedConnections & (Engine::STUB_JTAG_PRESENT | Engine::STUB_UART_PRESENT);
-  const unsigned flags = hasDesign ? present : Engine::STUB_JTAG_PRESENT | Engine::STUB_UART_PRESENT;
-  changed.processor.connectionType = Engine::STUB | flags;
-  std::string why = by_engine(changed, [&](Engine& e) { return e.SetStubType(type); });
-  if (!why.empty()) return why;
+  if (type != s.processor.stubType) {
+    changed.processor.connectionType =
+        Engine::STUB | (hasDesign ? s.processor.allowedConnections & kStubFlags : kStubFlags);
+    std::string why = by_engine(changed, [&](Engine& e) { return e.SetStubType(type); });
+    if (!why.empty()) return why;
+  }
   changed.processor.connectionType = Engine::STUB;
   s = std::move(changed);
   return {};
@@ -209,11 +211,9 @@ std::vector<std::string> choose_stub(const SettingRow& row, const State& s) {
   std::vector<std::string> names;
   for (const SettingWord& word : row.words) {
     const auto flag = word.value == Engine::STUB_OVER_JTAG ? Engine::STUB_JTAG_PRESENT : Engine::STUB_UART_PRESENT;
-    constexpr unsigned kBoth = Engine::STUB_JTAG_PRESENT | Engine::STUB_UART_PRESENT;
-    const bool known = (s.processor.allowedConnections & kBoth) != 0;
-    if (!known || (s.processor.allowedConnections & flag) != 0 || s.processor.stubType == word.value) {
-      names.emplace_back(word.name);
-    }
+    const bool isKnown = (s.processor.allowedConnections & kStubFlags) != 0;
+    const bool isPresent = (s.processor.allowedConnections & flag) != 0;
+    if (!isKnown || isPresent || s.processor.stubType == word.value) names.emplace_back(word.name);
   }
   return names;
 }
@@ -321,6 +321,7 @@ std::string set_cable(const SettingRow& row, State& s, const SettingValue& value
   if (cable_type(type).notRead != nullptr) {
     return "this type is not read; the types are " + joined(choose_cable(row, s), ", ");
   }
+  s.processor.svfFileSet = 0;  // as the file's name, which goes
   return by_engine(s, [&](Engine& e) { return e.SetCableType(type); });
 }
 
@@ -412,6 +413,7 @@ struct Special {
   decltype(SettingRow::get) get = nullptr;
   decltype(SettingRow::set) set = nullptr;
   bool resetPlainly = false;
+  bool alsoWhenSame = false;
   bool manyWords = false;
   std::string_view initialInWords = {};
   decltype(SettingRow::initial) initial = nullptr;
@@ -443,6 +445,7 @@ Entry row(std::string_view group, std::string_view name, std::string_view label,
                   .get = special.get,
                   .set = special.set,
                   .resetPlainly = special.resetPlainly,
+                  .alsoWhenSame = special.alsoWhenSame,
                   .manyWords = special.manyWords,
                   .initial = special.initial,
                   .choices = special.choices,
@@ -484,7 +487,8 @@ std::vector<Entry> make_entries() {
           kPowerPC,
           {.words = fpu_words(), .initialInWords = "as in the design", .initial = initial_fpu, .fixed = as_in_design}),
 
-      row("connection", "connection", "Connection", "What the debugger connects to.", word, &P::connectionType,
+      row("connection", "connection", "Connection",
+          "What the debugger connects to: simulator, hardware, stub or virtual-platform.", word, &P::connectionType,
           kEverywhere,
           {.words = {std::begin(kConnections), std::end(kConnections)},
            .get = get_connection,

@@ -41,6 +41,7 @@ struct SettingRow {
   SettingValue (*get)(const SettingRow& row, const State& state) = nullptr;
   std::string (*set)(const SettingRow& row, State& state, const SettingValue& value, bool hasDesign) = nullptr;
   bool resetPlainly = false;  // the default is kept in the field, without set
+  bool alsoWhenSame = false;  // setting the value that there is has an effect
   bool manyWords = false;     // a text that set checks, not one word
   // The default, where it depends on other settings or on the design.
   SettingValue (*initial)(const State& state, const State& defaults) = nullptr;
@@ -60,7 +61,9 @@ const Setting* setting_of(const Keyword& keyword);
 SettingValue value_of(const SettingRow& row, const State& state);
 SettingValue initial_of(const SettingRow& row, const State& state, const State& defaults);
 
-// Sets a value of the kind of the setting. Empty, or why it was refused: nothing is changed then.
+// Why the value is none that the setting can have; empty if it can.
+std::string why_invalid(const SettingRow& row, const State& state, const SettingValue& value);
+// Sets a valid value. Empty, or why it was refused: nothing is changed then.
 std::string set_value(const SettingRow& row, State& state, const SettingValue& value, bool hasDesign);
 // Puts the default in. For a setting that other settings follow these get their defaults as well.
 void reset_value(const SettingRow& row, State& state, const State& defaults);

@@ -163,11 +163,22 @@ Expected<Configuration> Configuration::open(Processor processor, const std::stri
   return configuration;
 }
 
+namespace {
+
+bool same_text(const Configuration& a, const Configuration& b) {
+  const Expected<std::string> x = a.text();
+  const Expected<std::string> y = b.text();
+  return x && y && *x == *y;
+}
+
+}  // namespace
+
 bool operator==(const Configuration& a, const Configuration& b) {
   const Configuration::Content& x = *a.m_content;
   const Configuration::Content& y = *b.m_content;
-  return x.processor.hardware() == y.processor.hardware() && x.kind == y.kind && x.text == y.text && x.path == y.path &&
-         differing(x.state, y.state).empty() && differing(x.read, y.read).empty();
+  return x.processor.hardware() == y.processor.hardware() && x.kind == y.kind && x.text == y.text &&
+         differing(x.state, y.state).empty() && differing(x.read, y.read).empty() &&
+         (x.toDefault == y.toDefault || same_text(a, b));
 }
 
 // --- Settings ---
@@ -235,12 +246,19 @@ Expected<std::vector<std::string>> Configuration::set(const Setting& setting, co
   Content& c = *m_content;
   const SettingRow& row = row_of(setting);
   const std::string name(setting.name);
-  const bool isFixed = row.setting->readOnly || (row.fixed != nullptr && row.fixed(c.state, c.has_design()) != nullptr);
-  const bool applies = row.applies.holds(c.state);
-  if ((isFixed || !applies) && value == value_of(row, c.state)) return std::vector<std::string>();
-  if (!applies) {
+  if (value == value_of(row, c.state) && !row.alsoWhenSame) {
+    c.toDefault.reset(place_of(row));
+    return std::vector<std::string>();
+  }
+  if (!row.applies.holds(c.state)) {
     return Error{ErrorCode::refused, name + " does not apply: " + row.applies.otherwise, {}};
   }
+  std::string invalid = why_invalid(row, c.state, value);
+  const SettingValue initial = initial_of(row, c.state, c.defaults);
+  if (value == SettingValue(std::string()) && value != initial) {
+    invalid = "it cannot be empty; its default is " + value_text(setting, initial);
+  }
+  if (!invalid.empty()) return Error{ErrorCode::invalidValue, name + ": " + invalid, {}};
   std::string why = set_value(row, c.state, value, c.has_design());
   if (!why.empty()) return Error{ErrorCode::refused, name + ": " + why, {}};
   c.toDefault.reset(place_of(row));
@@ -272,6 +290,10 @@ void Configuration::reset() {
   m_content->toDefault.set();
 }
 
+std::vector<std::string> Configuration::warnings(const Setting& setting) const {
+  return warnings_of(row_of(setting), m_content->state);
+}
+
 std::vector<Loss> Configuration::copy_settings(const Configuration& from) {
   std::vector<Loss> left;
   const State& source = from.m_content->state;
@@ -288,6 +310,8 @@ std::vector<Loss> Configuration::copy_settings(const Configuration& from) {
       left.push_back({&setting, std::string(setting.name) + " " + value_text(setting, value), done.error().message});
     }
   }
+  // A setting that another one brought along is not left.
+  std::erase_if(left, [&](const Loss& loss) { return value(*loss.setting) == from.value(*loss.setting); });
   return left;
 }
 
@@ -316,7 +340,7 @@ Expected<Edit> Configuration::for_file() const {
                                      differing(asCommand.state, asFile.state).empty())) {
     return edit;
   }
-  return write_anew({c.processor, edit->text, TextKind::optionFile, c.read, c.state, {}});
+  return write_anew({c.processor, edit->text, TextKind::command, c.read, c.state, {}, TextKind::optionFile});
 }
 
 Expected<Edit> Configuration::written_anew() const { return write_anew(m_content->task()); }
@@ -335,19 +359,22 @@ Expected<Edit> Configuration::store(const std::string& path, OnLoss onLoss) {
 Expected<Edit> Configuration::store(const Edit& edit, const std::string& path, OnLoss onLoss) {
   Content& c = *m_content;
   if (!edit.is_safe() && onLoss == OnLoss::refuse) return Error{ErrorCode::wouldLose, listed(edit), {}};
+  if (path.empty()) return Error{ErrorCode::file, "no file was read, and none is named to store in", {}};
   const bool isOwn = path == c.path;
+  const bool overwrites = !isOwn && onLoss == OnLoss::goOn;
   const FileContent expected = isOwn ? c.file : FileContent();
-  if (!isOwn || edit.text != c.file.bytes) {
-    const ReplaceResult replaced =
-        replace_file_if_unchanged(path, expected, edit.text, !isOwn && onLoss == OnLoss::goOn);
-    if (replaced.result == Replaced::changed) {
-      return Error{
-          ErrorCode::changedMeanwhile,
-          path + (isOwn ? ": the file has changed since it was read; read it again" : ": there is such a file already"),
-          {}};
-    }
-    if (replaced.result == Replaced::failed) return Error{ErrorCode::file, path + ": " + replaced.error, {}};
+  const Error changed = {
+      ErrorCode::changedMeanwhile,
+      path + (isOwn ? ": the file has changed since it was read; read it again" : ": there is such a file already"),
+      {}};
+  if (isOwn && edit.text == c.file.bytes) {
+    const FileContent now = read_whole_file(path, kLargestFile);
+    if (now.exists != expected.exists || now.bytes != expected.bytes) return changed;
+    return edit;
   }
+  const ReplaceResult replaced = replace_file_if_unchanged(path, expected, edit.text, overwrites);
+  if (replaced.result == Replaced::changed) return changed;
+  if (replaced.result == Replaced::failed) return Error{ErrorCode::file, path + ": " + replaced.error, {}};
   c.path = path;
   c.file = {.exists = true, .bytes = edit.text, .error = {}};
   c.kind = TextKind::optionFile;

@@ -25,7 +25,7 @@ struct Meant {
 };
 
 std::optional<Meant> meaning_of(std::string text, const EditTask& task) {
-  Reading reading = read_state(task.processor, text, task.kind);
+  Reading reading = read_state(task.processor, text, task.written);
   if (!reading.understood) return std::nullopt;
   auto wrong = differing(reading.state, task.wanted);
   return Meant{std::move(text), std::move(reading.state), std::move(wrong)};
@@ -36,7 +36,7 @@ Meant step_by_step(Meant now, const EditTask& task) {
   for (bool moved = true; moved && !now.wrong.empty();) {
     moved = false;
     for (const SettingRow* const row : std::vector(now.wrong)) {
-      const Draft draft(now.text, task.kind);
+      const Draft draft(now.text, task.written);
       for (std::string& way : ways_of(draft, *row, {now.state, task.wanted}, task.toDefault.test(place_of(*row)))) {
         if (way == now.text) continue;
         std::optional<Meant> next = meaning_of(std::move(way), task);
@@ -53,11 +53,25 @@ Meant step_by_step(Meant now, const EditTask& task) {
   return now;
 }
 
+// Removes the words of settings that were put back and that the text tells without need.
+std::string without_needless(Meant now, const EditTask& task) {
+  for (const SettingRow& row : setting_rows()) {
+    if (!task.toDefault.test(place_of(row))) continue;
+    for (std::string& way : ways_without(Draft(now.text, task.written), row)) {
+      std::optional<Meant> next = meaning_of(std::move(way), task);
+      if (!next || !next->wrong.empty()) continue;
+      now = std::move(*next);
+      break;
+    }
+  }
+  return std::move(now.text);
+}
+
 // The first way of each setting, one after the other: for changes that are not understood one by one.
 std::optional<Meant> all_at_once(const EditTask& task) {
   std::string text(task.text);
   for (const SettingRow* const row : differing(task.before, task.wanted)) {
-    const Draft draft(std::move(text), task.kind);
+    const Draft draft(std::move(text), task.written);
     const std::vector<std::string> ways =
         ways_of(draft, *row, {task.before, task.wanted}, task.toDefault.test(place_of(*row)));
     text = ways.empty() ? draft.text : ways.front();
@@ -112,7 +126,7 @@ std::vector<Loss> losses_between(const EditTask& task, std::string_view text, co
           {row->setting, std::string(row->setting->name) + " " + value, why_not_written(*row, task.wanted)});
     }
   }
-  std::vector<std::string> kept = words_without_setting(text, task.kind);
+  std::vector<std::string> kept = words_without_setting(text, task.written);
   for (std::string& words : words_without_setting(task.text, task.kind)) {
     const auto found = std::ranges::find(kept, words);
     if (found != kept.end()) {
@@ -147,10 +161,10 @@ Edit finished(const EditTask& task, std::string text, bool anew) {
   Edit edit;
   edit.text = std::move(text);
   edit.anew = anew;
-  const Reading reading = read_state(task.processor, edit.text, task.kind);
+  const Reading reading = read_state(task.processor, edit.text, task.written);
   edit.differences = differences_between(task.before, reading.understood ? reading.state : task.wanted);
   edit.losses = losses_between(task, edit.text, reading);
-  edit.notReadBack = why_not_read(edit.text, task.kind, reading);
+  edit.notReadBack = why_not_read(edit.text, task.written, reading);
   return edit;
 }
 
@@ -199,7 +213,7 @@ Expected<Edit> write_anew(const EditTask& task) {
 }
 
 Expected<Edit> edit_text(const EditTask& task) {
-  if (differing(task.before, task.wanted).empty()) {
+  if (differing(task.before, task.wanted).empty() && (task.toDefault.none() || task.text.empty())) {
     Edit same;
     same.text = task.text;
     return same;
@@ -227,7 +241,7 @@ Expected<Edit> edit_text(const EditTask& task) {
     if (!best->wrong.empty()) {
       if (std::optional<Meant> whole = all_at_once(task)) best = step_by_step(std::move(*whole), task);
     }
-    if (best->wrong.empty()) return finished(task, std::move(best->text), false);
+    if (best->wrong.empty()) return finished(task, without_needless(std::move(*best), task), false);
   }
   Expected<Edit> anew = write_anew(task);
   if (!anew || anew->losses.empty()) return anew;

@@ -20,9 +20,10 @@ struct EditTask {
   const Processor& processor;
   std::string_view text;
   TextKind kind;
-  const State& before;   // what the text means
-  const State& wanted;   // what it is to mean
-  SettingSet toDefault;  // whose words go if their defaults are read then
+  const State& before;      // what the text means
+  const State& wanted;      // what it is to mean
+  SettingSet toDefault;     // whose words go if their defaults are read then
+  TextKind written = kind;  // what the new text is to be read as
 };
 
 // In place if that is possible, else anew. ErrorCode::cannotBeWritten.

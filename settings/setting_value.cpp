@@ -113,14 +113,6 @@ bool has_kind(const SettingRow& row, const SettingValue& value) {
   return false;
 }
 
-std::string check(const SettingRow& row, const State& state, const SettingValue& value) {
-  if (!has_kind(row, value)) return "it is no value of this kind";
-  if (const auto* const number = std::get_if<std::int64_t>(&value)) return check_number(row, *number);
-  if (row.setting->kind == SettingKind::text) return check_text(row, std::get<std::string>(value));
-  if (row.setting->kind == SettingKind::word) return check_word(row, state, std::get<std::string>(value));
-  return {};
-}
-
 }  // namespace
 
 SettingValue value_of(const SettingRow& row, const State& state) {
@@ -131,12 +123,19 @@ SettingValue initial_of(const SettingRow& row, const State& state, const State& 
   return row.initial != nullptr ? row.initial(state, defaults) : value_of(row, defaults);
 }
 
+std::string why_invalid(const SettingRow& row, const State& state, const SettingValue& value) {
+  if (!has_kind(row, value)) return "it is no value of this kind";
+  if (const auto* const number = std::get_if<std::int64_t>(&value)) return check_number(row, *number);
+  if (row.setting->kind == SettingKind::text) return check_text(row, std::get<std::string>(value));
+  if (row.setting->kind == SettingKind::word) return check_word(row, state, std::get<std::string>(value));
+  return {};
+}
+
 std::string set_value(const SettingRow& row, State& state, const SettingValue& value, bool hasDesign) {
   if (row.setting->readOnly) return "it cannot be set";
   if (row.fixed != nullptr) {
     if (const char* const why = row.fixed(state, hasDesign)) return std::string(why) + " and cannot be set";
   }
-  if (std::string why = check(row, state, value); !why.empty()) return why;
   if (row.set != nullptr) return row.set(row, state, value, hasDesign);
   store_plain(row, state, value);
   return {};

@@ -81,6 +81,16 @@ std::vector<std::string> ways_without(const Draft& draft, const std::vector<std:
   return {without(), optionsStay};
 }
 
+// A cable goes with everything that is said about it.
+std::string without_cable(const Draft& draft) {
+  Changes changes(draft);
+  for (const Draft::Group& group : draft.groups) {
+    if (group.option == nullptr || &group.option->group != &kCable) continue;
+    for (std::size_t i = group.first; i <= group.last; ++i) changes.remove(i);
+  }
+  return changes.made();
+}
+
 // --- Adding ---
 
 std::size_t place_in_table(const Option& option) { return static_cast<std::size_t>(&option - options().data()); }
@@ -198,7 +208,9 @@ std::vector<std::string> ways_of_value(const Draft& draft, const SettingRow& row
   std::vector<std::string> ways;
   const std::vector<std::size_t> values = values_of(draft, *row.setting);
   const bool unsaid = is_unsaid(row_of(told_by(*row.setting)), meanings.wanted);
-  if ((unsaid || toDefault) && !values.empty()) ways = ways_without(draft, values);
+  if (unsaid && row.setting->name == "cable") ways.push_back(without_cable(draft));
+  if ((unsaid || toDefault) && !values.empty())
+    std::ranges::move(ways_without(draft, values), std::back_inserter(ways));
   if (unsaid) return ways;
   if (values.empty()) {
     add_setting(ways, draft, *row.setting, meanings);
@@ -348,7 +360,12 @@ std::string with_own_pins(const Draft& draft, const State& now) {
   if (!groups.empty() && groups.front()->first > 0) return with_behind(draft, groups.front()->first - 1, form);
   std::vector<std::string> ways;
   add_option(ways, draft, device_option(), form, now);
-  return ways.empty() ? draft.text : ways.front();
+  return ways.empty() ? draft.text + form : ways.front();
+}
+
+std::vector<std::string> ways_without(const Draft& draft, const SettingRow& row) {
+  const std::vector<std::size_t> values = values_of(draft, *row.setting);
+  return values.empty() || row.setting->name == "devices" ? std::vector<std::string>() : ways_without(draft, values);
 }
 
 std::vector<std::string> ways_of(const Draft& draft, const SettingRow& row, const Meanings& meanings, bool toDefault) {

@@ -22,6 +22,9 @@ struct Meanings {
 // words go if possible.
 std::vector<std::string> ways_of(const Draft& draft, const SettingRow& row, const Meanings& meanings, bool toDefault);
 
+// New texts without the words of a setting; none when it has no words.
+std::vector<std::string> ways_without(const Draft& draft, const SettingRow& row);
+
 // Whether the word tells the setting, alone or with others.
 bool is_about(const Keyword* keyword, const Setting& setting);
 // Whether the option, with its value or its pairs, sets nothing.

@@ -138,7 +138,7 @@ class SDKDEBUGDIALOG_API Configuration {
   Configuration& operator=(Configuration&& other) noexcept;
   ~Configuration();
 
-  // Equal: the same settings of the same processor, and the same text to be stored.
+  // Equal: the same settings of the same processor, and the same text read and to be stored.
   friend SDKDEBUGDIALOG_API bool operator==(const Configuration& a, const Configuration& b);
   friend bool operator!=(const Configuration& a, const Configuration& b) { return !(a == b); }
 
@@ -155,8 +155,11 @@ class SDKDEBUGDIALOG_API Configuration {
   Expected<std::vector<std::string>> set(std::string_view name, std::string_view text);
   // Back to the default; also where the setting does not apply. ErrorCode::refused for a setting that is read-only.
   Expected<void> reset(const Setting& setting);
-  // All settings back to their defaults. The text to be stored is then written anew.
+  // All settings back to their defaults; words that set nothing stay in the text.
   void reset();
+
+  // What is accepted and yet looks wrong about a setting, together with those that it has to do with.
+  std::vector<std::string> warnings(const Setting& setting) const;
 
   // Takes over the settings of another processor; returns those that it could not take, each with the reason.
   std::vector<Loss> copy_settings(const Configuration& from);

@@ -11,7 +11,7 @@ namespace SdkDebugDialog {
 enum class ErrorCode {
   noSuchProcessor,   // the design has no processor of this name that can be debugged
   noSuchSetting,     // no setting has this name
-  invalidValue,      // a text that is no value of the setting
+  invalidValue,      // a text or a value that the setting can never have
   refused,           // a value that is not accepted, or a setting that does not apply
   notUnderstood,     // the reader refuses the text
   cannotBeWritten,   // the writer has no text for these settings
