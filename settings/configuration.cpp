@@ -8,6 +8,7 @@
 
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
+#include "model/processor_list.h"
 #include "options/option_file.h"
 #include "platform/HHSMHwManager.h"
 #include "settings/catalogue.h"
@@ -48,39 +49,51 @@ std::string listed(const Edit& edit) {
 
 struct Design::Content {
   std::vector<std::string> names;
-  std::vector<Processor> processors;
+  std::shared_ptr<HHSMHwManager> hardware;
+  Engine engine;
+
+  Content() = default;
+  ~Content() {
+    for (const ProcessorInfoImp* const record : engine.imp->processorList) delete record;
+  }
+  Content(const Content&) = delete;
+  Content& operator=(const Content&) = delete;
+
+  const std::vector<ProcessorInfoImp*>& records() const { return engine.imp->processorList; }
 };
 
 Design::Design(HHSMHwManager& hardware) : Design(std::shared_ptr<HHSMHwManager>(std::shared_ptr<void>(), &hardware)) {}
 
 Design::Design(std::shared_ptr<HHSMHwManager> hardware) {
   auto content = std::make_shared<Content>();
-  // The engine does not delete the records.
-  struct Found {
-    Engine engine;
-    ~Found() {
-      for (const ProcessorInfoImp* const record : engine.imp->processorList) delete record;
-    }
-  } found;
-  found.engine.GetProcessorList(hardware.get(), content->names);
-  content->processors.reserve(found.engine.imp->processorList.size());
-  for (ProcessorInfoImp* const record : found.engine.imp->processorList) {
-    Processor& processor = content->processors.emplace_back();
-    processor.m_identity = std::move(*record);
-    processor.m_hardware = hardware;
-  }
+  content->engine.GetProcessorList(hardware.get(), content->names);
+  content->hardware = std::move(hardware);
+  // The first look-up builds the index; later ones change nothing, so that threads can share the design.
+  find_listed(*content->engine.imp, {});
   m_content = std::move(content);
 }
 
 const std::vector<std::string>& Design::names() const { return m_content->names; }
 
-const std::vector<Processor>& Design::processors() const { return m_content->processors; }
+Processor Design::processor_of(const ProcessorInfoImp& record) const {
+  Processor processor;
+  processor.m_identity = record;
+  processor.m_hardware = m_content->hardware;
+  return processor;
+}
+
+std::vector<Processor> Design::processors() const {
+  std::vector<Processor> all;
+  all.reserve(m_content->records().size());
+  for (const ProcessorInfoImp* const record : m_content->records()) all.push_back(processor_of(*record));
+  return all;
+}
 
 Expected<Processor> Design::find(std::string_view name) const {
-  const auto found = std::ranges::find(processors(), name, &Processor::name);
-  if (found != processors().end()) return *found;
+  const ProcessorInfoImp* const found = find_listed(*m_content->engine.imp, std::string(name));
+  if (found != nullptr) return processor_of(*found);
   std::vector<std::string_view> known;
-  for (const Processor& processor : processors()) known.push_back(processor.name());
+  for (const ProcessorInfoImp* const record : m_content->records()) known.push_back(record->name);
   const std::string_view nearest = nearest_name(name, known);
   const bool isThere = std::ranges::find(names(), name) != names().end();
   std::string message = isThere ? "processor " + quoted(name) + " cannot be debugged: no debug module reaches it"
@@ -94,12 +107,11 @@ Expected<Processor> Design::identify(std::string_view command) const {
   if (!reading.understood) return not_understood(reading);
   const ProcessorInfoImp& told = reading.state.processor;
   constexpr unsigned kBare = Engine::ODM_TARGET | Engine::QMTC_TARGET | Engine::DCC_TARGET | Engine::DAP_TARGET;
-  const auto found = std::ranges::find_if(processors(), [&](const Processor& processor) {
-    const ProcessorInfoImp& known = processor.identity();
-    return known.procFamily == told.procFamily && known.cpuNr == told.cpuNr;
+  if ((told.allowedConnections & kBare) != 0) return Processor();
+  const auto found = std::ranges::find_if(m_content->records(), [&](const ProcessorInfoImp* known) {
+    return known->procFamily == told.procFamily && known->cpuNr == told.cpuNr;
   });
-  const bool isBare = (told.allowedConnections & kBare) != 0;
-  return isBare || found == processors().end() ? Processor() : *found;
+  return found != m_content->records().end() ? processor_of(**found) : Processor();
 }
 
 // --- Configuration ---

@@ -61,7 +61,7 @@ class SDKDEBUGDIALOG_API Design {
   // Every processor, debuggable or not, in the order of discovery.
   const std::vector<std::string>& names() const;
   // Those that can be debugged.
-  const std::vector<Processor>& processors() const;
+  std::vector<Processor> processors() const;
   // ErrorCode::noSuchProcessor, with the nearest name.
   Expected<Processor> find(std::string_view name) const;
   // The first one of the family and number that a connect command tells; one without a name when there is none.
@@ -69,6 +69,8 @@ class SDKDEBUGDIALOG_API Design {
   Expected<Processor> identify(std::string_view command) const;
 
  private:
+  Processor processor_of(const ProcessorInfoImp& record) const;
+
   struct Content;
   std::shared_ptr<const Content> m_content;
 };
