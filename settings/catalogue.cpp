@@ -233,7 +233,10 @@ std::string set_sim_port(const SettingRow& /*row*/, State& s, const SettingValue
   return {};
 }
 
+constexpr const char* kNoColon = "it must not have a colon, which separates host and port";
+
 std::string set_sim_host(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  if (text_of(value).find(':') != std::string::npos) return kNoColon;
   s.processor.simHost = text_of(value);
   if (s.processor.simHost.empty()) s.processor.simPort = 0;
   return {};
@@ -248,6 +251,12 @@ std::string set_accuracy(const SettingRow& /*row*/, State& s, const SettingValue
 std::string set_configured(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
   s.processor.vpConfigured = std::get<bool>(value) ? 1 : 0;
   if (s.processor.vpConfigured == 0) s.processor.vpCycleApproximate = 0;
+  return {};
+}
+
+std::string set_hdl_host(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+  if (text_of(value).find(':') != std::string::npos) return kNoColon;
+  s.processor.modelSimHost = text_of(value);
   return {};
 }
 
@@ -531,7 +540,7 @@ std::vector<Entry> make_entries() {
           "The hardware is run by a hardware-description-language simulator.", flag, &P::modelSimEnabled, kHdlSimulator,
           {.follows = "hardware-simulator-host hardware-simulator-port", .set = set_hdl_simulator}),
       row("hardware-simulator", "hardware-simulator-host", "Host", "Host on which the hardware simulator runs.", text,
-          &P::modelSimHost, kWithHdlSimulator),
+          &P::modelSimHost, kWithHdlSimulator, {.set = set_hdl_host}),
       row("hardware-simulator", "hardware-simulator-port", "Port", "Port of the hardware simulator.", number,
           &P::modelSimPort, kWithHdlSimulator, {.max = kMaxPort, .get = get_port<&P::modelSimPort>}),
 

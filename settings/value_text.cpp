@@ -105,62 +105,83 @@ Error no_value(const Setting& setting, std::string_view text) {
   return {ErrorCode::invalidValue, std::string(setting.name) + ": expected " + accepted(setting) + hint, {}};
 }
 
-std::optional<SettingValue> parse_word(const Setting& setting, std::string_view text) {
+// The word's own spelling; empty when there is no such word.
+std::string parse_word(const Setting& setting, std::string_view text) {
   for (const SettingWord& word : row_of(setting).words) {
     if (same_word(word.name, text)) return std::string(word.name);
   }
-  if (setting.name != "cable") return std::nullopt;
+  if (setting.name != "cable") return {};
   // A type of cable may have several names.
   for (const CableType& type : cable_types()) {
     for (const Name& name : type.names) {
       if (same_word(name.text(), text)) return std::string(type.names.back().text());
     }
   }
-  return std::nullopt;
+  return {};
 }
 
-std::optional<SettingValue> parse(const Setting& setting, std::string_view text) {
+bool parse_flag(std::string_view text, SettingValue& value) {
   constexpr std::string_view kOn[] = {"on", "yes", "true", "1"};
   constexpr std::string_view kOff[] = {"off", "no", "false", "0"};
   const auto is = [&](std::string_view word) { return same_word(word, text); };
+  const bool isOn = std::ranges::any_of(kOn, is);
+  value = isOn;
+  return isOn || std::ranges::any_of(kOff, is);
+}
+
+bool parse_words(const Setting& setting, std::string_view text, SettingValue& value) {
+  std::vector<std::string> names;
+  for (const std::string_view part : split(text, ',')) {
+    const std::size_t begin = std::min(part.find_first_not_of(' '), part.size());
+    names.push_back(parse_word(setting, part.substr(begin)));
+    if (names.back().empty()) return text.empty();
+  }
+  value = std::move(names);
+  return true;
+}
+
+bool parse_devices(std::string_view text, SettingValue& value) {
+  std::vector<JtagOption> chain;
+  if (!text.empty() && !same_word(text, "none")) {
+    for (const std::string_view part : split(text, ':')) {
+      if (!parse_device(part, chain.emplace_back())) return false;
+    }
+  }
+  value = std::move(chain);
+  return true;
+}
+
+// False, with value as it happens to be, for a text that is no value.
+bool parse(const Setting& setting, std::string_view text, SettingValue& value) {
   switch (setting.kind) {
     case SettingKind::flag:
-      if (std::ranges::any_of(kOn, is)) return true;
-      if (std::ranges::any_of(kOff, is)) return false;
-      return std::nullopt;
+      return parse_flag(text, value);
     case SettingKind::address:
-      if (text.empty() || is("none") || is("unset")) return SettingValue();
+      if (text.empty() || same_word(text, "none") || same_word(text, "unset")) return true;
       [[fallthrough]];
     case SettingKind::number:
     case SettingKind::frequency:
     case SettingKind::size: {
       const auto number = parse_number(text, scale_of(setting), setting.unit);
-      return number ? std::optional<SettingValue>(*number) : std::nullopt;
+      value = number.value_or(0);
+      return number.has_value();
     }
     case SettingKind::text:
-      return std::string(text);
-    case SettingKind::word:
-      return parse_word(setting, text);
-    case SettingKind::words: {
-      std::vector<std::string> names;
-      if (text.empty()) return names;
-      for (const std::string_view part : split(text, ',')) {
-        const auto word = parse_word(setting, part.substr(std::min(part.find_first_not_of(' '), part.size())));
-        if (!word) return std::nullopt;
-        names.push_back(std::get<std::string>(*word));
-      }
-      return names;
+      value = std::string(text);
+      return true;
+    case SettingKind::word: {
+      std::string word = parse_word(setting, text);
+      const bool isWord = !word.empty();
+      value = std::move(word);
+      return isWord;
     }
-    case SettingKind::devices: {
-      std::vector<JtagOption> chain;
-      if (text.empty() || is("none")) return chain;
-      for (const std::string_view part : split(text, ':')) {
-        if (!parse_device(part, chain.emplace_back())) return std::nullopt;
-      }
-      return chain;
-    }
+    case SettingKind::words:
+      value = std::vector<std::string>();
+      return parse_words(setting, text, value);
+    case SettingKind::devices:
+      return parse_devices(text, value);
   }
-  return std::nullopt;
+  return false;
 }
 
 }  // namespace
@@ -182,8 +203,9 @@ std::string value_text(const Setting& setting, const SettingValue& value) {
 }
 
 Expected<SettingValue> parse_value(const Setting& setting, std::string_view text) {
-  if (auto value = parse(setting, text)) return std::move(*value);
-  return no_value(setting, text);
+  SettingValue value;
+  if (!parse(setting, text, value)) return no_value(setting, text);
+  return value;
 }
 
 }  // namespace SdkDebugDialog
