@@ -1,38 +1,78 @@
 // qvtcfg cables
 
+#include <iterator>
+#include <sstream>
+
 #include "SdkDebugDialog/CableCatalogue.h"
-#include "catalogue.h"
+#include "SdkDebugDialog/Configuration.h"
 #include "command_line.h"
 #include "output.h"
-#include "words.h"
+#include "text.h"
 
 namespace qvtcfg {
 namespace {
 
+using SdkDebugDialog::Configuration;
 using SdkDebugDialog::Engine;
+using SdkDebugDialog::find_setting;
+using SdkDebugDialog::TextKind;
+
+// The names of Engine::CableType.
+constexpr const char* kNames[] = {
+    "none",          "zarvek_svffile",  "zarvek_parallel4", "zarvek_platformusb", "zarvek_parallel3",
+    "zarvek_plugin", "digilent_plugin", "zarvek_tcf"};
 
 struct Cable {
   unsigned int type;
-  const char* name;
+  std::string name;
+  bool written;
   unsigned int frequency;
   std::string port;
   std::vector<unsigned int> frequencies;
 };
 
-Cable described(const Word& word) {
-  const auto type = static_cast<Engine::CableType>(word.value);
-  return {word.value, word.name, SdkDebugDialog::setcable_default_frequency(type),
-          SdkDebugDialog::setcable_default_port(type), offered_frequencies(type)};
+std::vector<unsigned int> frequencies_of(Engine::CableType type) {
+  std::istringstream list(SdkDebugDialog::getcable_supported_frequency(type));
+  std::vector<unsigned int> frequencies;
+  for (unsigned int frequency = 0; list >> frequency;) {
+    if (frequency != 0) frequencies.push_back(frequency);
+  }
+  return frequencies;
+}
+
+// No cable is a choice that needs no words.
+bool is_written(const std::string& name) {
+  Configuration configuration;
+  if (!configuration.set("cable", name)) return false;
+  configuration.set("module", "any");  // only a plug-in cable has one, and needs it
+  return name == "none" || configuration.state(*find_setting("cable")).written;
+}
+
+Cable described(unsigned int number) {
+  const auto type = static_cast<Engine::CableType>(number);
+  return {number,
+          kNames[number],
+          is_written(kNames[number]),
+          SdkDebugDialog::setcable_default_frequency(type),
+          SdkDebugDialog::setcable_default_port(type),
+          frequencies_of(type)};
 }
 
 std::vector<std::string> row(const Cable& cable) {
-  return {std::to_string(cable.type), cable.name, cable.frequency != 0 ? std::to_string(cable.frequency) : "-",
-          cable.port.empty() ? "-" : cable.port, cable.frequencies.empty() ? "-" : listed(cable.frequencies, " ")};
+  std::vector<std::string> frequencies;
+  for (const unsigned int frequency : cable.frequencies) frequencies.push_back(std::to_string(frequency));
+  return {std::to_string(cable.type),
+          cable.name,
+          cable.written ? "yes" : "no",
+          cable.frequency != 0 ? std::to_string(cable.frequency) : "-",
+          cable.port.empty() ? "-" : cable.port,
+          frequencies.empty() ? "-" : join(frequencies, " ")};
 }
 
 Json member(const Cable& cable) {
   return {{"type", cable.type},
           {"name", cable.name},
+          {"written", cable.written},
           {"frequency", cable.frequency != 0 ? Json(cable.frequency) : Json()},
           {"port", cable.port.empty() ? Json() : Json(cable.port)},
           {"frequencies", cable.frequencies}};
@@ -40,16 +80,21 @@ Json member(const Cable& cable) {
 
 }  // namespace
 
-void run_cables(const Arguments& arguments, Output& out) {
-  if (arguments.json) {
-    Json list = Json::array();
-    for (const Word& word : kCables) list.push_back(member(described(word)));
-    out.json({{"cables", list}});
-    return;
+ExitCode run_cables(const Arguments& arguments, Output& out) {
+  Json list = Json::array();
+  std::vector<std::vector<std::string>> rows = {
+      {"TYPE", "NAME", "WRITTEN", "FREQUENCY", "PORT", "SUPPORTED FREQUENCIES (Hz)"}};
+  for (unsigned int type = 0; type < std::size(kNames); ++type) {
+    const Cable cable = described(type);
+    rows.push_back(row(cable));
+    list.push_back(member(cable));
   }
-  std::vector<std::vector<std::string>> rows = {{"TYPE", "NAME", "FREQUENCY", "PORT", "SUPPORTED FREQUENCIES (Hz)"}};
-  for (const Word& word : kCables) rows.push_back(row(described(word)));
-  out.table(rows);
+  if (arguments.json) {
+    out.json({{"cables", list}});
+  } else {
+    out.table(rows);
+  }
+  return kDone;
 }
 
 }  // namespace qvtcfg

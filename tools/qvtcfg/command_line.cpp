@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <span>
 
+#include "changes.h"
 #include "failure.h"
-#include "keys.h"
 #include "output.h"
 #include "text.h"
 
@@ -13,11 +13,29 @@ namespace qvtcfg {
 namespace {
 
 // Arguments and options that several subcommands use.
+void take_all_settings(CLI::App& app, Arguments& a) {
+  app.add_flag("--all", a.all, "Show also the settings that do not apply, and why");
+}
+
+void take_force(CLI::App& app, Arguments& a) {
+  app.add_flag("--force", a.force, "Store also what loses something or is not read back");
+}
+
+// How option files are changed.
+void take_change_options(CLI::App& app, Arguments& a) {
+  take_force(app, a);
+  CLI::Option* const dry_run = app.add_flag("--dry-run", a.dry_run, "Show what would change and store nothing");
+  app.add_flag("--exit-code", a.exit_code, "Exit with 5 when something would change")->needs(dry_run);
+}
+
 CLI::Option& take_processor(CLI::App& app, Arguments& a) {
   return *app.add_option("PROC", a.processor, "Name of a processor of the design")->required()->type_name("");
 }
 
-void take_write(CLI::App& app, Arguments& a) { app.add_flag("--write", a.write, "Store the option file"); }
+void take_write(CLI::App& app, Arguments& a) {
+  app.add_flag("--write", a.write, "Store the option file");
+  take_force(app, a);
+}
 
 void take_changed(CLI::App& app, Arguments& a) {
   app.add_flag("--changed", a.changed_only, "Show only what differs from its default");
@@ -41,6 +59,7 @@ void take_program(CLI::App& app, Arguments& a) {
 void take_show(CLI::App& app, Arguments& a) {
   take_processor(app, a);
   take_changed(app, a);
+  take_all_settings(app, a);
 }
 
 void take_command(CLI::App& app, Arguments& a) {
@@ -59,18 +78,43 @@ void take_read(CLI::App& app, Arguments& a) {
   app.validate_positionals();
   take_text(app, a, "The connect command, in quotes; - for standard input");
   take_changed(app, a);
+  take_all_settings(app, a);
   take_write(app, a);
 }
 
+void take_processors_and(CLI::App& app, Arguments& a, const char* what, const char* description) {
+  app.add_option("PROC", a.operands, description)->type_name(what);
+  app.add_flag("--all", a.all, "All processors to which every setting given applies");
+  take_change_options(app, a);
+}
+
 void take_set(CLI::App& app, Arguments& a) {
-  take_processor(app, a);
-  app.add_option("CHANGE", a.changes, "KEY=VALUE, see the keys below")->required()->type_name("");
-  app.add_flag("--dry-run", a.dry_run, "Show what would change and store nothing");
+  take_processors_and(app, a, "KEY=VALUE",
+                      "Names of processors of the design, then changes, see the keys below; KEY= for the default");
+}
+
+void take_unset(CLI::App& app, Arguments& a) {
+  take_processors_and(app, a, "NAME",
+                      "Names of processors of the design, then of settings to be put back to their defaults");
+}
+
+void take_copy(CLI::App& app, Arguments& a) {
+  app.add_option("FROM", a.processor, "Name of the processor that has the settings")->required()->type_name("");
+  app.add_option("TO", a.operands, "Names of the processors that get them")->required()->type_name("");
+  take_change_options(app, a);
+}
+
+void take_diff(CLI::App& app, Arguments& a) {
+  app.add_option("A", a.text, "A processor, the path of an option file, a connect command in quotes, or - for one")
+      ->required()
+      ->type_name("");
+  app.add_option("B", a.diff_with, "The same; without it, the defaults of A come first")->type_name("");
 }
 
 void take_cable_parse(CLI::App& app, Arguments& a) {
   take_text(app, a, "The options of cable and chain, in quotes; - for standard input");
   take_changed(app, a);
+  take_all_settings(app, a);
 }
 
 void take_cable_format(CLI::App& app, Arguments& a) {
@@ -90,7 +134,8 @@ void take_cable_format(CLI::App& app, Arguments& a) {
 }
 
 std::string program_help() {
-  return "Exit codes: 0 done, 1 refused, 2 usage, 3 text not understood, 4 file\n\n"
+  return "Exit codes: 0 done, 1 refused, 2 usage, 3 text not understood, 4 file,\n"
+         "5 diff found a difference, or --dry-run --exit-code that something would change\n\n"
          "A design is a JSON file: docs/design-file.md describes it, and the schema design-file.schema.json is\n"
          "installed in share/SdkDebugDialog.";
 }
@@ -119,14 +164,17 @@ constexpr Command kCableCommands[] = {
 
 constexpr Command kCommands[] = {
     {"processors", "List the processors of the design", "qvtcfg -C my_board processors", take_nothing, run_processors},
-    {"show", "Show every setting of a processor, as its option file has it", "qvtcfg show cpu0 --changed", take_show,
+    {"show", "Show the settings of a processor, as its option file has them", "qvtcfg show cpu0 --changed", take_show,
      run_show},
     {"command", "Print the connect command of a processor", "qvtcfg command cpu0", take_command, run_command},
     {"read", "Show what a connect command means, for a processor or by itself",
      "qvtcfg read cpu0 'connect ov odm -cable type zarvek_platformusb' --write", take_read, run_read},
-    {"set", "Change settings of a processor and store its option file",
-     "qvtcfg set cpu0 cable=zarvek_platformusb frequency=12000000 debug-device=2 --dry-run", take_set, run_set,
-     keys_help},
+    {"set", "Change settings of processors and store their option files",
+     "qvtcfg set cpu0 cable=zarvek_platformusb frequency=12M debug-device=2 --dry-run", take_set, run_set, keys_help},
+    {"unset", "Put settings of a processor back to their defaults", "qvtcfg unset cpu0 bscan devices", take_unset,
+     run_unset},
+    {"copy", "Copy the settings of a processor to others", "qvtcfg copy cpu0 cpu1 cpu2 --dry-run", take_copy, run_copy},
+    {"diff", "Compare settings", "qvtcfg diff cpu0 'connect ov sim'", take_diff, run_diff},
     {"cables", "List the cables that are known", "qvtcfg --json cables", take_nothing, run_cables},
     {"cable", "Read and write the options of cable and chain, without a design",
      "qvtcfg cable format --type zarvek_platformusb", take_nothing, nullptr, nullptr, kCableCommands,
@@ -230,12 +278,19 @@ Failure usage(const CLI::App& program, const std::string& text) {
   return {kUsage, text + "; see 'qvtcfg " + chosen_command(program).name + "--help'"};
 }
 
+std::string suggestion(std::string_view name, const Command& command) {
+  std::vector<std::string_view> names;
+  for (const Command& c : commands_of(command)) names.emplace_back(c.name);
+  const std::string_view nearest = SdkDebugDialog::nearest_name(name, names);
+  return nearest.empty() ? "" : " (did you mean '" + std::string(nearest) + "'?)";
+}
+
 // The error for the first argument that was not parsed.
 std::string why_left_over(const std::string& argument, const Command& command) {
   const std::string quoted = " '" + one_line(argument) + "'";
   if (argument.starts_with('-')) return "unknown option" + quoted;
   if (command.run != nullptr) return "unexpected argument" + quoted;
-  return "unknown command" + quoted + suggestion(argument, names_of_commands(command));
+  return "unknown command" + quoted + suggestion(argument, command);
 }
 
 Run chosen_run(const CLI::App& program) {

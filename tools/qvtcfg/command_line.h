@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "failure.h"
+
 namespace qvtcfg {
 
 class Output;
@@ -22,28 +24,35 @@ struct Arguments {
   std::optional<std::string> design;  // path of the design file; not set: the default path
   bool json = false;
   std::optional<std::string> processor;
-  std::string text;                  // for read and cable parse
-  std::vector<std::string> changes;  // for set
+  std::vector<std::string> operands;     // processors and changes for set and unset; the last processors of copy
+  std::string text;                      // for read and cable parse; the first argument of diff
+  std::optional<std::string> diff_with;  // its second one
   CableArguments cable;
+  bool all = false;  // settings for show, processors for set
   bool changed_only = false;
   bool write = false;
   bool dry_run = false;
+  bool exit_code = false;
+  bool force = false;
 
   // A path relative to the working directory (-C), as seen from the directory where qvtcfg was started.
   std::string seen_from_outside(const std::string& path) const;
 };
 
-// The subcommands.
-void run_processors(const Arguments& arguments, Output& out);
-void run_show(const Arguments& arguments, Output& out);
-void run_command(const Arguments& arguments, Output& out);
-void run_read(const Arguments& arguments, Output& out);
-void run_set(const Arguments& arguments, Output& out);
-void run_cables(const Arguments& arguments, Output& out);
-void run_cable_parse(const Arguments& arguments, Output& out);
-void run_cable_format(const Arguments& arguments, Output& out);
+// The subcommands. They throw Failure.
+ExitCode run_processors(const Arguments& arguments, Output& out);
+ExitCode run_show(const Arguments& arguments, Output& out);
+ExitCode run_command(const Arguments& arguments, Output& out);
+ExitCode run_read(const Arguments& arguments, Output& out);
+ExitCode run_set(const Arguments& arguments, Output& out);
+ExitCode run_unset(const Arguments& arguments, Output& out);
+ExitCode run_copy(const Arguments& arguments, Output& out);
+ExitCode run_diff(const Arguments& arguments, Output& out);
+ExitCode run_cables(const Arguments& arguments, Output& out);
+ExitCode run_cable_parse(const Arguments& arguments, Output& out);
+ExitCode run_cable_format(const Arguments& arguments, Output& out);
 
-using Run = void (*)(const Arguments&, Output&);
+using Run = ExitCode (*)(const Arguments&, Output&);
 
 // Fills the arguments and returns the function to run. Returns null after printing help or version to out. Throws
 // Failure for an invalid command line.

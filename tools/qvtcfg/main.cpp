@@ -1,14 +1,17 @@
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <exception>
+#include <string_view>
 
 #include "command_line.h"
 #include "failure.h"
 #include "output.h"
 #include "platform/ComMsgMgr.h"
+#include "print.h"
 #include "text.h"
 
 namespace qvtcfg {
@@ -28,14 +31,45 @@ void enter(const std::string& directory) {
   throw Failure(kFile, one_line(directory) + ": " + std::strerror(errno) + "; -C needs a folder");
 }
 
-void run(int argc, const char* const* argv) {
+ExitCode run(int argc, const char* const* argv) {
   Output out;
   Arguments arguments;
+  ExitCode code = kDone;
   if (const Run command = parse_command_line(argc, argv, arguments, out)) {
     enter(arguments.directory);
-    command(arguments, out);
+    code = command(arguments, out);
   }
   out.flush();
+  return code;
+}
+
+// Also for a command line that cannot be parsed.
+bool wants_json(int argc, const char* const* argv) {
+  const auto* const end = std::find(argv, argv + argc, std::string_view("--"));
+  return std::find(argv, end, std::string_view("--json")) != end;
+}
+
+void print_json(const Failure& failure) {
+  Json error = {
+      {"code", failure.code()}, {"message", one_line(failure.what())}, {"losses", losses_json(failure.losses())}};
+  if (!failure.engine_text().empty()) error["note"] = one_line(failure.engine_text());
+  Output out;
+  out.json({{"error", std::move(error)}});
+  out.flush();
+}
+
+ExitCode report(const Failure& failure, bool json) {
+  complain(failure.what());
+  if (!failure.engine_text().empty()) complain("note: the engine says: " + one_line(failure.engine_text()));
+  for (const auto& loss : failure.losses()) {
+    std::fprintf(stderr, "  %s: %s\n", one_line(loss.what).c_str(), one_line(loss.why).c_str());
+  }
+  try {
+    if (json) print_json(failure);
+  } catch (const Failure&) {
+    // Standard output cannot be used; the error is on standard error.
+  }
+  return failure.code();
 }
 
 }  // namespace
@@ -43,15 +77,13 @@ void run(int argc, const char* const* argv) {
 
 int main(int argc, char** argv) {
   ComMsgMgr::setSink(qvtcfg::ignore_message);
+  const bool json = qvtcfg::wants_json(argc, argv);
   try {
-    qvtcfg::run(argc, argv);
-    return qvtcfg::kDone;
+    return qvtcfg::run(argc, argv);
   } catch (const qvtcfg::Failure& failure) {
-    qvtcfg::complain(failure.what());
-    return failure.code();
+    return qvtcfg::report(failure, json);
   } catch (const std::exception& error) {
     // Other system errors, such as no memory or no working directory.
-    qvtcfg::complain(error.what());
-    return qvtcfg::kFile;
+    return qvtcfg::report(qvtcfg::Failure(qvtcfg::kFile, error.what()), json);
   }
 }

@@ -1,95 +1,154 @@
 // qvtcfg show, command and read
 
+#include <optional>
+
 #include "command_line.h"
 #include "failure.h"
 #include "given_text.h"
 #include "output.h"
+#include "print.h"
 #include "session.h"
-#include "settings.h"
 #include "text.h"
 
 namespace qvtcfg {
 namespace {
 
-// Where the settings come from: a description for text output, and the path of the option file, or null, for JSON.
+using SdkDebugDialog::Configuration;
+using SdkDebugDialog::Design;
+using SdkDebugDialog::Edit;
+using SdkDebugDialog::ErrorCode;
+using SdkDebugDialog::OnLoss;
+using SdkDebugDialog::Processor;
+using SdkDebugDialog::TextKind;
+
+// Where the settings come from.
 struct Source {
-  std::string name;
-  Json file;
+  std::string name;     // for text output
+  Json file;            // the path of the option file, or null
+  std::string command;  // empty: none
 };
 
-void show_settings(const Arguments& arguments, const Session& session, const Source& source, Output& out) {
-  const std::string& processor = session.processor();
-  const std::string& command = session.state().currentProcessor->command;
-  const Settings settings = settings_of(session.state());
-  const Choice choice{.changed_only = arguments.changed_only};
+void show_settings(const Arguments& arguments, const Configuration& configuration, const Source& source, Output& out) {
+  const std::string& processor = configuration.processor().name();
+  const Choice choice{.changed_only = arguments.changed_only, .all = arguments.all};
   if (arguments.json) {
     out.json({{"processor", processor.empty() ? Json() : Json(processor)},
               {"file", source.file},
-              {"command", command.empty() ? Json() : Json(command)},
-              {"settings", settings_json(settings, choice)}});
+              {"command", source.command.empty() ? Json() : Json(source.command)},
+              {"settings", settings_json(configuration, choice)}});
     return;
   }
   const std::string name = processor.empty() ? "no processor of a design," : processor;
   out.line(out.styled(Style::kHeading, name) + visible(" as in " + source.name));
-  if (!command.empty()) out.line(visible(command));
-  print_settings(settings, choice, out);
+  if (!source.command.empty()) out.line(visible(source.command));
+  print_settings(configuration, choice, out);
 }
 
-void write_if_asked(const Arguments& arguments, Session& session, Output& out) {
-  out.flush();  // first, so that an output error leaves the option file unchanged
-  if (arguments.write) session.write_option_file();
+// Stores what was found safe. Text is printed before, so that an output error leaves the file unchanged.
+void store(Configuration& configuration, const Edit& edit, const OptionFile& file, const Arguments& arguments,
+           Output& out) {
+  if (!arguments.json) out.flush();
+  make_folder(file, arguments);
+  require(configuration.store(edit, file.path, OnLoss::goOn), file.shown, "", file.path);
 }
 
-// Reads a command without a processor name. Before it is written, it is read again for the processor that was found:
-// this checks that the processor allows its connection.
-void read_alone(const Arguments& arguments, Session& session, const GivenText& command) {
-  session.identify(command);
-  if (!arguments.write) return;
-  if (session.processor().empty()) {
-    throw Failure(kRefused, std::string("--write: ") +
-                                (session.has_design() ? "the command is for no processor of the design; name one: "
-                                                        "'qvtcfg processors' lists the processors"
-                                                      : "there is no design to find its processor in; "
-                                                        "--design FILE names one"));
-  }
-  session.read_command(command);
+// The option file to be replaced, so that it is replaced only as it is now; the settings given if nobody understands
+// what is in it.
+Configuration to_replace(const Configuration& given, const OptionFile& file) {
+  const auto present = Configuration::open(given.processor(), file.path);
+  if (present) return *present;
+  if (present.error().code != ErrorCode::notUnderstood) throw Failure(present.error(), file.shown, "", file.path);
+  return given;
+}
+
+std::string advice_for(const Processor& processor) {
+  const std::string name = processor.name().empty() ? "PROC" : processor.name();
+  return "; 'qvtcfg command " + name + "' prints one that is understood";
+}
+
+// The settings of a command. Without a processor on the command line, and if they are not to be stored, it need not
+// suit the processor that it tells.
+Configuration read_command(const Processor& processor, const GivenText& given, const Arguments& arguments) {
+  auto configuration = Configuration::read(processor, given.text);
+  if (!configuration && !arguments.processor && !arguments.write) configuration = Configuration::read({}, given.text);
+  return require(std::move(configuration), given.source, advice_for(processor));
+}
+
+// What is stored, as it is read back; as it was given if it is not read back.
+Configuration stored(const Configuration& given, const Edit& edit) {
+  auto read_back = Configuration::read(given.processor(), edit.text, TextKind::optionFile);
+  return read_back ? std::move(*read_back) : given;
+}
+
+Processor processor_of(const Arguments& arguments, const std::optional<Design>& design, const GivenText& command) {
+  if (arguments.processor) return find_processor(*design, *arguments.processor);
+  if (!design) return {};
+  return require(design->identify(command.text), command.source, advice_for({}));
+}
+
+void require_processor(const Processor& processor, bool has_design) {
+  if (!processor.name().empty()) return;
+  throw Failure(kRefused, std::string("--write: ") +
+                              (has_design ? "the command is for no processor of the design; name one: "
+                                            "'qvtcfg processors' lists the processors"
+                                          : "there is no design to find its processor in; --design FILE names one"));
 }
 
 }  // namespace
 
-void run_show(const Arguments& arguments, Output& out) {
-  Session session(arguments);
-  const std::string& file = session.option_file_name();
-  const bool exists = session.read_option_file(Purpose::kShow).exists;
-  show_settings(arguments, session, exists ? Source{file, file} : Source{"the defaults (no " + file + ")", Json()},
-                out);
+ExitCode run_show(const Arguments& arguments, Output& out) {
+  const Processor processor = find_processor(load_design(arguments), *arguments.processor);
+  const OptionFile file = option_file_of(processor, arguments);
+  const Configuration configuration = open_configuration(processor, file);
+  const Source source = file.content ? Source{file.shown, file.shown, command_in(*file.content)}
+                                     : Source{"the defaults (no " + file.shown + ")", Json(), ""};
+  show_settings(arguments, configuration, source, out);
+  return kDone;
 }
 
-void run_command(const Arguments& arguments, Output& out) {
-  Session session(arguments);
-  session.read_option_file(arguments.write ? Purpose::kChange : Purpose::kShow);
-  const std::string command = session.command();
-  if (arguments.json) {
-    out.json({{"processor", session.processor()}, {"command", command}});
-  } else {
+ExitCode run_command(const Arguments& arguments, Output& out) {
+  const Processor processor = find_processor(load_design(arguments), *arguments.processor);
+  const OptionFile file = option_file_of(processor, arguments);
+  Configuration configuration = open_configuration(processor, file);
+  const std::string command = require(configuration.command(), processor.name(), kChangeCable);
+  if (arguments.write) {
+    const Edit edit = require(configuration.written_anew(), processor.name(), kChangeCable);
+    require_safe(edit, file, arguments.force);
+    if (!arguments.json) out.line(visible(command));
+    store(configuration, edit, file, arguments, out);
+  } else if (!arguments.json) {
     out.line(visible(command));
   }
-  write_if_asked(arguments, session, out);
+  if (arguments.json) out.json({{"processor", processor.name()}, {"command", command}});
+  return kDone;
 }
 
-void run_read(const Arguments& arguments, Output& out) {
-  const GivenText command = given_text(arguments.text, "the command given");
-  const bool named = arguments.processor.has_value();
-  Session session(arguments, named ? Need::kDesign : Need::kDesignIfAny);
-  if (named) {
-    session.read_command(command);
-  } else {
-    read_alone(arguments, session, command);
+ExitCode run_read(const Arguments& arguments, Output& out) {
+  const GivenText given = given_text(arguments.text, "the command given");
+  const std::optional<Design> design = arguments.processor ? load_design(arguments) : load_design_if_any(arguments);
+  require_text(given);
+  const Processor processor = processor_of(arguments, design, given);
+  if (arguments.write) require_processor(processor, design.has_value());
+  const Configuration configuration = read_command(processor, given, arguments);
+  if (!arguments.write) {
+    show_settings(arguments, configuration, {given.source, Json(), given.text}, out);
+    return kDone;
   }
-  const Json file = arguments.write ? Json(session.option_file_name()) : Json();
-  show_settings(arguments, session, {command.source, file}, out);
-  write_if_asked(arguments, session, out);
-  if (arguments.write && !arguments.json) out.line(visible("written to " + session.option_file_name()));
+  const OptionFile file = option_file_of(processor, arguments);
+  const Edit edit = require(configuration.for_file(), given.source, kChangeCable);
+  require_safe(edit, file, arguments.force);
+  Configuration replaced = to_replace(configuration, file);
+  const auto show = [&] {
+    show_settings(arguments, stored(configuration, edit), {given.source, file.shown, command_in(edit.text)}, out);
+  };
+  if (!arguments.json) show();
+  store(replaced, edit, file, arguments, out);
+  if (arguments.json) {
+    show();
+  } else {
+    out.line(visible("written to " + file.shown));
+  }
+  return kDone;
 }
 
 }  // namespace qvtcfg

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <numeric>
 
 namespace qvtcfg {
 namespace {
@@ -37,22 +36,6 @@ std::size_t character_length(std::string_view text) {
     if (!is_continuation(byte_at(text, i))) return 0;
   }
   return row->length;
-}
-
-// Levenshtein distance.
-std::size_t distance(std::string_view a, std::string_view b) {
-  std::vector<std::size_t> row(b.size() + 1);
-  std::iota(row.begin(), row.end(), std::size_t{0});
-  for (std::size_t i = 1; i <= a.size(); ++i) {
-    std::size_t diagonal = row[0];
-    row[0] = i;
-    for (std::size_t j = 1; j <= b.size(); ++j) {
-      const std::size_t replaced = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
-      diagonal = row[j];
-      row[j] = std::min({replaced, row[j] + 1, row[j - 1] + 1});
-    }
-  }
-  return row.back();
 }
 
 }  // namespace
@@ -109,16 +92,6 @@ std::vector<std::string> split_words(std::string_view text) {
   return words;
 }
 
-std::vector<std::string> split_at(std::string_view text, char separator) {
-  std::vector<std::string> items;
-  for (std::size_t end = text.find(separator); end != std::string_view::npos; end = text.find(separator)) {
-    items.emplace_back(text.substr(0, end));
-    text.remove_prefix(end + 1);
-  }
-  items.emplace_back(text);
-  return items;
-}
-
 std::string join(const std::vector<std::string>& items, std::string_view separator) {
   std::string out;
   for (const std::string& item : items) {
@@ -128,19 +101,10 @@ std::string join(const std::vector<std::string>& items, std::string_view separat
   return out;
 }
 
-std::string suggestion(std::string_view name, const std::vector<std::string>& candidates) {
-  constexpr std::size_t kResembles = 2;  // largest distance
-  constexpr std::size_t kLongestName = 64;
-  if (name.size() > kLongestName) return "";
-  std::size_t best = kResembles + 1;
-  std::string found;
-  for (const std::string& candidate : candidates) {
-    const std::size_t apart = distance(name, candidate);
-    if (apart >= best || apart >= candidate.size()) continue;
-    best = apart;
-    found = candidate;
-  }
-  return found.empty() ? "" : " (did you mean '" + found + "'?)";
+std::string hex_text(std::uint32_t value) {
+  char text[11];
+  std::snprintf(text, sizeof text, "0x%08x", value);
+  return text;
 }
 
 }  // namespace qvtcfg

@@ -3,6 +3,7 @@
 // Text for a terminal, and helpers for splitting and joining.
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,12 +26,9 @@ std::optional<std::size_t> first_non_text(std::string_view text);
 // Splits at runs of blanks and tabs.
 std::vector<std::string> split_words(std::string_view text);
 
-// Splits at every separator; the result has at least one item, and items can be empty.
-std::vector<std::string> split_at(std::string_view text, char separator);
-
 std::string join(const std::vector<std::string>& items, std::string_view separator = ", ");
 
-// " (did you mean 'x'?)" with the candidate most similar to the name; empty when none is similar.
-std::string suggestion(std::string_view name, const std::vector<std::string>& candidates);
+// Eight hexadecimal digits after 0x.
+std::string hex_text(std::uint32_t value);
 
 }  // namespace qvtcfg
