@@ -9,23 +9,24 @@ TEST_F(Cables, AreListedWithTheirDefaultsAndFrequencies) {
   EXPECT_EQ(result.code, 0);
   EXPECT_EQ(result.err, "");
   EXPECT_EQ(result.out,
-            "TYPE  NAME                FREQUENCY  PORT   SUPPORTED FREQUENCIES (Hz)\n"
-            "0     none                -          -      -\n"
-            "1     zarvek_svffile      -          -      -\n"
-            "2     zarvek_parallel4    5000000    LPT1   200000 625000 2500000 5000000\n"
-            "3     zarvek_platformusb  6000000    USB21  750000 1500000 3000000 6000000 12000000 24000000\n"
-            "4     zarvek_parallel3    200000     LPT1   200000\n"
-            "5     zarvek_plugin       -          -      -\n"
-            "6     digilent_plugin     -          -      -\n"
-            "7     zarvek_tcf          -          -      -\n");
+            "TYPE  NAME                WRITTEN  FREQUENCY  PORT   SUPPORTED FREQUENCIES (Hz)\n"
+            "0     none                yes      -          -      -\n"
+            "1     zarvek_svffile      no       -          -      -\n"
+            "2     zarvek_parallel4    yes      5000000    LPT1   200000 625000 2500000 5000000\n"
+            "3     zarvek_platformusb  yes      6000000    USB21  750000 1500000 3000000 6000000 12000000 24000000\n"
+            "4     zarvek_parallel3    yes      200000     LPT1   200000\n"
+            "5     zarvek_plugin       yes      -          -      -\n"
+            "6     digilent_plugin     yes      -          -      -\n"
+            "7     zarvek_tcf          no       -          -      -\n");
 }
 
 TEST_F(Cables, AreListedAsJson) {
   const auto cables = json({"cables"})["cables"];
   ASSERT_EQ(cables.size(), 8U);
-  EXPECT_EQ(cables[4], nlohmann::json::parse(R"({"type": 4, "name": "zarvek_parallel3", "frequency": 200000,
+  EXPECT_EQ(cables[4],
+            nlohmann::json::parse(R"({"type": 4, "name": "zarvek_parallel3", "written": true, "frequency": 200000,
                                                  "port": "LPT1", "frequencies": [200000]})"));
-  EXPECT_EQ(cables[7], nlohmann::json::parse(R"({"type": 7, "name": "zarvek_tcf", "frequency": null,
+  EXPECT_EQ(cables[7], nlohmann::json::parse(R"({"type": 7, "name": "zarvek_tcf", "written": false, "frequency": null,
                                                  "port": null, "frequencies": []})"));
 }
 

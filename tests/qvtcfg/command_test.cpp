@@ -35,7 +35,9 @@ TEST_F(Command, ThatCannotBeWrittenIsRefusedWithTheEnginesText) {
   const Result result = qvtcfg({"command", "ovrin_0", "--write"});
   EXPECT_EQ(result.code, 1);
   EXPECT_EQ(result.out, "");
-  EXPECT_THAT(result.err, IsComplaint("ovrin_0: Invalid Cable Type; no connect command can be written"));
+  EXPECT_THAT(
+      result.err,
+      IsComplaint("ovrin_0: no connect command can be written for these settings; change the connection or the cable"));
   EXPECT_EQ(read_option_file("ovrin_0"), "connect ov odm -cable type zarvek_tcf");
 }
 
@@ -43,14 +45,14 @@ TEST_F(Command, OfAnUnknownProcessorIsRefused) {
   const Result result = qvtcfg({"command", "ovrin_9"});
   EXPECT_EQ(result.code, 1);
   EXPECT_EQ(result.err,
-            "qvtcfg: Processor Instance ovrin_9 cannot be Debugged !!, Please check Processor Connection in your HWS "
-            "file; 'qvtcfg processors' lists the processors\n");
+            "qvtcfg: the design has no processor 'ovrin_9' (did you mean 'ovrin_0'?); 'qvtcfg processors' lists the "
+            "processors\n");
 }
 
 TEST_F(Command, OfAProcessorThatCannotBeDebuggedIsRefused) {
   const Result result = qvtcfg({"command", "vecdsp_0"});
   EXPECT_EQ(result.code, 1);
-  EXPECT_THAT(result.err, IsComplaint("Processor Instance vecdsp_0 cannot be Debugged !!"));
+  EXPECT_THAT(result.err, IsComplaint("processor 'vecdsp_0' cannot be debugged: "));
 }
 
 TEST_F(Command, OfAProcessorNamedLikeACommandCanBeAskedFor) {
@@ -103,13 +105,13 @@ TEST_F(Read, WhatIsNotUnderstoodIsExplainedInOneLine) {
     const char* text;
     const char* why;
   } kFaults[] = {
-      {"", "the command given: the connect command is not understood"},
-      {"hello", "the command given: the connect command is not understood"},
-      {"connect ov odm -quiet -foo", "the command given: UNKNOWN Option '-foo'"},
-      {"connect ov odm -cable speed 5", "the command given: UNKNOWN Parameter 'speed' for option '-cable'"},
+      {"", "the command given: the text is not understood"},
+      {"hello", "the command given: the text is not understood"},
+      {"connect ov odm -quiet -foo", "note: the engine says: UNKNOWN Option '-foo'"},
+      {"connect ov odm -cable speed 5", "note: the engine says: UNKNOWN Parameter 'speed' for option '-cable'"},
       {"connect ov odm -cable type zarvek_platformusb frequency 1",
-       "the command given: UnSupported Zarvek PlatformUSB Cable Frequency - 1 Supported Frequencies: 750000,"},
-      {"connect ov odm -", "the command given: a lone '-' in place of an option or a value"},
+       "note: the engine says: UnSupported Zarvek PlatformUSB Cable Frequency - 1 Supported Frequencies: 750000,"},
+      {"connect ov odm -", "the command given: a lone '-' stands in the place of an option or a value"},
   };
   for (const auto& fault : kFaults) {
     const Result result = qvtcfg({"read", "ovrin_0", fault.text, "--write"});
@@ -145,21 +147,49 @@ TEST_F(Read, LongTextInMessagesIsCut) {
   EXPECT_THAT(result.err, IsComplaint("UNKNOWN Parameter 'xxx"));
 }
 
-TEST_F(Read, WarnsThatAWrittenCommandCannotBeReadBack) {
-  const Result result = qvtcfg({"read", "ovrin_0", "connect ov odm -configdevice jtagport cpu", "--write"});
-  EXPECT_EQ(result.code, 0);
-  EXPECT_THAT(result.err, IsComplaint("qvtcfg: warning: etc/qvt_ovrin_0.opt: UNKNOWN Parameter 'jtagpin' for option "
-                                      "'-configDevice'; the debugger accepts it"));
-  EXPECT_THAT(read_option_file("ovrin_0"), HasSubstr(" -configdevice jtagpin cpujtag "));
+TEST_F(Read, StoresTheTextByteForByte) {
+  const std::string text = "Connect  ov odm -quiet -configdevice jtagport cpu -debugDevice devicenr 0x2 ";
+  const Result result = qvtcfg({"read", "ovrin_0", text, "--write"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_EQ(result.err, "");
+  EXPECT_EQ(read_option_file("ovrin_0"), text);
+  const std::string shown = qvtcfg({"show", "ovrin_0"}).out;
+  EXPECT_EQ(shown.substr(shown.find('\n')) + "written to etc/qvt_ovrin_0.opt\n",
+            result.out.substr(result.out.find('\n')));
 }
 
-TEST_F(Read, WarnsThatALongCommandIsReadBackInPart) {
-  std::string text = "connect ov odm";
-  for (int i = 1; i <= 30; ++i) text += " -configdevice devicenr " + std::to_string(i);
+TEST_F(Read, StoresAMemorySizeThatIsNeverWritten) {
+  EXPECT_EQ(qvtcfg({"read", "ovrin_0", "connect ov sim -memsize 0x100", "--write"}).code, 0);
+  EXPECT_EQ(read_option_file("ovrin_0"), "connect ov sim -memsize 0x100");
+  EXPECT_THAT(qvtcfg({"show", "ovrin_0"}).out, HasSubstr("\n* memory-size         256\n"));
+}
+
+TEST_F(Read, RefusesToStoreWhatAnOptionFileCannotHold) {
+  std::string text = "connect ov odm -quiet";
+  for (int i = 1; i <= 45; ++i) text += " -configdevice devicenr " + std::to_string(i);
   const Result result = qvtcfg({"read", "ovrin_0", text, "--write"});
-  EXPECT_EQ(result.code, 0);
-  EXPECT_THAT(result.err, IsComplaint("warning: etc/qvt_ovrin_0.opt: the command has "));
-  EXPECT_THAT(read_option_file("ovrin_0"), HasSubstr(" devicenr 30 partname UNKNOWN "));
+  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(result.out, "");
+  EXPECT_THAT(result.err, IsComplaint("qvtcfg: etc/qvt_ovrin_0.opt: the command has "));
+  EXPECT_THAT(result.err, HasSubstr("; --force stores it nevertheless\n"));
+  EXPECT_FALSE(exists("etc/qvt_ovrin_0.opt"));
+
+  const Result forced = qvtcfg({"read", "ovrin_0", text, "--write", "--force"});
+  EXPECT_EQ(forced.code, 0);
+  EXPECT_THAT(forced.err, IsComplaint("qvtcfg: warning: etc/qvt_ovrin_0.opt: the command has "));
+  EXPECT_THAT(read_option_file("ovrin_0"), HasSubstr(" devicenr 45 partname UNKNOWN "));
+}
+
+TEST_F(Command, RefusesToLoseWhatIsNeverWritten) {
+  const std::string file = "connect ov odm -quiet -debugdevice cpu_version 7";
+  write_option_file("ovrin_0", file);
+  const Result result = qvtcfg({"command", "ovrin_0", "--write"});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(result.out, "");
+  EXPECT_THAT(result.err, IsComplaint("would lose cpu-version 7, -quiet; --force stores it nevertheless\n"));
+  EXPECT_EQ(read_option_file("ovrin_0"), file);
+  EXPECT_EQ(qvtcfg({"command", "ovrin_0", "--write", "--force"}).code, 0);
+  EXPECT_EQ(read_option_file("ovrin_0"), "connect ov odm -debugdevice cpunr 1");
 }
 
 }  // namespace

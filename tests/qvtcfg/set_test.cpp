@@ -1,3 +1,5 @@
+#include <chrono>
+
 #include "tool.h"
 
 namespace {
@@ -13,6 +15,10 @@ TEST_F(Set, CreatesTheOptionFile) {
   EXPECT_EQ(result.out,
             "+ connect ov odm -cable type zarvek_platformusb port USB21 frequency 12000000 -debugdevice deviceNr 2 "
             "cpunr 1\n"
+            "debug-device  0 -> 2\n"
+            "cable  none -> zarvek_platformusb\n"
+            "frequency  0 Hz -> 12 MHz\n"
+            "follows: port  - -> USB21\n"
             "written to etc/qvt_ovrin_0.opt\n");
   EXPECT_EQ(read_option_file("ovrin_0"),
             "connect ov odm -cable type zarvek_platformusb port USB21 frequency 12000000 -debugdevice deviceNr 2 "
@@ -23,11 +29,14 @@ TEST_F(Set, ShowsOldAndNewWithTheDifferencesMarked) {
   write_option_file("ovrin_0",
                     "connect ov odm -quiet -cable type zarvek_platformusb port USB21 frequency 6000000 -debugdevice "
                     "deviceNr 2 cpunr 1");
-  const Result result = qvtcfg({"set", "ovrin_0", "frequency=24000000", "debug-device=0"});
+  const Result result = qvtcfg({"set", "ovrin_0", "frequency=24000000", "debug-device=3"});
   EXPECT_EQ(result.out,
-            "- connect ov odm [-quiet] -cable type zarvek_platformusb port USB21 frequency [6000000] -debugdevice "
-            "[deviceNr 2] cpunr 1\n"
-            "+ connect ov odm -cable type zarvek_platformusb port USB21 frequency [24000000] -debugdevice cpunr 1\n"
+            "- connect ov odm -quiet -cable type zarvek_platformusb port USB21 frequency [6000000] -debugdevice "
+            "deviceNr [2] cpunr 1\n"
+            "+ connect ov odm -quiet -cable type zarvek_platformusb port USB21 frequency [24000000] -debugdevice "
+            "deviceNr [3] cpunr 1\n"
+            "debug-device  2 -> 3\n"
+            "frequency  6 MHz -> 24 MHz\n"
             "written to etc/qvt_ovrin_0.opt\n");
 }
 
@@ -43,7 +52,7 @@ TEST_F(Set, ColoursTheDifferencesOnATerminalUnlessNoColorIsSet) {
 TEST_F(Set, StoresNothingInADryRun) {
   const Result result = qvtcfg({"set", "ovrin_0", "--dry-run", "debug-device=3"});
   EXPECT_EQ(result.code, 0);
-  EXPECT_EQ(result.out, "+ connect ov odm -debugdevice deviceNr 3 cpunr 1\n");
+  EXPECT_EQ(result.out, "+ connect ov odm -debugdevice deviceNr 3 cpunr 1\ndebug-device  0 -> 3\n");
   EXPECT_FALSE(exists("etc/qvt_ovrin_0.opt"));
 }
 
@@ -56,7 +65,9 @@ TEST_F(Set, SaysWhenNothingChanges) {
 TEST_F(Set, AnswersInJson) {
   EXPECT_EQ(json({"set", "ovrin_0", "debug-device=3"}),
             nlohmann::json::parse(R"({"processor": "ovrin_0", "file": "etc/qvt_ovrin_0.opt", "old": null,
-                                      "new": "connect ov odm -debugdevice deviceNr 3 cpunr 1", "dryRun": false})"));
+                                      "new": "connect ov odm -debugdevice deviceNr 3 cpunr 1", "dryRun": false,
+                                      "changes": true, "losses": [], "differences": [
+                                        {"setting": "debug-device", "before": 0, "after": 3, "follows": false}]})"));
   const auto second = json({"set", "ovrin_0", "debug-device=4", "--dry-run"});
   EXPECT_EQ(second["old"], "connect ov odm -debugdevice deviceNr 3 cpunr 1");
   EXPECT_EQ(second["dryRun"], true);
@@ -99,9 +110,9 @@ TEST_F(Set, EveryCableThatCanBeWritten) {
 
 TEST_F(Set, TheSerialNumberStandsForPortAndFrequencyUntilItIsEmptied) {
   EXPECT_EQ(json({"set", "ovrin_0", "cable=zarvek_platformusb", "esn=0042"})["new"],
-            "connect ov odm -cable type zarvek_platformusb esn 0042 -debugdevice cpunr 1");
-  EXPECT_EQ(json({"set", "ovrin_0", "esn=", "frequency=6000000"})["new"],
-            "connect ov odm -cable type zarvek_platformusb port USB21 frequency 6000000 -debugdevice cpunr 1");
+            "connect ov odm -cable type zarvek_platformusb frequency 6000000 esn 0042 -debugdevice cpunr 1");
+  EXPECT_EQ(json({"set", "ovrin_0", "esn=", "frequency=12000000"})["new"],
+            "connect ov odm -cable type zarvek_platformusb frequency 12000000 -debugdevice cpunr 1");
 }
 
 TEST_F(Set, TheModuleOfAPluginCableReplacesTheOneBefore) {
@@ -126,11 +137,224 @@ TEST_F(Set, ReadOnlyMemoryAndItsRemoval) {
   EXPECT_EQ(json({"set", "ovrin_0", "rom=unset"})["new"], "connect ov odm -debugdevice cpunr 1");
 }
 
-TEST_F(Set, TheProcessorsOwnJtagPinsAndWarnsThatThisIsNotReadBack) {
-  const Result result = qvtcfg({"set", "ovrin_0", "cpu-jtag=on"});
-  EXPECT_EQ(result.code, 0);
-  EXPECT_THAT(result.err, IsComplaint("warning: etc/qvt_ovrin_0.opt: UNKNOWN Parameter 'jtagpin'"));
+TEST_F(Set, TheProcessorsOwnJtagPinsOnlyByForce) {
+  const Result refused = qvtcfg({"set", "ovrin_0", "cpu-jtag=on"});
+  EXPECT_EQ(refused.code, 1);
+  EXPECT_EQ(refused.out, "");
+  EXPECT_THAT(refused.err,
+              IsComplaint("etc/qvt_ovrin_0.opt: the debugger accepts it, but it is not read back: UNKNOWN "
+                          "Parameter 'jtagpin' for option '-configDevice'; --force stores it nevertheless"));
+  EXPECT_FALSE(exists("etc/qvt_ovrin_0.opt"));
+
+  const Result forced = qvtcfg({"set", "ovrin_0", "cpu-jtag=on", "--force"});
+  EXPECT_EQ(forced.code, 0);
+  EXPECT_THAT(forced.err, IsComplaint("warning: etc/qvt_ovrin_0.opt: the debugger accepts it"));
   EXPECT_EQ(read_option_file("ovrin_0"), "connect ov odm -configdevice jtagpin cpujtag -debugdevice cpunr 1");
+}
+
+TEST_F(Set, TakesTheOwnJtagPinsOutOfAFileThatIsRefusedForThemAlone) {
+  write_option_file("ovrin_0", "connect  ov odm -configdevice jtagpin cpujtag -debugdevice cpunr 1\n");
+  EXPECT_EQ(qvtcfg({"show", "ovrin_0"}).code, 3);
+  EXPECT_EQ(qvtcfg({"set", "ovrin_0", "debug-device=1"}).code, 3);
+  const Result result = qvtcfg({"set", "ovrin_0", "cpu-jtag=off"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_THAT(result.out, HasSubstr("\ncpu-jtag  on -> off\nwritten to"));
+  EXPECT_EQ(read_option_file("ovrin_0"), "connect  ov odm -debugdevice cpunr 1\n");
+}
+
+TEST_F(Set, UnderstandsNumbersAsPeopleTypeThem) {
+  EXPECT_EQ(json({"set", "ovrin_0", "cable=zarvek_platformusb", "frequency=12 MHz", "rom=0x1000,64K"})["new"],
+            "connect ov odm -cable type zarvek_platformusb port USB21 frequency 12000000 -debugdevice cpunr 1 "
+            "romemStartAdr 0x1000 romemSize 65536");
+  EXPECT_THAT(qvtcfg({"set", "ovrin_0", "frequency=12e6"}).out, HasSubstr("\nnothing changes\n"));
+}
+
+TEST_F(Set, AnEmptyValuePutsBackTheDefault) {
+  write_option_file("ovrin_0", "connect ov odm -bscan USER4 -debugdevice deviceNr 2 cpunr 1");
+  EXPECT_EQ(json({"set", "ovrin_0", "bscan=", "debug-device="})["new"], "connect ov odm -debugdevice cpunr 1");
+}
+
+TEST_F(Set, AppendsDevicesToTheChain) {
+  write_option_file("ovrin_0", "connect ov odm -quiet -configdevice devicenr 1 partname a irlength 6 idcode 0x1");
+  const Result result = qvtcfg({"set", "ovrin_0", "devices+=2,b,8,0x2:3,c,4,3"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_EQ(read_option_file("ovrin_0"),
+            "connect ov odm -quiet -configdevice devicenr 1 partname a irlength 6 idcode 0x1 -configdevice devicenr 2 "
+            "partname b irlength 8 idcode 0x2 -configdevice devicenr 3 partname c irlength 4 idcode 0x3");
+}
+
+TEST_F(Set, NothingToChangeWritesNothing) {
+  write_option_file("ovrin_0", "connect ov odm -debugdevice deviceNr 0x3");
+  const auto path = folder() / "etc/qvt_ovrin_0.opt";
+  const auto old = std::filesystem::last_write_time(path) - std::chrono::hours(1);
+  std::filesystem::last_write_time(path, old);
+  const Result result = qvtcfg({"set", "ovrin_0", "debug-device=3"});
+  EXPECT_EQ(result.code, 0);
+  EXPECT_EQ(result.out, "  connect ov odm -debugdevice deviceNr 0x3\nnothing changes\n");
+  EXPECT_EQ(std::filesystem::last_write_time(path), old);
+  EXPECT_EQ(qvtcfg({"set", "ovrin_1", "debug-device=0"}).code, 0);
+  EXPECT_FALSE(exists("etc/qvt_ovrin_1.opt"));
+}
+
+TEST_F(Set, TellsByItsExitCodeWhetherSomethingWouldChange) {
+  EXPECT_EQ(qvtcfg({"set", "ovrin_0", "debug-device=3", "--dry-run", "--exit-code"}).code, 5);
+  EXPECT_FALSE(exists("etc/qvt_ovrin_0.opt"));
+  EXPECT_EQ(qvtcfg({"set", "ovrin_0", "debug-device=0", "--dry-run", "--exit-code"}).code, 0);
+  EXPECT_EQ(qvtcfg({"set", "ovrin_0", "debug-device=3", "--exit-code"}).code, 2);
+}
+
+TEST_F(Set, WarnsOfADebugDeviceThatTheChainDoesNotHave) {
+  const Result result = qvtcfg({"set", "ovrin_0", "devices=1,a,6,1", "debug-device=4"});
+  EXPECT_EQ(result.code, 0);
+  EXPECT_EQ(result.err, "qvtcfg: warning: no device of the JTAG chain has the number 4 of the debug device\n");
+}
+
+TEST_F(Set, DoesNotWarnOfWhatALaterKeyPutsRight) {
+  EXPECT_EQ(qvtcfg({"set", "ovrin_0", "cable=zarvek_plugin", "module=m"}).err, "");
+}
+
+// --- What an option file has, and nobody may lose ---
+
+using Kept = Tool;
+
+TEST_F(Kept, OptionsThatAreNeverWrittenStayWhenAnotherSettingChanges) {
+  write_option_file("ovrin_0",
+                    "Connect ov odm -quiet -cable type zarvek_platformusb esn 0042 port USB21 frequency 12000000  "
+                    "-bscan USER3 -configdevice devicenr 1 isfpga 1 -debugdevice cpu_version 7.1 nCpu 4 cpunr 1\n\n");
+  const Result result = qvtcfg({"set", "ovrin_0", "debug-device=2"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_EQ(
+      read_option_file("ovrin_0"),
+      "Connect ov odm -quiet -cable type zarvek_platformusb esn 0042 port USB21 frequency 12000000  "
+      "-bscan USER3 -configdevice devicenr 1 isfpga 1 -debugdevice deviceNr 2 cpu_version 7.1 nCpu 4 cpunr 1\n\n");
+}
+
+TEST_F(Kept, CableAndChainAreNotLostToAnotherConnectionAndBack) {
+  const std::string file =
+      "connect ov odm -quiet -cable type zarvek_platformusb port USB21 frequency 12000000 -configdevice devicenr 1 "
+      "partname a irlength 6 idcode 0x1 -debugdevice deviceNr 1 cpunr 1";
+  write_option_file("ovrin_0", file);
+  const Result result = qvtcfg({"set", "ovrin_0", "connection=simulator"});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(result.out, "");
+  EXPECT_THAT(result.err, IsComplaint("qvtcfg: etc/qvt_ovrin_0.opt: would lose debug-device 1, cable "));
+  EXPECT_THAT(result.err, HasSubstr("; --force stores it nevertheless\n"));
+  EXPECT_THAT(result.err, HasSubstr("\n  devices 1,a,6,0x00000001: the connection uses no cable\n"));
+  EXPECT_THAT(result.err, HasSubstr("\n  -quiet: "));
+  EXPECT_EQ(read_option_file("ovrin_0"), file);
+
+  EXPECT_EQ(qvtcfg({"set", "ovrin_0", "connection=simulator", "--force"}).code, 0);
+  EXPECT_EQ(read_option_file("ovrin_0"), "connect ov sim");
+}
+
+TEST_F(Kept, AChainThatIsTooLongToBeReadBackIsRefused) {
+  std::string file = "connect ov odm";
+  for (int i = 1; i <= 13; ++i) {
+    file += " -configdevice devicenr " + std::to_string(i) + " partname part_no irlength 10 idcode 0x12345678";
+  }
+  write_option_file("ovrin_0", file);
+  const Result result = qvtcfg({"set", "ovrin_0", "devices+=14,part_no,10,0x12345678"});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_THAT(result.err, IsComplaint("characters, and 1023 are read back"));
+  EXPECT_EQ(read_option_file("ovrin_0"), file);
+  EXPECT_EQ(qvtcfg({"show", "ovrin_0"}).code, 0);
+}
+
+// --- Several processors ---
+
+using Several = Tool;
+
+TEST_F(Several, AreChangedTogether) {
+  const Result result = qvtcfg({"set", "ovrin_0", "ovrin_1", "debug-device=3"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_EQ(result.out,
+            "ovrin_0\n"
+            "+ connect ov odm -debugdevice deviceNr 3 cpunr 1\n"
+            "debug-device  0 -> 3\n"
+            "written to etc/qvt_ovrin_0.opt\n"
+            "ovrin_1\n"
+            "+ connect ov odm -debugdevice deviceNr 3 cpunr 2\n"
+            "debug-device  0 -> 3\n"
+            "written to etc/qvt_ovrin_1.opt\n");
+}
+
+TEST_F(Several, AreAllCheckedBeforeTheFirstIsWritten) {
+  const Result result = qvtcfg({"set", "ovrin_0", "ovrin_1", "connection=stub"});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_THAT(result.err,
+              IsComplaint("qvtcfg: ovrin_1: connection=stub: the processor does not admit this connection"));
+  EXPECT_FALSE(exists("etc/qvt_ovrin_0.opt"));
+}
+
+TEST_F(Several, AreThoseToWhichEverySettingApplies) {
+  write_option_file("ovrin_0", "connect ov sim");
+  const Result result = qvtcfg({"set", "--all", "debug-device=3", "icache=0x70000000"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_THAT(result.out, HasSubstr("skipped ovrin_0: debug-device: the connection uses no cable\n"));
+  EXPECT_THAT(result.out, HasSubstr("skipped ovrin_1: icache: it is for a PowerPC with the connection 'hardware'\n"));
+  EXPECT_EQ(read_option_file("ppc405_0"),
+            "connect ppc hw -debugdevice deviceNr 3 cpunr 1 icacheStartAdr 0x70000000 fpuType sp");
+  EXPECT_TRUE(exists("etc/qvt_ppc440_0.opt"));
+  EXPECT_FALSE(exists("etc/qvt_ovrin_1.opt"));
+}
+
+TEST_F(Several, NoneTakesTheSetting) {
+  const Result result = qvtcfg({"set", "--all", "module=m"});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_THAT(result.err, IsComplaint("no processor of the design has these settings; ovrin_0: module: it is for "));
+}
+
+TEST_F(Several, AnswerInJson) {
+  const auto answer = json({"set", "--all", "icache=0x70000000", "--dry-run"});
+  ASSERT_EQ(answer["processors"].size(), 2U);
+  EXPECT_EQ(answer["processors"][0]["processor"], "ppc405_0");
+  EXPECT_EQ(answer["processors"][0]["differences"],
+            nlohmann::json::parse(
+                R"([{"setting": "address-map", "before": null, "after": 1879048192, "follows": true},
+                    {"setting": "icache", "before": null, "after": 1879048192, "follows": false}])"));
+  EXPECT_EQ(answer["skipped"].size(), 6U);
+}
+
+// --- unset ---
+
+using Unset = Tool;
+
+TEST_F(Unset, PutsSettingsBackToTheirDefaults) {
+  write_option_file("ovrin_0", "connect ov odm -quiet -bscan USER4 -debugdevice deviceNr 2 cpunr 1");
+  const Result result = qvtcfg({"unset", "ovrin_0", "bscan", "debug-device"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_EQ(read_option_file("ovrin_0"), "connect ov odm -quiet -debugdevice cpunr 1");
+}
+
+TEST_F(Unset, NamesTheNearestSetting) {
+  const Result result = qvtcfg({"unset", "ovrin_0", "bscna"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_THAT(result.err, IsComplaint("bscna: no setting is called 'bscna' (did you mean 'bscan'?)"));
+  EXPECT_THAT(qvtcfg({"unset", "ovrin_00", "bscan"}).err, IsComplaint("(did you mean 'ovrin_0'?)"));
+}
+
+// --- Errors in JSON ---
+
+using Errors = Tool;
+
+TEST_F(Errors, AreAnswersInJson) {
+  write_option_file("ovrin_0", "connect ov odm -quiet -bscan USER4");
+  const Result losses = qvtcfg({"--json", "set", "ovrin_0", "connection=simulator"});
+  EXPECT_EQ(losses.code, 1);
+  EXPECT_THAT(losses.err, IsComplaint("would lose bscan USER4, -quiet"));
+  const auto error = nlohmann::json::parse(losses.out)["error"];
+  EXPECT_EQ(error["code"], 1);
+  EXPECT_EQ(error["message"], losses.err.substr(8, losses.err.find('\n') - 8));
+  EXPECT_EQ(
+      error["losses"][0],
+      nlohmann::json::parse(R"({"setting": "bscan", "what": "bscan USER4", "why": "the connection uses no cable"})"));
+  EXPECT_TRUE(error["losses"][1]["setting"].is_null());
+
+  const Result unread = qvtcfg({"read", "ovrin_0", "connect ov odm -quiet -foo", "--json"});
+  EXPECT_EQ(unread.code, 3);
+  EXPECT_EQ(nlohmann::json::parse(unread.out)["error"]["note"], "UNKNOWN Option '-foo'");
+  EXPECT_EQ(nlohmann::json::parse(qvtcfg({"--json", "cabels"}).out)["error"]["code"], 2);
+  EXPECT_EQ(qvtcfg({"read", "ovrin_0", "--", "--json"}).out, "");
 }
 
 // --- Refusals: nothing is stored ---
@@ -157,66 +381,63 @@ class Refused : public Tool {
 };
 
 TEST_F(Refused, KeysThatAreWrong) {
-  expect("ovrin_0",
-         {
-             {{"cabel=none"}, 2, "cabel=none: no such key (did you mean 'cable'?); the keys are connection, stub, "},
-             {{"=1"}, 2, "=1: no such key; the keys are connection, "},
-             {{"cable"}, 2, "cable: expected KEY=VALUE, such as cable=zarvek_platformusb"},
-             {{"esn=1", "port=a", "esn=2"}, 2, "esn=2: the key is given twice"},
-             {{"\033[2J=1"}, 2, "\\x1b[2J=1: no such key"},
-         });
+  expect("ovrin_0", {
+                        {{"cabel=none"},
+                         2,
+                         "cabel=none: no setting is called 'cabel' (did you mean 'cable'?); 'qvtcfg set --help' lists"},
+                        {{"=1"}, 2, "=1: no setting is called ''; "},
+                        {{"cable"}, 2, "KEY=VALUE is required; see 'qvtcfg set --help'"},
+                        {{"esn=1", "port=a", "esn=2"}, 2, "esn=2: the key is given twice"},
+                        {{"rom=1,2", "rom-size=3"}, 2, "rom=1,2: the key is given twice"},
+                        {{"port+=a"}, 2, "port+=a: only to devices can be appended; use port=VALUE"},
+                        {{"\033[2J=1"}, 2, "\\x1b[2J=1: no setting is called '\\x1b[2J'"},
+                    });
 }
 
 TEST_F(Refused, ValuesThatAreWrong) {
-  expect("ovrin_0",
-         {
-             {{"connection=usb"}, 2, "connection=usb: expected simulator, hardware, stub, virtual-platform"},
-             {{"connection=stub", "stub=uart"}, 2, "stub=uart: expected jtag, serial"},
-             {{"cable=zarvek_parallel"}, 2, "expected none, zarvek_svffile, zarvek_parallel4, "},
-             {{"debug-device="}, 2, "debug-device=: expected a number from 0 to 127, decimal or with 0x"},
-             {{"debug-device=128"}, 2, "debug-device=128: expected a number from 0 to 127"},
-             {{"debug-device=-1"}, 2, "debug-device=-1: expected a number"},
-             {{"debug-device=2x"}, 2, "debug-device=2x: expected a number"},
-             {{"debug-device= 2"}, 2, "debug-device= 2: expected a number"},
-             {{"debug-device=010"}, 2, "debug-device=010: expected a number"},
-             {{"debug-device=0x"}, 2, "debug-device=0x: expected a number"},
-             {{"cable=zarvek_platformusb", "frequency=99999999999"}, 2, "expected a number from 0 to 4294967295"},
-             {{"rom=0x1000"}, 2, "rom=0x1000: expected START,SIZE or unset"},
-             {{"rom=0x1000,"}, 2, "rom=0x1000,: expected a number"},
-             {{"port="}, 2, "port=: expected one word of text, without blanks and without a dash in front"},
-             {{"port=two words"}, 2, "port=two words: expected one word"},
-             {{"port=-x"}, 2, "port=-x: expected one word"},
-             {{"esn=a\tb"}, 2, "esn=a b: expected one word"},
-             {{"esn=\001"}, 2, "esn=\\x01: expected one word"},
-             {{"cpu-jtag=off"}, 2, "cpu-jtag=off: expected on"},
-             {{"devices="}, 2, "devices=: expected a chain device as NR,PART,IRLENGTH,IDCODE, such as 1,prom32,16,"},
-             {{"devices=1,p,6,1:"}, 2, "devices=1,p,6,1:: expected a chain device"},
-             {{"devices=1,p,128,1"}, 2, "devices=1,p,128,1: expected a number from 0 to 127"},
-             {{"cable=zarvek_plugin", "module="}, 2, "module=: expected one word"},
-             {{"cable=zarvek_plugin", "module=m,"}, 2, "module=m,: expected one word"},
-         });
+  expect(
+      "ovrin_0",
+      {
+          {{"connection=usb"}, 2, "connection=usb: expected simulator, hardware, stub, virtual-platform"},
+          {{"connection=stub", "stub=uart"}, 2, "stub=uart: expected jtag, serial"},
+          {{"cable=zarvek_usb"}, 2, "cable=zarvek_usb: expected none, zarvek_svffile, zarvek_parallel4, "},
+          {{"debug-device=128"}, 2, "debug-device=128: it must be from 0 to 127"},
+          {{"debug-device=-1"}, 2, "debug-device=-1: it must be from 0 to 127"},
+          {{"debug-device=2x"}, 2, "debug-device=2x: expected a number"},
+          {{"debug-device= 2"}, 2, "debug-device= 2: expected a number"},
+          {{"debug-device=010"}, 2, "debug-device=010: expected a number, decimal or with 0x; a leading 0 is refused"},
+          {{"debug-device=0x"}, 2, "debug-device=0x: expected a number"},
+          {{"cable=zarvek_platformusb", "frequency=99999999999"}, 2, "it must be from 0 to 4294967295"},
+          {{"rom=0x1000,"}, 2, "rom=0x1000,: expected a number of bytes"},
+          {{"cable=zarvek_platformusb", "port=two words"}, 2, "port=two words: it must be one word, without blanks"},
+          {{"cable=zarvek_platformusb", "port=-x"}, 2, "port=-x: it must be one word"},
+          {{"cable=zarvek_platformusb", "esn=a\tb"}, 2, "esn=a b: it must be one word"},
+          {{"cable=zarvek_platformusb", "esn=\001"}, 2, "esn=\\x01: it must be one word"},
+          {{"devices=1,p,6,1:"}, 2, "devices=1,p,6,1:: expected devices as NR,PART,IRLENGTH,IDCODE with a colon "},
+          {{"devices=1,p,128,1"}, 2, "devices=1,p,128,1: expected devices"},
+          {{"devices+=1,p"}, 2, "devices+=1,p: expected devices"},
+      });
 }
 
-TEST_F(Refused, WhatTheEngineOrTheDesignDoesNotAllow) {
-  expect("ovrin_1",
-         {
-             {{"connection=stub"},
-              1,
-              "connection=stub: the processor does not admit this connection; it admits simulator, hardware"},
-             {{"stub=serial"}, 1, "stub=serial: the connection is not stub; add connection=stub"},
-             {{"stub-baud=9600"}, 1, "stub-baud=9600: the processor is not reached through a serial stub"},
-             {{"module=m"}, 1, "module=m: cable none has no module; add cable=zarvek_plugin"},
-             {{"cable=zarvek_plugin"}, 1, "cable zarvek_plugin needs a module; add module=NAME"},
-             {{"connection=simulator", "devices=none"}, 1, "devices=none: the setting does not apply"},
-             {{"connection=simulator", "module=m"}, 1, "module=m: the setting does not apply"},
-             {{"cable=zarvek_tcf"}, 1, "ovrin_1: Invalid Cable Type; "},
-             {{"icache=0x10000"}, 1, "icache=0x10000: the setting does not apply to this processor and connection"},
-             {{"address-map=unset"}, 1, "the setting does not apply to this processor and connection"},
-             {{"connection=simulator", "debug-device=1"}, 1, "debug-device=1: the setting does not apply"},
-             {{"connection=simulator", "cable=none"}, 1, "cable=none: the setting does not apply"},
-             {{"connection=simulator", "rom=0,1"}, 1, "rom=0,1: the setting does not apply"},
-         });
-  expect("ovrin_0", {{{"connection=stub", "stub=jtag"}, 1, "stub=jtag: JTAG device not present in system"}});
+TEST_F(Refused, WhatTheDesignOrTheConnectionDoesNotAllow) {
+  expect(
+      "ovrin_1",
+      {
+          {{"connection=stub"},
+           1,
+           "connection=stub: the processor does not admit this connection; it admits simulator, hardware"},
+          {{"stub=serial"}, 1, "stub=serial: stub does not apply: the processor has no stub connection"},
+          {{"stub-baud=9600"}, 1, "stub-baud=9600: stub-baud does not apply: it is for the connection 'stub' over"},
+          {{"module=m"}, 1, "module=m: module does not apply: it is for a cable of the type 'zarvek_plugin'"},
+          {{"cable=zarvek_plugin"}, 1, "is not read back; a zarvek_plugin cable needs a module; --force stores it"},
+          {{"cable=zarvek_svffile"}, 1, "cable=zarvek_svffile: this type is not read; the types are none, "},
+          {{"cable=zarvek_tcf"}, 1, "ovrin_1: no connect command can be written for these settings; change the "},
+          {{"connection=simulator", "devices=1,a,6,1"}, 1, "devices=1,a,6,1: devices does not apply: "},
+          {{"icache=0x10000"}, 1, "icache=0x10000: icache does not apply: it is for a PowerPC with the connection"},
+          {{"connection=simulator", "debug-device=1"}, 1, "debug-device=1: debug-device does not apply: "},
+          {{"connection=simulator", "rom=0,1"}, 1, "rom=0,1: rom does not apply: it is for the connection 'hardware'"},
+          {{"name=x"}, 1, "name=x: it cannot be set"},
+      });
 }
 
 TEST_F(Refused, FrequenciesThatTheCableDoesNotSupport) {
@@ -224,23 +445,20 @@ TEST_F(Refused, FrequenciesThatTheCableDoesNotSupport) {
          {
              {{"cable=zarvek_platformusb", "frequency=5000000"},
               1,
-              "frequency=5000000: cable zarvek_platformusb supports 750000, 1500000, 3000000, 6000000, "
-              "12000000, 24000000"},
-             {{"frequency=200000"}, 1, "frequency=200000: cable none has no frequency to choose"},
-             {{"cable=digilent_plugin", "frequency=0"}, 1, "cable digilent_plugin has no frequency to choose"},
+              "frequency=5000000: cable zarvek_platformusb does not support 5 MHz; the nearest: 3 MHz and 6 MHz; all: "
+              "750 kHz, 1.5 MHz, 3 MHz, 6 MHz, 12 MHz, 24 MHz"},
+             {{"frequency=200000"}, 1, "frequency=200000: frequency does not apply: the cable has no such setting"},
          });
 }
 
 TEST_F(Refused, AddressesOffTheGrid) {
-  expect("ppc405_0",
-         {
-             {{"icache=0x18000"}, 1, "icache=0x18000: Icache Start Address should be aligned at 64k boundry"},
-             {{"dcache=1"}, 1, "dcache=1: Dcache Start Address should be aligned at 64k boundry"},
-             {{"itag=1"}, 1, "itag=1: Itag Start Address should be aligned at 64k boundry"},
-             {{"dtag=1"}, 1, "dtag=1: Dtag Start Address should be aligned at 64k boundry"},
-             {{"tlb=1"}, 1, "tlb=1: TLB Start Address should be aligned at 64k boundry"},
-             {{"dcr=1"}, 1, "dcr=1: DCR Start Address should be aligned at 64k boundry"},
-         });
+  for (const char* key : {"icache", "dcache", "itag", "dtag", "tlb", "dcr"}) {
+    const Result result = qvtcfg({"set", "ppc405_0", std::string(key) + "=0x18000"});
+    EXPECT_EQ(result.code, 1) << key;
+    EXPECT_THAT(result.err, IsComplaint(std::string(key) + "=0x18000: it must be a multiple of 64 KB (0x10000); the "
+                                                           "nearest are 0x00010000 and 0x00020000"));
+  }
+  EXPECT_FALSE(exists("etc/qvt_ppc405_0.opt"));
 }
 
 TEST_F(Refused, OneWrongChangeAmongGoodOnesStoresNone) {
@@ -255,16 +473,13 @@ TEST_F(Refused, AnOptionFileThatIsNotUnderstoodIsKept) {
     const char* why;
   } kFaults[] = {
       {"connect ov odm -quiet -foo",
-       "etc/qvt_ovrin_0.opt: UNKNOWN Option '-foo'; correct the file, or replace it with "
+       "etc/qvt_ovrin_0.opt: the text is not understood; correct the file, or replace it with "
        "'qvtcfg read ovrin_0 TEXT --write'"},
-      {"hello", "etc/qvt_ovrin_0.opt: the connect command is not understood; correct the file"},
-      {"connect odm", "etc/qvt_ovrin_0.opt: the connect command is not understood; correct the file"},
-      {"connect ov odm - x", "etc/qvt_ovrin_0.opt: a lone '-' in place of an option or a value"},
+      {"hello", "etc/qvt_ovrin_0.opt: the text is not understood; correct the file"},
+      {"connect odm", "etc/qvt_ovrin_0.opt: the text is not understood; correct the file"},
+      {"connect ov odm - x", "etc/qvt_ovrin_0.opt: a lone '-' stands in the place of an option or a value"},
       {std::string("connect ov\0odm", 14), "etc/qvt_ovrin_0.opt: the byte \\x00 at column 11 is not valid text"},
       {"connect ov odm \033[31m", "etc/qvt_ovrin_0.opt: the byte \\x1b at column 16 is not valid text"},
-      {"connect ov odm -cable port " + std::string(2000, 'x'),
-       "etc/qvt_ovrin_0.opt: the command is longer than 1023 characters, and the rest is not read; to keep all of "
-       "it, "},
   };
   for (const auto& fault : kFaults) {
     write_option_file("ovrin_0", fault.command);

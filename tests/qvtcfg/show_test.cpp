@@ -7,7 +7,7 @@ using testing::Not;
 
 using Show = Tool;
 
-TEST_F(Show, GroupsEverySettingAndMarksWhatDiffersFromItsDefault) {
+TEST_F(Show, GroupsTheSettingsThatApplyAndMarksWhatDiffersFromItsDefault) {
   write_option_file("ovrin_0",
                     "connect ov odm -cable type zarvek_platformusb frequency 12000000 "
                     "-configdevice devicenr 1 partname dv3 irlength 6 idcode 0x1d23093 isfpga 1 "
@@ -33,66 +33,56 @@ TEST_F(Show, GroupsEverySettingAndMarksWhatDiffersFromItsDefault) {
             "\n"
             "stub\n"
             "  stub                jtag\n"
-            "  stub-port           /dev/ttyS0\n"
-            "  stub-baud           0\n"
-            "  stub-timeout        20000\n"
-            "\n"
-            "simulator\n"
-            "  memory-size         16\n"
-            "  config-file         -\n"
-            "  sim-host            -\n"
-            "  sim-port            0\n"
-            "\n"
-            "virtual-platform\n"
-            "  configured          no\n"
-            "  cycle-approximate   no\n"
             "\n"
             "hardware-simulator\n"
-            "  enabled             no\n"
-            "  host                localhost\n"
-            "  port                9998\n"
+            "  enabled             off\n"
             "\n"
             "debug-device\n"
             "* debug-device        2\n"
             "  bscan               USER2\n"
-            "  uart                no\n"
             "  cpu-version         -\n"
             "  odm-version         -\n"
             "  cpu-count           8\n"
             "\n"
-            "address-map\n"
-            "  address-map         not set\n"
-            "  icache              not set\n"
-            "  itag                not set\n"
-            "  dcache              not set\n"
-            "  dtag                not set\n"
-            "  tlb                 not set\n"
-            "  dcr                 not set\n"
-            "\n"
             "memories\n"
-            "  isocm               not set\n"
-            "  isocm-size          0\n"
-            "  isocm-dcr           not set\n"
             "* rom                 0x00001000\n"
-            "* rom-size            512\n"
+            "* rom-size            512 bytes\n"
             "\n"
             "cable\n"
             "* cable               zarvek_platformusb\n"
-            "* frequency           12000000\n"
-            "* port                USB21\n"
+            "* frequency           12 MHz\n"
+            "  port                USB21\n"
             "  esn                 -\n"
             "  svf-file            -\n"
-            "  svf-file-named      no\n"
-            "  module              -\n"
-            "  module-arguments    -\n"
+            "  svf-file-named      off\n"
             "  url                 -\n"
             "\n"
             "jtag-chain\n"
-            "  cpu-jtag            no\n"
+            "  cpu-jtag            off\n"
             "* devices             1\n"
             "    device 1, part dv3, irlength 6, idcode 0x01d23093, fpga yes, hard-ppc none, ppc-count 0\n"
             "\n"
             "* differs from its default\n");
+}
+
+TEST_F(Show, TellsOnDemandWhyTheOtherSettingsDoNotApply) {
+  const Result result = qvtcfg({"show", "ovrin_0", "--all"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_THAT(result.out, HasSubstr("\n  memory-size         16  (it is for the simulator of a soft processor)\n"));
+  EXPECT_THAT(result.out,
+              HasSubstr("\n  hardware-simulator-host  localhost  (the hardware simulator is not enabled)\n"));
+  EXPECT_THAT(result.out, HasSubstr("\n  icache              not set  (it is for a PowerPC with the connection "));
+  EXPECT_THAT(result.out, HasSubstr("\n  cable               none\n"));
+}
+
+TEST_F(Show, NeverHidesWhatDiffersFromItsDefault) {
+  write_option_file("ovrin_0", "connect ov odm -cable type zarvek_plugin modulename m esn 0042 frequency 7 -quiet");
+  for (const char* option : {"--changed", "--json", "--all"}) {
+    EXPECT_THAT(qvtcfg({"show", "ovrin_0", option}).out, HasSubstr("0042")) << option;
+  }
+  for (const std::string& shown : {qvtcfg({"show", "ovrin_0"}).out, qvtcfg({"show", "ovrin_0", "--changed"}).out}) {
+    EXPECT_THAT(shown, HasSubstr("\n* esn                 0042  (the cable has no such setting)\n"));
+  }
 }
 
 TEST_F(Show, SaysThatTheSettingsAreTheDefaultsWithoutAnOptionFile) {
@@ -112,6 +102,10 @@ TEST_F(Show, AnswersInJsonWithNullForWhatIsNotSet) {
   EXPECT_EQ(settings["identity"]["family"], "ovrin");
   EXPECT_EQ(settings["debug-device"]["debug-device"], nlohmann::json::parse(R"({"value": 2, "default": false})"));
   EXPECT_EQ(settings["memories"]["rom"], nlohmann::json::parse(R"({"value": null, "default": true})"));
+  EXPECT_EQ(settings["stub"]["stub-port"], nlohmann::json::parse(R"({"value": "/dev/ttyS0", "default": true,
+      "applies": false, "whyNot": "it is for the connection 'stub' over a serial line"})"));
+  EXPECT_EQ(settings["hardware-simulator"]["port"]["value"], 9998);
+  EXPECT_EQ(settings["hardware-simulator"]["hardware-simulator-port"]["value"], 9998);
   EXPECT_EQ(settings["jtag-chain"]["devices"], nlohmann::json::parse(R"({"value": [], "default": true})"));
 }
 

@@ -3,6 +3,7 @@
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 using Usage = Tool;
@@ -12,8 +13,8 @@ TEST_F(Usage, HelpOfTheProgramListsTheCommandsAndAnExample) {
     const Result result = qvtcfg({flag});
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.err, "");
-    for (const char* text : {"processors", "show", "command", "read", "set", "cables", "\n  cable ",
-                             "\nExample:\n  qvtcfg -C ", "docs/design-file.md"}) {
+    for (const char* text : {"processors", "show", "command", "read", "set", "unset", "copy", "diff", "cables",
+                             "\n  cable ", "\nExample:\n  qvtcfg -C ", "docs/design-file.md"}) {
       EXPECT_THAT(result.out, HasSubstr(text));
     }
   }
@@ -25,6 +26,9 @@ TEST_F(Usage, HelpOfEveryCommandShowsAnExample) {
                                                                                 {"command"},
                                                                                 {"read"},
                                                                                 {"set"},
+                                                                                {"unset"},
+                                                                                {"copy"},
+                                                                                {"diff"},
                                                                                 {"cables"},
                                                                                 {"cable"},
                                                                                 {"cable", "parse"},
@@ -41,15 +45,14 @@ TEST_F(Usage, HelpOfEveryCommandShowsAnExample) {
 
 TEST_F(Usage, HelpOfSetListsTheKeys) {
   const std::string help = qvtcfg({"set", "-h"}).out;
-  for (const char* key : {"connection=",    "stub=",         "stub-port=",
-                          "stub-baud=",     "debug-device=", "cpu-jtag=on",
-                          "devices=LIST",   "module=NAME",   "address-map=unset",
-                          "icache=",        "itag=",         "dcache=",
-                          "dtag=",          "tlb=",          "dcr=",
-                          "rom=START,SIZE", "cable=",        "frequency=",
-                          "port=",          "esn="}) {
-    EXPECT_THAT(help, HasSubstr(std::string("\n  ") + key));
+  for (const char* key :
+       {"connection=WORD", "stub=WORD", "stub-port=TEXT", "stub-baud=NUMBER", "debug-device=NUMBER", "cpu-jtag=on|off",
+        "devices=LIST", "module=NAME[,ARG...]", "address-map=ADDRESS", "icache=ADDRESS", "rom=START,SIZE",
+        "rom-size=SIZE", "cable=WORD", "frequency=FREQUENCY", "port=TEXT", "esn=TEXT", "bscan=WORD"}) {
+    EXPECT_THAT(help, HasSubstr(std::string("\n  ") + key + " "));
   }
+  EXPECT_THAT(help, HasSubstr(" One of USER1, USER2, USER3, USER4.\n"));
+  EXPECT_THAT(help, Not(HasSubstr("\n  name=")));
 }
 
 TEST_F(Usage, VersionIsThatOfTheLibrary) {
@@ -64,7 +67,7 @@ TEST_F(Usage, OptionsOfTheProgramMayFollowTheCommand) {
 
 TEST_F(Usage, TwoDashesEndTheOptions) {
   EXPECT_THAT(qvtcfg({"read", "ovrin_0", "--", "-foo"}).err,
-              IsComplaint("the command given: the connect command is not understood; 'qvtcfg command ovrin_0' prints"));
+              IsComplaint("the command given: the text is not understood; 'qvtcfg command ovrin_0' prints"));
 }
 
 TEST_F(Usage, MistakesAreExplainedInOneLine) {
@@ -72,7 +75,9 @@ TEST_F(Usage, MistakesAreExplainedInOneLine) {
     std::vector<std::string> arguments;
     const char* why;
   } kMistakes[] = {
-      {{}, "a command is missing: one of processors, show, command, read, set, cables, cable; see 'qvtcfg --help'"},
+      {{},
+       "a command is missing: one of processors, show, command, read, set, unset, copy, diff, cables, cable; see "
+       "'qvtcfg --help'"},
       {{"cabels"}, "unknown command 'cabels' (did you mean 'cables'?); see 'qvtcfg --help'"},
       {{"--jsn", "cables"}, "unknown option '--jsn'; see 'qvtcfg cables --help'"},
       {{"cables", "all"}, "unexpected argument 'all'; see 'qvtcfg cables --help'"},
@@ -88,7 +93,12 @@ TEST_F(Usage, MistakesAreExplainedInOneLine) {
       {{"cable", "parse", "-cable", "type"}, "unknown option '-cable'; see 'qvtcfg cable parse --help'"},
       {{"cable", "format", "--type"}, "--type: 1 required NAME missing; see 'qvtcfg cable format --help'"},
       {{"cable", "format", "--speed", "1"}, "unknown option '--speed'; see 'qvtcfg cable format --help'"},
-      {{"set", "ovrin_0"}, "CHANGE is required; see 'qvtcfg set --help'"},
+      {{"set", "ovrin_0"}, "KEY=VALUE is required; see 'qvtcfg set --help'"},
+      {{"set", "cable=none"}, "PROC is required; see 'qvtcfg set --help'"},
+      {{"set", "--all", "ovrin_0", "cable=none"}, "--all: name no processor as well; see 'qvtcfg set --help'"},
+      {{"unset", "ovrin_0"}, "NAME is required; see 'qvtcfg unset --help'"},
+      {{"copy", "ovrin_0"}, "TO is required; see 'qvtcfg copy --help'"},
+      {{"diff"}, "A is required; see 'qvtcfg diff --help'"},
       {{"-C"}, "-C: 1 required DIR missing; see 'qvtcfg --help'"},
       {{"\033]0;x\007"}, "unknown command '\\x1b]0;x\\x07'"},
   };

@@ -92,16 +92,21 @@ Configuration open_configuration(const Processor& processor, const OptionFile& f
 
 std::string command_in(std::string_view content) { return std::string(first_line(content).substr(0, kLongestCommand)); }
 
-void require_safe(const Edit& edit, const OptionFile& file, bool force) {
-  std::vector<std::string> reasons;
-  if (!edit.notReadBack.empty()) reasons.push_back(edit.notReadBack);
+void require_safe(const Edit& edit, const OptionFile& file, bool force, const std::vector<std::string>& warnings) {
+  for (const std::string& warning : warnings) {
+    if (force || edit.is_safe()) complain("warning: " + warning);
+  }
+  if (edit.is_safe()) return;
   std::vector<std::string> lost;
   for (const Loss& loss : edit.losses) lost.push_back(loss.what);
-  if (!lost.empty()) reasons.push_back("would lose " + join(lost));
-  if (reasons.empty()) return;
-  const std::string text = file.shown + ": " + join(reasons, "; ");
-  if (!force) throw Failure(text + "; --force stores it nevertheless", edit.losses);
-  complain("warning: " + text);
+  std::string text = file.shown + ": " + edit.notReadBack;
+  if (!lost.empty()) text += (edit.notReadBack.empty() ? "would lose " : "; would lose ") + join(lost);
+  if (force) {
+    complain("warning: " + text);
+  } else {
+    for (const std::string& warning : warnings) text += "; " + warning;
+    throw Failure(text + "; --force stores it nevertheless", edit.losses);
+  }
 }
 
 bool would_change(const Edit& edit, const OptionFile& file) {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "SdkDebugDialog/Configuration.h"
 #include "command_line.h"
@@ -34,8 +35,10 @@ SdkDebugDialog::Configuration open_configuration(const SdkDebugDialog::Processor
 // The command in the content of an option file: the first line with anything in it, as far as it is read.
 std::string command_in(std::string_view content);
 
-// Throws Failure if storing the edit loses something or stores what is not read back. With force, that is a warning.
-void require_safe(const SdkDebugDialog::Edit& edit, const OptionFile& file, bool force);
+// Throws Failure if storing the edit loses something or stores what is not read back; the warnings about the settings
+// may tell why. With force, that is a warning too.
+void require_safe(const SdkDebugDialog::Edit& edit, const OptionFile& file, bool force,
+                  const std::vector<std::string>& warnings = {});
 
 // Whether storing the edit changes the file.
 bool would_change(const SdkDebugDialog::Edit& edit, const OptionFile& file);

@@ -225,8 +225,7 @@ void store(Target& target, const Arguments& arguments) {
 // leaves the option files unchanged; JSON is printed when all is done, so that there is one answer.
 ExitCode carry_out(Plan plan, const Arguments& arguments, Output& out) {
   for (const Target& target : plan.targets) {
-    for (const std::string& warning : target.warnings) complain("warning: " + warning);
-    if (target.changes()) require_safe(target.edit, target.file, arguments.force);
+    if (target.changes()) require_safe(target.edit, target.file, arguments.force, target.warnings);
   }
   for (const Skipped& skipped : plan.skipped) {
     if (!arguments.json) out.line(visible("skipped " + skipped.processor + ": " + skipped.why));
