@@ -183,6 +183,11 @@ TEST_F(Set, AppendsDevicesToTheChain) {
             "partname b irlength 8 idcode 0x2 -configdevice devicenr 3 partname c irlength 4 idcode 0x3");
 }
 
+TEST_F(Set, AppendingNothingLeavesTheChain) {
+  write_option_file("ovrin_0", "connect ov odm -configdevice devicenr 1");
+  EXPECT_THAT(qvtcfg({"set", "ovrin_0", "devices+="}).out, HasSubstr("nothing changes"));
+}
+
 TEST_F(Set, NothingToChangeWritesNothing) {
   write_option_file("ovrin_0", "connect ov odm -debugdevice deviceNr 0x3");
   const auto path = folder() / "etc/qvt_ovrin_0.opt";
@@ -276,6 +281,12 @@ TEST_F(Several, AreChangedTogether) {
             "+ connect ov odm -debugdevice deviceNr 3 cpunr 2\n"
             "debug-device  0 -> 3\n"
             "written to etc/qvt_ovrin_1.opt\n");
+}
+
+TEST_F(Several, AreNamedOnce) {
+  const Result result = qvtcfg({"set", "ovrin_0", "ovrin_0", "debug-device=3"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_THAT(result.err, IsComplaint("ovrin_0: the processor is given twice"));
 }
 
 TEST_F(Several, AreAllCheckedBeforeTheFirstIsWritten) {

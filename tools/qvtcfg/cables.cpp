@@ -15,7 +15,6 @@ namespace {
 using SdkDebugDialog::Configuration;
 using SdkDebugDialog::Engine;
 using SdkDebugDialog::find_setting;
-using SdkDebugDialog::TextKind;
 
 // The names of Engine::CableType.
 constexpr const char* kNames[] = {

@@ -55,6 +55,7 @@ GivenChange parse_change(const std::string& argument) {
   const bool append = equals > 0 && argument[equals - 1] == '+';
   GivenChange given = change(argument, argument.substr(0, equals - (append ? 1 : 0)), argument.substr(equals + 1));
   given.append = append;
+  if (append) given.toDefault = false;
   require_setting(given);
   if (append && given.meant->kind != SettingKind::devices) {
     throw Failure(kUsage, one_line(argument) + ": only to devices can be appended; use " + given.setting + "=VALUE");

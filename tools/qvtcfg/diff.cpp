@@ -18,7 +18,6 @@ using SdkDebugDialog::Configuration;
 using SdkDebugDialog::Design;
 using SdkDebugDialog::Difference;
 using SdkDebugDialog::Processor;
-using SdkDebugDialog::TextKind;
 
 // A processor's option file, another option file, or a command.
 struct Side {

@@ -62,7 +62,7 @@ std::string device_line(const JtagOption& device) {
     std::string text = value.is_string() ? visible(value.get<std::string>()) : value.dump();
     if (value.is_boolean()) text = value.get<bool>() ? "yes" : "no";
     if (name == "idcode") text = hex_text(device.idcode);
-    members.push_back(name + " " + text);
+    members.push_back(std::string(name).append(" ").append(text));
   }
   return join(members);
 }
@@ -96,7 +96,7 @@ std::string shown_value(const Setting& setting, const SettingValue& value) {
   if (const auto* const words = std::get_if<std::vector<std::string>>(&value); words != nullptr && !words->empty()) {
     return join(*words);
   }
-  const std::string text = visible(value_text(setting, value));
+  std::string text = visible(value_text(setting, value));
   if (!text.empty()) return text;
   return setting.kind == SettingKind::text && !is_identity(setting) ? "-" : "not set";
 }

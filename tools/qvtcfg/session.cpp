@@ -20,6 +20,7 @@ using SdkDebugDialog::Design;
 using SdkDebugDialog::Edit;
 using SdkDebugDialog::ErrorCode;
 using SdkDebugDialog::Loss;
+using SdkDebugDialog::OnLoss;
 using SdkDebugDialog::Processor;
 
 constexpr const char* kDefaultDesign = "design.json";
@@ -113,7 +114,7 @@ bool would_change(const Edit& edit, const OptionFile& file) {
   return file.content ? edit.text != *file.content : !edit.differences.empty();
 }
 
-void make_folder(const OptionFile& file, const Arguments& arguments) {
+void store(Configuration& configuration, const Edit& edit, const OptionFile& file, const Arguments& arguments) {
   const std::filesystem::path folder = std::filesystem::path(file.path).parent_path();
   std::error_code error;
   std::filesystem::create_directory(folder, error);
@@ -121,6 +122,7 @@ void make_folder(const OptionFile& file, const Arguments& arguments) {
     throw Failure(kFile,
                   arguments.seen_from_outside(folder) + ": " + error.message() + "; option files are kept there");
   }
+  require(configuration.store(edit, file.path, OnLoss::goOn), file.shown, "", file.path);
 }
 
 }  // namespace qvtcfg

@@ -46,7 +46,9 @@ bool would_change(const SdkDebugDialog::Edit& edit, const OptionFile& file);
 // What to do when no command can be written.
 inline constexpr const char* kChangeCable = "; change the connection or the cable";
 
-// Creates the folder for option files if it is missing.
-void make_folder(const OptionFile& file, const Arguments& arguments);
+// Stores what require_safe let pass, and creates the folder for option files if it is missing. A file that the
+// configuration was read from must be as it was then.
+void store(SdkDebugDialog::Configuration& configuration, const SdkDebugDialog::Edit& edit, const OptionFile& file,
+           const Arguments& arguments);
 
 }  // namespace qvtcfg

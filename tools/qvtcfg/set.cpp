@@ -22,9 +22,9 @@ using SdkDebugDialog::Design;
 using SdkDebugDialog::Difference;
 using SdkDebugDialog::edit;
 using SdkDebugDialog::Edit;
+using SdkDebugDialog::ErrorCode;
 using SdkDebugDialog::find_setting;
 using SdkDebugDialog::Loss;
-using SdkDebugDialog::OnLoss;
 using SdkDebugDialog::Processor;
 using SdkDebugDialog::Setting;
 using SdkDebugDialog::TextKind;
@@ -66,8 +66,8 @@ Edit edit_of_refused(const Processor& processor, const OptionFile& file, const s
   if (refused.code() != kNotUnderstood || !file.content || !plain) throw refused;
   const std::vector<Change> plain_changes(changes.begin(), changes.end());
   const auto made = edit(processor, *file.content, TextKind::optionFile, plain_changes);
-  if (!made) throw refused;
-  return *made;
+  if (!made && made.error().code == ErrorCode::notUnderstood) throw refused;
+  return require(made, processor.name());
 }
 
 Target changed(const Processor& processor, const Arguments& arguments, const std::vector<GivenChange>& changes,
@@ -99,7 +99,13 @@ std::string why_not(const Processor& processor, const Arguments& arguments, cons
 
 std::vector<Processor> named_processors(const Design& design, const std::vector<std::string>& names) {
   std::vector<Processor> processors;
-  for (const std::string& name : names) processors.push_back(find_processor(design, name));
+  processors.reserve(names.size());
+  for (const std::string& name : names) {
+    if (std::ranges::find(processors, name, &Processor::name) != processors.end()) {
+      throw Failure(kUsage, one_line(name) + ": the processor is given twice");
+    }
+    processors.push_back(find_processor(design, name));
+  }
   return processors;
 }
 
@@ -212,15 +218,6 @@ Json plan_json(const Plan& plan, const Arguments& arguments) {
 
 // --- Storing ---
 
-void store(Target& target, const Arguments& arguments) {
-  make_folder(target.file, arguments);
-  Configuration& configuration = target.configuration;
-  const OnLoss on_loss = arguments.force ? OnLoss::goOn : OnLoss::refuse;
-  require(configuration.path().empty() ? configuration.store(target.edit, target.file.path, OnLoss::goOn)
-                                       : configuration.store(on_loss),
-          target.file.shown, "", target.file.path);
-}
-
 // Everything is checked before the first file is written. Text is printed before as well, so that an output error
 // leaves the option files unchanged; JSON is printed when all is done, so that there is one answer.
 ExitCode carry_out(Plan plan, const Arguments& arguments, Output& out) {
@@ -234,15 +231,13 @@ ExitCode carry_out(Plan plan, const Arguments& arguments, Output& out) {
   for (Target& target : plan.targets) {
     any_changes |= target.changes();
     const bool stores = target.changes() && !arguments.dry_run;
-    if (arguments.json) {
-      if (stores) store(target, arguments);
-      continue;
+    if (!arguments.json) {
+      print_target(plan, target, arguments, out);
+      out.flush();
     }
-    print_target(plan, target, arguments, out);
-    out.flush();
     if (!stores) continue;
-    store(target, arguments);
-    out.line(visible("written to " + target.file.shown));
+    store(target.configuration, target.edit, target.file, arguments);
+    if (!arguments.json) out.line(visible("written to " + target.file.shown));
   }
   if (arguments.json) out.json(plan_json(plan, arguments));
   return arguments.exit_code && any_changes ? kDiffers : kDone;

@@ -17,7 +17,6 @@ using SdkDebugDialog::Configuration;
 using SdkDebugDialog::Design;
 using SdkDebugDialog::Edit;
 using SdkDebugDialog::ErrorCode;
-using SdkDebugDialog::OnLoss;
 using SdkDebugDialog::Processor;
 using SdkDebugDialog::TextKind;
 
@@ -44,14 +43,6 @@ void show_settings(const Arguments& arguments, const Configuration& configuratio
   print_settings(configuration, choice, out);
 }
 
-// Stores what was found safe. Text is printed before, so that an output error leaves the file unchanged.
-void store(Configuration& configuration, const Edit& edit, const OptionFile& file, const Arguments& arguments,
-           Output& out) {
-  if (!arguments.json) out.flush();
-  make_folder(file, arguments);
-  require(configuration.store(edit, file.path, OnLoss::goOn), file.shown, "", file.path);
-}
-
 // The option file to be replaced, so that it is replaced only as it is now; the settings given if nobody understands
 // what is in it.
 Configuration to_replace(const Configuration& given, const OptionFile& file) {
@@ -71,13 +62,13 @@ std::string advice_for(const Processor& processor) {
 Configuration read_command(const Processor& processor, const GivenText& given, const Arguments& arguments) {
   auto configuration = Configuration::read(processor, given.text);
   if (!configuration && !arguments.processor && !arguments.write) configuration = Configuration::read({}, given.text);
-  return require(std::move(configuration), given.source, advice_for(processor));
+  return require(configuration, given.source, advice_for(processor));
 }
 
 // What is stored, as it is read back; as it was given if it is not read back.
 Configuration stored(const Configuration& given, const Edit& edit) {
-  auto read_back = Configuration::read(given.processor(), edit.text, TextKind::optionFile);
-  return read_back ? std::move(*read_back) : given;
+  const auto read_back = Configuration::read(given.processor(), edit.text, TextKind::optionFile);
+  return read_back ? *read_back : given;
 }
 
 Processor processor_of(const Arguments& arguments, const std::optional<Design>& design, const GivenText& command) {
@@ -115,7 +106,8 @@ ExitCode run_command(const Arguments& arguments, Output& out) {
     const Edit edit = require(configuration.written_anew(), processor.name(), kChangeCable);
     require_safe(edit, file, arguments.force);
     if (!arguments.json) out.line(visible(command));
-    store(configuration, edit, file, arguments, out);
+    if (!arguments.json) out.flush();  // first, so that an output error leaves the option file unchanged
+    store(configuration, edit, file, arguments);
   } else if (!arguments.json) {
     out.line(visible(command));
   }
@@ -141,8 +133,11 @@ ExitCode run_read(const Arguments& arguments, Output& out) {
   const auto show = [&] {
     show_settings(arguments, stored(configuration, edit), {given.source, file.shown, command_in(edit.text)}, out);
   };
-  if (!arguments.json) show();
-  store(replaced, edit, file, arguments, out);
+  if (!arguments.json) {
+    show();
+    out.flush();  // first, so that an output error leaves the option file unchanged
+  }
+  store(replaced, edit, file, arguments);
   if (arguments.json) {
     show();
   } else {
