@@ -48,7 +48,7 @@ Side side(const std::string& argument, const Arguments& arguments, const std::op
     require_text(command);
     return {command.source, {}, std::nullopt, command};
   }
-  if (design) find_processor(*design, argument);  // names the nearest
+  if (design) require(design->find(argument), "", "; there is no such file either");
   throw Failure(kRefused, one_line(argument) + ": no such file, and there is no design to find a processor in");
 }
 

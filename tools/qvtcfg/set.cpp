@@ -165,14 +165,15 @@ std::string marked(const char* sign, const std::vector<MarkedWord>& words, Style
 }
 
 void print_lines(const Target& target, Output& out) {
+  const std::string before = command_in(target.file.content.value_or(""));
   const std::string after = target.command();
   if (!target.changes()) {
     out.line("  " + visible(after));
     out.line("nothing changes");
-  } else if (!target.file.content) {
+  } else if (before.empty()) {
     out.line("+ " + out.styled(Style::kAdded, visible(after)));
   } else {
-    const WordDiff diff = word_diff(command_in(*target.file.content), after);
+    const WordDiff diff = word_diff(before, after);
     out.line(marked("-", diff.before, Style::kRemoved, out));
     out.line(marked("+", diff.after, Style::kAdded, out));
   }
