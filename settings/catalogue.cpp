@@ -623,7 +623,8 @@ const Catalogue& catalogue() {
   static const Catalogue made = [] {
     Catalogue all;
     for (Entry& entry : make_entries()) {
-      all.settings.push_back(entry.setting);
+      for (const SettingWord& word : entry.row.words) entry.setting.words.push_back(word.name);
+      all.settings.push_back(std::move(entry.setting));
       all.rows.push_back(std::move(entry.row));
     }
     for (std::size_t i = 0; i < all.rows.size(); ++i) all.rows[i].setting = &all.settings[i];

@@ -161,17 +161,36 @@ Expected<Configuration> Configuration::read(Processor processor, std::string_vie
   return configuration;
 }
 
-Expected<Configuration> Configuration::open(Processor processor, const std::string& path) {
+namespace {
+
+Expected<FileContent> content_of(const std::string& path) {
   FileContent file = read_whole_file(path, kLargestFile);
   if (!file.error.empty()) return Error{ErrorCode::file, path + ": " + file.error, {}};
-  Expected<Configuration> configuration = read(std::move(processor), file.bytes, TextKind::optionFile);
+  return file;
+}
+
+}  // namespace
+
+Expected<Configuration> Configuration::open(Processor processor, const std::string& path) {
+  Expected<FileContent> file = content_of(path);
+  if (!file) return file.error();
+  Expected<Configuration> configuration = read(std::move(processor), file->bytes, TextKind::optionFile);
   if (!configuration) {
     Error error = configuration.error();
     error.message = path + ": " + error.message;
     return error;
   }
   configuration->m_content->path = path;
-  configuration->m_content->file = std::move(file);
+  configuration->m_content->file = std::move(*file);
+  return configuration;
+}
+
+Expected<Configuration> Configuration::over(Processor processor, const std::string& path) {
+  Expected<FileContent> file = content_of(path);
+  if (!file) return file.error();
+  Configuration configuration(std::move(processor));
+  configuration.m_content->path = path;
+  configuration.m_content->file = std::move(*file);
   return configuration;
 }
 
@@ -319,7 +338,10 @@ std::vector<Loss> Configuration::copy_settings(const Configuration& from) {
       continue;
     }
     if (const auto done = set(setting, value); !done) {
-      left.push_back({&setting, std::string(setting.name) + " " + value_text(setting, value), done.error().message});
+      std::string why = done.error().message;
+      const std::string name(setting.name);
+      if (why.starts_with(name + ": ")) why.erase(0, name.size() + 2);
+      left.push_back({&setting, name + " " + value_text(setting, value), std::move(why)});
     }
   }
   // A setting that another one brought along is not left.
@@ -423,7 +445,9 @@ Expected<Edit> edit(const Processor& processor, std::string_view text, TextKind 
   std::string from(text);
   Expected<Configuration> configuration = Configuration::read(processor, from, kind);
   const auto offPins = [](const Change& change) {
-    return change.setting == "cpu-jtag" && (change.toDefault || change.value == "off");
+    if (change.setting != "cpu-jtag") return false;
+    const auto value = parse_value(*find_setting(change.setting), change.value);
+    return change.toDefault || (value && *value == SettingValue(false));
   };
   const bool pinsRemoved = !configuration && std::ranges::any_of(changes, offPins);
   if (pinsRemoved) {

@@ -187,6 +187,7 @@ Expected<SettingSet> written_settings(const State& state) {
 
 std::string why_not_written(const SettingRow& row, const State& state) {
   if (!row.applies.holds(state)) return row.applies.otherwise;
+  if (row.setting->kind == SettingKind::devices) return "of a device number, part, length and IDCODE are written";
   for (const Option& option : options()) {
     for (const Keyword& keyword : option.group.keywords) {
       if (!is_about(&keyword, *row.setting) || keyword.written.holds == kAlways.holds) continue;

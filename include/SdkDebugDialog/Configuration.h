@@ -134,6 +134,10 @@ class SDKDEBUGDIALOG_API Configuration {
   // working directory. ErrorCode::notUnderstood, ErrorCode::file.
   static Expected<Configuration> open(Processor processor, const std::string& path);
 
+  // The defaults, to be stored in place of a file that is there: the file is kept as it is now, understood or not, so
+  // that store() notices when it changes. ErrorCode::file.
+  static Expected<Configuration> over(Processor processor, const std::string& path);
+
   Configuration(const Configuration& other);
   Configuration(Configuration&& other) noexcept;
   Configuration& operator=(const Configuration& other);

@@ -53,6 +53,9 @@ struct Setting {
   // The names of other settings that may change when this one is set, separated by a blank; empty: none.
   std::string_view follows;
   bool readOnly = false;  // what the design or another setting tells
+  // Of SettingKind::word and words: every word, whether or not it can be chosen now. Those of "cable" are in the order
+  // of Engine::CableType.
+  std::vector<std::string_view> words = {};
 };
 
 // Every setting, in the order in which changes are applied: a setting comes before those that depend on it.

@@ -16,11 +16,6 @@ using SdkDebugDialog::Configuration;
 using SdkDebugDialog::Engine;
 using SdkDebugDialog::find_setting;
 
-// The names of Engine::CableType.
-constexpr const char* kNames[] = {
-    "none",          "zarvek_svffile",  "zarvek_parallel4", "zarvek_platformusb", "zarvek_parallel3",
-    "zarvek_plugin", "digilent_plugin", "zarvek_tcf"};
-
 struct Cable {
   unsigned int type;
   std::string name;
@@ -49,9 +44,10 @@ bool is_written(const std::string& name) {
 
 Cable described(unsigned int number) {
   const auto type = static_cast<Engine::CableType>(number);
+  const std::string name(find_setting("cable")->words[number]);
   return {number,
-          kNames[number],
-          is_written(kNames[number]),
+          name,
+          is_written(name),
           SdkDebugDialog::setcable_default_frequency(type),
           SdkDebugDialog::setcable_default_port(type),
           frequencies_of(type)};
@@ -83,7 +79,7 @@ ExitCode run_cables(const Arguments& arguments, Output& out) {
   Json list = Json::array();
   std::vector<std::vector<std::string>> rows = {
       {"TYPE", "NAME", "WRITTEN", "FREQUENCY", "PORT", "SUPPORTED FREQUENCIES (Hz)"}};
-  for (unsigned int type = 0; type < std::size(kNames); ++type) {
+  for (unsigned int type = 0; type < find_setting("cable")->words.size(); ++type) {
     const Cable cable = described(type);
     rows.push_back(row(cable));
     list.push_back(member(cable));

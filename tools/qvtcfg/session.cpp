@@ -7,6 +7,7 @@
 #include <memory>
 #include <system_error>
 
+#include "SdkDebugDialog/OptionFile.h"
 #include "failure.h"
 #include "given_text.h"
 #include "platform/DesignFile.h"
@@ -19,14 +20,12 @@ using SdkDebugDialog::Configuration;
 using SdkDebugDialog::Design;
 using SdkDebugDialog::Edit;
 using SdkDebugDialog::ErrorCode;
+using SdkDebugDialog::kLongestLine;
 using SdkDebugDialog::Loss;
 using SdkDebugDialog::OnLoss;
 using SdkDebugDialog::Processor;
 
 constexpr const char* kDefaultDesign = "design.json";
-
-// The number of bytes of a command that are read from an option file.
-constexpr std::size_t kLongestCommand = 1023;
 
 std::string_view first_line(std::string_view content) {
   content.remove_prefix(std::min(content.find_first_not_of('\n'), content.size()));
@@ -78,20 +77,20 @@ Configuration open_configuration(const Processor& processor, const OptionFile& f
     advice += ", or replace it with 'qvtcfg read " + processor.name() + " TEXT --write'";
   }
   const std::string_view line = first_line(file.content ? *file.content : std::string_view());
-  require_text({std::string(line.substr(0, kLongestCommand)), file.shown}, advice);
+  require_text({std::string(line.substr(0, kLongestLine)), file.shown}, advice);
   auto configuration = Configuration::open(processor, file.path);
   if (!configuration && configuration.error().code == ErrorCode::file) {
     advice = "; it contains the settings of the processor: make it readable first";
   }
   if (!configuration) throw Failure(configuration.error(), file.shown, advice, file.path);
-  if (line.size() > kLongestCommand) {
-    complain("warning: " + file.shown + ": the command is longer than " + std::to_string(kLongestCommand) +
+  if (line.size() > kLongestLine) {
+    complain("warning: " + file.shown + ": the command is longer than " + std::to_string(kLongestLine) +
              " characters, and the rest is not read");
   }
   return *configuration;
 }
 
-std::string command_in(std::string_view content) { return std::string(first_line(content).substr(0, kLongestCommand)); }
+std::string command_in(std::string_view content) { return std::string(SdkDebugDialog::option_line(content)); }
 
 void require_safe(const Edit& edit, const OptionFile& file, bool force, const std::vector<std::string>& warnings) {
   for (const std::string& warning : warnings) {

@@ -33,7 +33,7 @@ using SdkDebugDialog::TextKind;
 struct Target {
   std::string processor;
   OptionFile file;
-  Configuration configuration;  // not read from the file if the file is refused and the edit puts that right
+  Configuration configuration;  // the defaults if the file is refused and the edit puts that right
   Edit edit;
   std::vector<std::string> warnings;
   std::vector<Loss> not_taken;  // settings that could not be copied
@@ -77,6 +77,8 @@ Target changed(const Processor& processor, const Arguments& arguments, const std
     target.configuration = open_configuration(processor, target.file);
   } catch (const Failure& refused) {
     target.edit = edit_of_refused(processor, target.file, changes, refused);
+    target.configuration =
+        require(Configuration::over(processor, target.file.path), target.file.shown, "", target.file.path);
     return target;
   }
   target.warnings = apply_changes(changes, target.configuration, subject);

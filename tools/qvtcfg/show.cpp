@@ -43,13 +43,9 @@ void show_settings(const Arguments& arguments, const Configuration& configuratio
   print_settings(configuration, choice, out);
 }
 
-// The option file to be replaced, so that it is replaced only as it is now; the settings given if nobody understands
-// what is in it.
-Configuration to_replace(const Configuration& given, const OptionFile& file) {
-  const auto present = Configuration::open(given.processor(), file.path);
-  if (present) return *present;
-  if (present.error().code != ErrorCode::notUnderstood) throw Failure(present.error(), file.shown, "", file.path);
-  return given;
+// The option file to be replaced, so that it is replaced only as it is now.
+Configuration to_replace(const Processor& processor, const OptionFile& file) {
+  return require(Configuration::over(processor, file.path), file.shown, "", file.path);
 }
 
 std::string advice_for(const Processor& processor) {
@@ -129,7 +125,7 @@ ExitCode run_read(const Arguments& arguments, Output& out) {
   const OptionFile file = option_file_of(processor, arguments);
   const Edit edit = require(configuration.for_file(), given.source, kChangeCable);
   require_safe(edit, file, arguments.force);
-  Configuration replaced = to_replace(configuration, file);
+  Configuration replaced = to_replace(processor, file);
   const auto show = [&] {
     show_settings(arguments, stored(configuration, edit), {given.source, file.shown, command_in(edit.text)}, out);
   };
