@@ -44,6 +44,22 @@ std::vector<const Run*> runs_of(const Option& option) {
   return runs;
 }
 
+// The bits of the runs that a command in an option file can have.
+unsigned runs_in_files() {
+  unsigned runs = 0;
+  for (const Target& target : targets()) {
+    const bool hasHead = std::ranges::any_of(
+        heads(), [&](const Head& head) { return head.inFile && head.virtualPlatform == target.virtualPlatform; });
+    if (!target.inFile || !hasHead) continue;
+    for (const Connection& connection : target.connections) runs |= connection.options.bit;
+    if (target.options != nullptr) runs |= target.options->bit;
+  }
+  const bool hasHdlSim = std::ranges::any_of(options(), [&](const Option& option) {
+    return option.takes == Option::Takes::ownRun && (option.runs & runs) != 0;
+  });
+  return hasHdlSim ? runs | kHdlSimOptions.bit : runs;
+}
+
 std::string where(const std::vector<const Run*>& runs) {
   return listed(runs, [](const Run* run) { return run->where; });
 }
@@ -173,7 +189,8 @@ std::vector<Row> reasons(Reason reason) {
 
 std::string print_option_index(const Links& links) {
   constexpr const Run* kColumns[] = {&kGeneralOptions, &kOdmOptions, &kDccOptions, &kQmtcOptions, &kPpcSimOptions};
-  Row head = {"option", "for"};
+  const unsigned inFiles = runs_in_files();
+  Row head = {"option", "for", "in a file"};
   for (const Run* const run : kColumns) head.emplace_back(run->where);
   head.emplace_back("others");
 
@@ -181,7 +198,8 @@ std::string print_option_index(const Links& links) {
   for (const Option& option : options()) {
     const auto link = links.find(&option);
     if (link == links.end()) throw std::runtime_error("no part describes the option " + plain(option.name));
-    Row row = {'[' + code(option.name) + "](" + link->second + ')', option.meaning};
+    Row row = {'[' + code(option.name) + "](" + link->second + ')', option.meaning,
+               yes_or_no((option.runs & inFiles) != 0)};
     std::vector<const Run*> others = runs_of(option);
     for (const Run* const column : kColumns) row.emplace_back(std::erase(others, column) != 0 ? "yes" : "");
     row.push_back(where(others));

@@ -69,6 +69,17 @@ TEST(Documents, RefuseAPartThatThereIsNot) {
   }
 }
 
+// Only the targets odm and dcc take it, and no option file has them.
+TEST(Documents, MarkTheOptionThatNoOptionFileHas) {
+  std::vector<std::string> notInAFile;
+  for (const std::string& line : lines_of(content("docs/connect-command.md"))) {
+    if (line.starts_with("| [`-") && line.find(" | no | ") != std::string::npos) {
+      notInAFile.push_back(line.substr(0, line.find(']')));
+    }
+  }
+  EXPECT_EQ(notInAFile, std::vector<std::string>{"| [`-uart`"});
+}
+
 // --- Examples ---
 
 struct Example {
