@@ -22,27 +22,27 @@ struct Draft {
   std::string_view word(std::size_t i) const;
   // Whether the reader looks at the word.
   bool is_read(std::size_t i) const { return words[i].role != Role::ignored; }
-  // The last word that is read; that of the number of words when there is none.
+  // The last word that is read; words.size() if there is none.
   std::size_t last_read() const;
 
-  // The first and the last word of an option and what belongs to it, which is read.
+  // An option and what belongs to it: the first and the last word that are read.
   struct Group {
     std::size_t first = 0;
     std::size_t last = 0;
     const Option* option = nullptr;  // null for an unknown one
   };
-  // By the number of the group; that of the words before the first option is 0.
+  // By the number of the group; group 0 has the words before the first option.
   std::vector<Group> groups;
 };
 
-// Changes in a draft, collected and made at once. They are made in the order of the words, those at one place in the
-// order in which they came.
+// Changes in a draft, collected and made at once. Changes at the same place are made in the order in which they were
+// added.
 class Changes {
  public:
   explicit Changes(const Draft& draft) : m_draft(draft) {}
 
   void replace(std::size_t word, std::string_view by);
-  // With the white space in front.
+  // Removes the word with the white space in front of it.
   void remove(std::size_t word);
   void add_behind(std::size_t word, std::string_view text);
 

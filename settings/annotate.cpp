@@ -17,7 +17,7 @@ namespace {
 const Setting* setting_of(const WalkedWord& word) {
   switch (word.role) {
     case Role::target:
-      // The head of a virtual platform's command and its target stand for a connection.
+      // A command for the virtual platform has no connection keyword: its target selects the connection.
       return word.target->virtualPlatform ? find_setting("connection") : nullptr;
     case Role::connection:
       return find_setting("connection");

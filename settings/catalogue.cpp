@@ -132,7 +132,7 @@ std::vector<std::string> names_in_set(std::uint32_t set) {
 
 // --- Engines for a call ---
 
-// Runs an operation of the engine on the state; empty, or the engine's error text.
+// Runs an operation of an engine on the state. Returns an empty text, or the engine's error text.
 template <class Operation>
 std::string by_engine(State& state, Operation operation) {
   Engine engine;
@@ -190,8 +190,8 @@ std::string set_connection(const SettingRow& row, State& s, const SettingValue& 
 
 constexpr unsigned kStubFlags = Engine::STUB_JTAG_PRESENT | Engine::STUB_UART_PRESENT;
 
-// Selects the stub. The engine wants the flag of a new link in the selected connection, and the writer no flag. Without
-// a design nobody knows the flags, and any link is accepted.
+// Selects the stub. To change the link, the engine needs its flag in the selected connection; the writer accepts no
+// flag there. Without a design the flags are not known, and any link is accepted.
 std::string set_stub(const SettingRow& row, State& s, const SettingValue& value, bool hasDesign) {
   const auto type =
       static_cast<Engine::StubType>(std::ranges::find(row.words, text_of(value), &SettingWord::name)->value);
@@ -242,7 +242,7 @@ std::string set_sim_host(const SettingRow& /*row*/, State& s, const SettingValue
   return {};
 }
 
-// A text can only say both.
+// The text has one word for this setting and "configured".
 std::string set_accuracy(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
   s.processor.vpCycleApproximate = std::get<bool>(value) ? 1 : 0;
   s.processor.vpConfigured = s.processor.vpCycleApproximate;
@@ -260,7 +260,7 @@ std::string set_hdl_host(const SettingRow& /*row*/, State& s, const SettingValue
   return {};
 }
 
-// What goes with the simulator is told behind it.
+// Host and port stand behind the option of the simulator, and go with it.
 std::string set_hdl_simulator(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
   s.processor.modelSimEnabled = std::get<bool>(value) ? 1 : 0;
   if (s.processor.modelSimEnabled == 0) {
@@ -277,7 +277,7 @@ SettingValue get_cpu(const SettingRow& /*row*/, const State& s) {
   return std::int64_t{static_cast<std::int8_t>(s.processor.cpuNr)};
 }
 
-// Sets a base, or unsets it; of the map's base the whole map follows.
+// Sets a base, or unsets it. The base of the instruction cache is that of the map.
 template <std::uint32_t P::*base>
 std::string set_base(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
   if (std::holds_alternative<std::monostate>(value)) {
@@ -322,7 +322,7 @@ std::vector<std::string> choose_cable(const SettingRow& row, const State& /*s*/)
   return names;
 }
 
-// A new type has its own defaults; the type that there is keeps everything.
+// A new type brings its own defaults. Setting the type again changes nothing.
 std::string set_cable(const SettingRow& row, State& s, const SettingValue& value, bool /*hasDesign*/) {
   const auto type =
       static_cast<Engine::CableType>(std::ranges::find(row.words, text_of(value), &SettingWord::name)->value);
@@ -340,7 +340,7 @@ std::vector<std::string> choose_frequency(const SettingRow& row, const State& s)
   return texts;
 }
 
-// The error names both neighbours.
+// The error names the nearest frequencies below and above.
 std::string set_frequency_of_cable(const SettingRow& row, State& s, const SettingValue& value, bool /*hasDesign*/) {
   const std::int64_t hz = std::get<std::int64_t>(value);
   const auto accepted = type_of(s).accepted;
@@ -389,7 +389,7 @@ std::string set_svf_file(const SettingRow& /*row*/, State& s, const SettingValue
 
 SettingValue get_cpu_jtag(const SettingRow& /*row*/, const State& s) { return s.cpuJtag != 0; }
 
-// Reading "-configdevice jtagport cpu" makes a device without any value, which goes with it.
+// Reading "-configdevice jtagport cpu" adds a device without any value; it is removed with the setting.
 std::string set_cpu_jtag(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
   const bool on = std::get<bool>(value);
   if (!on && s.cpuJtag != 0) std::erase(s.chain, JtagOption());
@@ -467,7 +467,7 @@ Entry base(std::string_view name, std::string_view label, std::string_view meani
              {.max = kMaxAddress, .follows = follows, .set = set_base<field>});
 }
 
-// In the order in which changes are applied; settings of a group follow each other.
+// In the order in which changes are applied; the settings of a group stand together.
 std::vector<Entry> make_entries() {
   using enum SettingKind;
   return {

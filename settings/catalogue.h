@@ -23,7 +23,7 @@ struct SettingWord {
 
 struct SettingRow;
 
-// When a setting applies, and the reason why it otherwise does not.
+// When a setting applies, and the reason why it does not otherwise.
 struct Applies {
   bool (*holds)(const State& state);
   const char* otherwise;
@@ -32,43 +32,43 @@ struct Applies {
 struct SettingRow {
   const Setting* setting = nullptr;
   Field field;                     // where a plain value is kept
-  std::vector<SettingWord> words;  // of a word or of a set of words
+  std::vector<SettingWord> words;  // that the value can be, of a kind that is made of words
   Applies applies;
   std::int64_t max = 0;  // the largest number
 
-  // Only where a value is not simply kept in the field. set changes the state and answers an empty text, or changes
-  // nothing and answers why.
+  // Only where a value is not simply kept in the field. set changes the state and returns an empty text, or changes
+  // nothing and returns why.
   SettingValue (*get)(const SettingRow& row, const State& state) = nullptr;
   std::string (*set)(const SettingRow& row, State& state, const SettingValue& value, bool hasDesign) = nullptr;
-  bool resetPlainly = false;  // the default is kept in the field, without set
-  bool alsoWhenSame = false;  // setting the value that there is has an effect
-  bool manyWords = false;     // a text that set checks, not one word
+  bool resetPlainly = false;  // a reset stores the default in the field, without set
+  bool alsoWhenSame = false;  // setting the value that it already has has an effect
+  bool manyWords = false;     // a text that may be several words; set checks it
   // The default, where it depends on other settings or on the design.
   SettingValue (*initial)(const State& state, const State& defaults) = nullptr;
-  // The values accepted now as text, and whether others are accepted too.
+  // The values accepted now, as text.
   std::vector<std::string> (*choices)(const SettingRow& row, const State& state) = nullptr;
-  // Why the setting may not be changed here; null: it may.
+  // Why the setting may not be changed here; null if it may.
   const char* (*fixed)(const State& state, bool hasDesign) = nullptr;
 };
 
 std::span<const SettingRow> setting_rows();
 const SettingRow& row_of(const Setting& setting);
-const SettingRow& row_named(std::string_view name);  // there must be one
+const SettingRow& row_named(std::string_view name);  // a setting of this name must exist
 
-// The setting that the row of the syntax sets; null when it sets none.
+// The setting that a row of the syntax sets; null if it sets none.
 const Setting* setting_of(const Keyword& keyword);
 
 SettingValue value_of(const SettingRow& row, const State& state);
 SettingValue initial_of(const SettingRow& row, const State& state, const State& defaults);
 
-// Why the value is none that the setting can have; empty if it can.
+// Why the setting cannot have the value; empty if it can.
 std::string why_invalid(const SettingRow& row, const State& state, const SettingValue& value);
-// Sets a valid value. Empty, or why it was refused: nothing is changed then.
+// Sets a valid value. Returns an empty text, or why it was refused; then nothing has changed.
 std::string set_value(const SettingRow& row, State& state, const SettingValue& value, bool hasDesign);
-// Puts the default in. For a setting that other settings follow these get their defaults as well.
+// Sets the default. The settings that follow this one get their defaults as well.
 void reset_value(const SettingRow& row, State& state, const State& defaults);
 
-// What is accepted and yet looks wrong, of the settings that this one has to do with.
+// What looks wrong about the setting, alone or together with others, although it is accepted.
 std::vector<std::string> warnings_of(const SettingRow& row, const State& state);
 
 // The rows whose values differ, in the order of the catalogue.

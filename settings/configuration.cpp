@@ -120,7 +120,7 @@ struct Configuration::Content {
   Processor processor;
   State defaults;
   State state;
-  SettingSet toDefault;  // settings that were put back, whose words are not needed
+  SettingSet toDefault;  // settings that were reset, whose words are not needed
 
   TextKind kind = TextKind::optionFile;
   std::string text;  // as read
@@ -344,7 +344,7 @@ std::vector<Loss> Configuration::copy_settings(const Configuration& from) {
       left.push_back({&setting, name + " " + value_text(setting, value), std::move(why)});
     }
   }
-  // A setting that another one brought along is not left.
+  // What has changed along with another setting has been taken over as well.
   std::erase_if(left, [&](const Loss& loss) { return value(*loss.setting) == from.value(*loss.setting); });
   return left;
 }

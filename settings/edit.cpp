@@ -1,4 +1,4 @@
-// Edits in place, setting by setting, each read back before it is taken; and commands written anew.
+// Edits in place, setting by setting: each new text is read before it is accepted. Commands written anew.
 
 #include "settings/edit.h"
 
@@ -16,7 +16,7 @@ namespace {
 
 std::size_t place_of(const SettingRow& row) { return static_cast<std::size_t>(&row - setting_rows().data()); }
 
-// --- From what a text means to what is wanted ---
+// --- In place ---
 
 struct Meant {
   std::string text;
@@ -31,7 +31,8 @@ std::optional<Meant> meaning_of(std::string text, const EditTask& task) {
   return Meant{std::move(text), std::move(reading.state), std::move(wrong)};
 }
 
-// Goes on from a text setting by setting, and takes only what the reader understands and what spoils nothing.
+// Changes one setting after the other. A new text is accepted if the reader understands it, fewer settings are wrong
+// than before, and none is wrong that was right.
 Meant step_by_step(Meant now, const EditTask& task) {
   for (bool moved = true; moved && !now.wrong.empty();) {
     moved = false;
@@ -53,7 +54,7 @@ Meant step_by_step(Meant now, const EditTask& task) {
   return now;
 }
 
-// Removes the words of settings that were put back and that the text tells without need.
+// Removes the words of settings that were reset, where the text means the same without them.
 std::string without_needless(Meant now, const EditTask& task) {
   for (const SettingRow& row : setting_rows()) {
     if (!task.toDefault.test(place_of(row))) continue;
@@ -67,7 +68,7 @@ std::string without_needless(Meant now, const EditTask& task) {
   return std::move(now.text);
 }
 
-// The first way of each setting, one after the other: for changes that are not understood one by one.
+// Changes all settings at once, each in its best way: for changes that the reader only understands together.
 std::optional<Meant> all_at_once(const EditTask& task) {
   std::string text(task.text);
   for (const SettingRow* const row : differing(task.before, task.wanted)) {
@@ -95,7 +96,7 @@ std::string with_command(const EditTask& task, std::string_view command) {
   return std::string(task.text).replace(static_cast<std::size_t>(old.data() - task.text.data()), old.size(), command);
 }
 
-// Words that set nothing, as they stand: options that are accepted and forgotten, and what is not looked at.
+// Words that set nothing, as they stand: options that are accepted and forgotten, and words that are not read.
 std::vector<std::string> words_without_setting(std::string_view text, TextKind kind) {
   const std::string_view command = command_in(text, kind);
   const auto begin = static_cast<std::size_t>(command.data() - text.data());
@@ -246,7 +247,7 @@ Expected<Edit> edit_text(const EditTask& task) {
   }
   Expected<Edit> anew = write_anew(task);
   if (!anew || anew->losses.empty()) return anew;
-  // What the writer does not write may be put in all the same.
+  // What the writer leaves out can perhaps be added to its text.
   std::optional<Meant> written = meaning_of(anew->text, task);
   if (!written) return anew;
   return finished(task, step_by_step(std::move(*written), task).text, true);

@@ -1,6 +1,6 @@
 #pragma once
 
-// Makes a text mean other settings.
+// Edits a text so that it has other settings.
 
 #include <bitset>
 #include <string>
@@ -12,7 +12,7 @@
 
 namespace SdkDebugDialog {
 
-// Bits of settings, by their places in the catalogue.
+// A set of settings, by their places in the catalogue.
 using SettingSet = std::bitset<64>;
 
 // A text, and what it is to mean.
@@ -22,22 +22,22 @@ struct EditTask {
   TextKind kind;
   const State& before;      // what the text means
   const State& wanted;      // what it is to mean
-  SettingSet toDefault;     // whose words go if their defaults are read then
+  SettingSet toDefault;     // those whose words are removed if the reader then gives the default
   TextKind written = kind;  // what the new text is to be read as
 };
 
-// In place if that is possible, else anew. ErrorCode::cannotBeWritten.
+// In place if that is possible; otherwise the command is written anew. ErrorCode::cannotBeWritten.
 Expected<Edit> edit_text(const EditTask& task);
 
-// As the engine writes it; nothing that it does not write is added. ErrorCode::cannotBeWritten.
+// With the command as the engine writes it, and nothing added to it. ErrorCode::cannotBeWritten.
 Expected<Edit> write_anew(const EditTask& task);
 
-// The settings that the command has which the engine writes for the state; ErrorCode::cannotBeWritten.
+// The settings in the command that the engine writes for the state. ErrorCode::cannotBeWritten.
 Expected<SettingSet> written_settings(const State& state);
-// Why a command for the state has not got a setting, by what the syntax tells of it.
+// Why the command for the state does not have a setting, according to the tables of the syntax.
 std::string why_not_written(const SettingRow& row, const State& state);
 
-// Removes what cpu-jtag makes the writer write, which no reader takes.
+// Removes the words that the writer writes for cpu-jtag, which no reader accepts.
 std::string without_own_pins(std::string_view text, TextKind kind);
 
 }  // namespace SdkDebugDialog

@@ -1,6 +1,6 @@
 #pragma once
 
-// Reads and writes a state by the engine's readers and writers.
+// Reads and writes a state with the engine's readers and writers.
 
 #include <cstddef>
 #include <string>
@@ -13,7 +13,7 @@
 
 namespace SdkDebugDialog {
 
-// The defaults of a processor, with the FPU that the design tells.
+// The defaults of a processor, with the FPU that it has in the design.
 State defaults_of(const Processor& processor);
 
 // What was read from a text; the defaults from an option file with nothing in it.
@@ -21,8 +21,8 @@ struct Reading {
   bool understood = false;
   State state;               // only if the text was understood
   std::string engineText;    // the reader's error text, often empty
-  bool loneDash = false;     // the reader ended at a dash alone
-  std::size_t consumed = 0;  // where the reader stopped, in bytes from the begin of the text
+  bool loneDash = false;     // the reader stopped at a lone dash
+  std::size_t consumed = 0;  // where the reader stopped, in bytes from the beginning of the text
 };
 Reading read_state(const Processor& processor, std::string_view text, TextKind kind);
 

@@ -123,8 +123,8 @@ std::optional<std::int64_t> to_number(bool negative, const std::string& digits, 
   return number;
 }
 
-// The exponent that the text has in front, which is removed; 0 if it has none. A huge one is cut: the result decides
-// that a number is too large or not whole, just as the true one would.
+// Removes the exponent at the front of the text and returns it; 0 if there is none. A huge exponent is returned as a
+// smaller one that is still huge: the number is too large, or not whole, with either.
 std::optional<std::int64_t> take_exponent(std::string_view& text) {
   if (!take(text, "e")) return 0;
   const bool negative = take(text, "-");

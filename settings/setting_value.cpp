@@ -14,7 +14,7 @@ namespace SdkDebugDialog {
 namespace {
 
 Records records_of(const State& state) {
-  // Reading needs records that are not const, as writing does.
+  // Records has no const pointers, because readers and writers share it; here nothing is changed.
   auto& s = const_cast<State&>(state);
   return {.processor = &s.processor, .cable = &s.cable};
 }

@@ -11,7 +11,8 @@
 namespace SdkDebugDialog {
 namespace {
 
-// Walks over a command, or over options alone, in the steps of the readers. A word that it does not come to is ignored.
+// Goes through a command, or through options alone, in the same steps as the readers. Words that it does not reach are
+// Role::ignored.
 class Walker {
  public:
   // The line is a part of the text, and positions are those in the text.
@@ -64,7 +65,7 @@ class Walker {
     return SdkDebugDialog::find_target(word(), virtualPlatform, m_cursor.letter_case());
   }
 
-  // Says what the next word is, and goes on behind it.
+  // Records what the next word is, and goes to the one behind it.
   void take(Role role, const Keyword* keyword = nullptr) {
     WalkedWord& taken = m_words[m_at++];
     m_here.begin = taken.begin;
@@ -129,7 +130,7 @@ class Walker {
     }
   }
 
-  // The reader looks at one option, or passes over one other word.
+  // The reader reads one option, if there is one, and ignores the rest.
   void single_option() {
     if (next() == Token::option) option();
     while (m_at != m_words.size()) take(Role::ignored);

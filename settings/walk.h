@@ -1,6 +1,6 @@
 #pragma once
 
-// What each word of a text is, by the registry of the syntax.
+// What each word of a text is, according to the tables of the syntax.
 
 #include <cstddef>
 #include <string_view>

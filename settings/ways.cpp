@@ -1,5 +1,5 @@
-// For each setting that is to change there are a few ways to say so in a text. Whoever tries them takes the first one
-// that the reader understands as wanted. So no way needs to know what the reader makes of the rest of the text.
+// There are a few ways to change a setting in a text. The caller tries them and takes the first one that the reader
+// understands as wanted, so that no way needs to know what the rest of the text means.
 
 #include "settings/ways.h"
 
@@ -18,7 +18,7 @@ using Takes = Option::Takes;
 
 bool has_pairs(const Option& option) { return option.takes == Takes::pairs; }
 
-// Some settings are told by the word of another one.
+// Some settings have no word of their own: the word of another setting sets both.
 const Setting& told_by(const Setting& setting) {
   constexpr std::pair<std::string_view, std::string_view> kTold[] = {
       {"sim-port", "sim-host"},
@@ -31,7 +31,7 @@ const Setting& told_by(const Setting& setting) {
   return row != std::end(kTold) ? *find_setting(row->second) : setting;
 }
 
-// The setting of a value, or of an option without one.
+// The setting that a word sets, if the word is a value or an option without one.
 const Setting* set_by(const WalkedWord& word) {
   if (word.role == Role::value && word.keyword != nullptr) return setting_of(*word.keyword);
   const bool isFlag = word.role == Role::option && word.option != nullptr &&
@@ -52,8 +52,8 @@ std::vector<std::size_t> values_of(const Draft& draft, const Setting& setting) {
 
 // --- Removing ---
 
-// The ways to remove the words of values. A value goes with its keyword or its option, and the hardware simulator with
-// its options. An option whose pairs are all gone goes too, or it stays.
+// The ways to remove values. A value is removed with its keyword or its option, and the hardware simulator with its own
+// options. An option that loses all its pairs is removed too in the first way, and stays in the second.
 std::vector<std::string> ways_without(const Draft& draft, const std::vector<std::size_t>& values) {
   std::set<std::size_t> gone;
   for (const std::size_t i : values) {
@@ -81,7 +81,7 @@ std::vector<std::string> ways_without(const Draft& draft, const std::vector<std:
   return {without(), optionsStay};
 }
 
-// A cable goes with everything that is said about it.
+// Removes the cable with all its keywords.
 std::string without_cable(const Draft& draft) {
   Changes changes(draft);
   for (const Draft::Group& group : draft.groups) {
@@ -119,7 +119,7 @@ bool runs_hdl_simulator(const Draft& draft) {
 // other option.
 std::vector<std::size_t> places_for(const Draft& draft, const Option& option) {
   if (draft.groups.empty()) return {};
-  std::map<std::size_t, std::size_t> lastOf;  // by place in the table; 0 for the words before the first option
+  std::map<std::size_t, std::size_t> lastOf;  // by place in the table, from 1; 0 for the words before the first option
   for (std::size_t i = 0; i < draft.groups.size(); ++i) {
     const Draft::Group& group = draft.groups[i];
     const std::size_t place = i == 0 || group.option == nullptr ? 0 : place_in_table(*group.option) + 1;
@@ -137,7 +137,8 @@ std::vector<std::size_t> places_for(const Draft& draft, const Option& option) {
   return places;
 }
 
-// Where a pair joins the words of its group: before the first one that the writer would put behind it, and at the end.
+// Behind which words a pair can join its option: in front of the first pair that the writer would write later, and at
+// the end.
 std::vector<std::size_t> places_in(const Draft& draft, const Draft::Group& group, const Keyword& keyword) {
   for (std::size_t i = group.first + 1; i <= group.last; ++i) {
     const WalkedWord& word = draft.words[i];
@@ -150,7 +151,7 @@ const Keyword& frequency_row() {
   return *std::ranges::find(kCable.keywords, "frequency", [](const Keyword& k) { return k.name.text(); });
 }
 
-// The same text with the frequency written out that a cable at its end implies, so that options can follow.
+// A cable at the end of a text implies a frequency: the same text with it written out, so that options can follow.
 Draft with_frequency_written(const Draft& draft, const State& now) {
   const std::size_t last = draft.last_read();
   if (last == draft.words.size() || now.cable.frequency == 0) return draft;
@@ -163,7 +164,7 @@ Draft with_frequency_written(const Draft& draft, const State& now) {
   return {with_behind(draft, place, pair_text(frequency_row(), now)), draft.kind};
 }
 
-// The ways to put an option in.
+// Adds the ways to add an option.
 void add_option(std::vector<std::string>& ways, const Draft& draft, const Option& option, const std::string& text,
                 const State& now) {
   const Draft whole = with_frequency_written(draft, now);
@@ -172,7 +173,7 @@ void add_option(std::vector<std::string>& ways, const Draft& draft, const Option
   for (const std::size_t place : places_for(draft, option)) ways.push_back(with_behind(draft, place, text));
 }
 
-// The ways to say a setting that the text does not say yet.
+// Adds the ways to add the words of a setting that the text does not have.
 void add_setting(std::vector<std::string>& ways, const Draft& draft, const Setting& setting, const Meanings& meanings) {
   const Run* const run = main_run(draft);
   const unsigned runs = (run != nullptr ? run->bit : 0) | (runs_hdl_simulator(draft) ? kHdlSimOptions.bit : 0);
@@ -262,7 +263,7 @@ std::vector<const Draft::Group*> device_groups(const Draft& draft) {
   return found;
 }
 
-// The words of one device, keyword by keyword.
+// Changes the words of one device, keyword by keyword.
 void change_device(Changes& changes, const Draft& draft, const Draft::Group& group, const JtagOption& before,
                    const JtagOption& after) {
   for (const Keyword& row : kConfigdevice.keywords) {
@@ -285,7 +286,7 @@ void change_device(Changes& changes, const Draft& draft, const Draft::Group& gro
   }
 }
 
-// Devices that are the same at both ends of the chain keep their words.
+// Devices at the beginning and at the end of the chain that do not change keep their words.
 std::vector<std::string> ways_of_devices(const Draft& draft, const Meanings& meanings) {
   const std::vector<JtagOption>& before = meanings.now.chain;
   const std::vector<JtagOption>& after = meanings.wanted.chain;
@@ -373,7 +374,7 @@ std::vector<std::string> ways_of(const Draft& draft, const SettingRow& row, cons
   if (name == "connection") return ways_of_connection(draft, meanings.wanted);
   if (name == "devices") return ways_of_devices(draft, meanings);
   if (name == "cpu-jtag") {
-    // Switched on it is not read back.
+    // Switched on, it is written in a form that is not read back: with_own_pins.
     if (meanings.wanted.cpuJtag != 0) return {};
     return ways_without(draft, values_of(draft, *row.setting));
   }

@@ -1,6 +1,6 @@
 #pragma once
 
-// The ways to say a setting in a text.
+// The ways to change a setting in a text.
 
 #include <set>
 #include <string>
@@ -18,24 +18,24 @@ struct Meanings {
   const State& wanted;
 };
 
-// New texts, the best one first, that may say the setting as it is wanted: the caller reads each. With toDefault its
-// words go if possible.
+// Candidates for a new text that has the setting as wanted, the best one first; the caller reads each to find out. With
+// toDefault the words of the setting are removed if possible.
 std::vector<std::string> ways_of(const Draft& draft, const SettingRow& row, const Meanings& meanings, bool toDefault);
 
-// New texts without the words of a setting; none when it has no words.
+// Candidates for a text without the words of a setting; none if there are no such words.
 std::vector<std::string> ways_without(const Draft& draft, const SettingRow& row);
 
-// Whether the word tells the setting, alone or with others.
+// Whether the keyword sets the setting, alone or together with others.
 bool is_about(const Keyword* keyword, const Setting& setting);
 // Whether the option, with its value or its pairs, sets nothing.
 bool sets_nothing(const Option& option);
 
-// The settings that a text has words for, and whether a setting is told by one of them.
+// The settings that a text has words for, and whether a setting is one of them or shares the words of one.
 std::set<const Setting*> said_by(const Draft& draft);
 bool is_said(const Setting& setting, const std::set<const Setting*>& said);
 
-// The form in which the writer writes the processor's own JTAG pins, which no reader knows: its words, and a text with
-// it.
+// The form in which the writer writes the processor's own JTAG pins, which no reader accepts: the words of it in a
+// text, and a text with it added.
 std::vector<std::size_t> own_pins_written(const Draft& draft);
 std::string with_own_pins(const Draft& draft, const State& now);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// What each word of a connect command is: for highlighting, for editing, for "where does this value come from".
+// What each word of a connect command is: for highlighting, for editing, and to show where a value comes from.
 
 #include <cstddef>
 #include <string_view>
@@ -26,8 +26,8 @@ enum class Role {
   option,      // -cable
   keyword,     // frequency
   value,       // 12000000
-  ignored,     // a word that the reader never looks at, or passes over
-  unknown,     // no word that may stand there
+  ignored,     // a word that the reader skips or does not reach
+  unknown,     // a word that may not stand there
 };
 
 struct Annotation {
@@ -36,13 +36,13 @@ struct Annotation {
   Role role = Role::ignored;
   // The reader refuses the text at this word or before it: the role is a guess.
   bool guess = false;
-  // The setting that the word sets or, for an option or a keyword, is about; null when there is none. A value
-  // "host:port" has that of the host.
+  // The setting that the word sets or, for an option or a keyword, is about; null if there is none. A value "host:port"
+  // has the setting of the host.
   const Setting* setting = nullptr;
 };
 
-// Every word of the text in its order, whatever the bytes. The processor tells what its reader refuses; without one
-// the text is read for no design.
+// Every word of the text, in order. Any bytes are accepted. Whether the reader refuses a text can depend on the
+// processor; without one, the text is read as that of no design.
 SDKDEBUGDIALOG_API std::vector<Annotation> annotate(std::string_view text, TextKind kind);
 SDKDEBUGDIALOG_API std::vector<Annotation> annotate(std::string_view text, TextKind kind, const Processor& processor);
 

@@ -9,8 +9,8 @@
 //   for (const Difference& d : differences(now, edited)) ...
 //   if (auto stored = edited.store(); !stored) show(stored.error().message);
 //
-// Nothing needs to be released, and every error has a text. Objects in different threads are independent, also copies
-// of one another, but for the hardware description that they ask.
+// Nothing needs to be released, and every error has a text. Different objects may be used in different threads at the
+// same time, also copies of one another. Only the hardware description that they query is shared.
 
 #include <cstdint>
 #include <memory>
@@ -30,10 +30,10 @@ class HHSMHwManager;
 
 namespace SdkDebugDialog {
 
-// A processor of a design, or none. Copies share what was discovered.
+// A processor of a design, or none. Copies share the hardware description.
 class SDKDEBUGDIALOG_API Processor {
  public:
-  // No processor of a design: a text alone tells what it is for.
+  // No processor of a design: the text alone says which processor it is for.
   Processor() = default;
 
   // Its instance name; empty for no processor of a design.
@@ -64,8 +64,8 @@ class SDKDEBUGDIALOG_API Design {
   std::vector<Processor> processors() const;
   // ErrorCode::noSuchProcessor, with the nearest name.
   Expected<Processor> find(std::string_view name) const;
-  // The first one of the family and number that a connect command tells; one without a name when there is none.
-  // ErrorCode::notUnderstood.
+  // The first processor that has the family and the number of the connect command; one without a name if there is none,
+  // and for the targets odm, dcc, qmtc and dap. ErrorCode::notUnderstood.
   Expected<Processor> identify(std::string_view command) const;
 
  private:
@@ -78,14 +78,14 @@ class SDKDEBUGDIALOG_API Design {
 // A setting in one configuration.
 struct SettingState {
   SettingValue value;
-  SettingValue initial;  // the default, here
+  SettingValue initial;  // the default in this configuration
   bool applies = true;
   bool changeable = true;
   std::string whyNot;                // why it does not apply, or may not be changed
   std::vector<std::string> choices;  // values accepted now, as text
   bool freeText = true;              // whether other values of its kind are accepted too
   bool written = false;              // whether it is in command()
-  std::string whyNotWritten;
+  std::string whyNotWritten;         // empty if it is written
 };
 
 // A setting that differs between two configurations.
@@ -95,20 +95,20 @@ struct Difference {
   SettingValue after;
 };
 
-// Something that a text has and the text to be stored has not.
+// Something that an edited text no longer has, or a setting that was not copied.
 struct Loss {
   const Setting* setting = nullptr;  // null for words that set nothing
   std::string what;                  // "bscan USER3", "-quiet"
   std::string why;
 };
 
-// A text with its changes made.
+// A text after an edit.
 struct Edit {
   std::string text;                     // the whole text
   bool anew = false;                    // written anew; otherwise every byte that needed no change is as it was
-  std::vector<Difference> differences;  // what the new text means differently, and what follows from it
+  std::vector<Difference> differences;  // the settings that have changed: those given, and those that follow
   std::vector<Loss> losses;             // what storing it loses
-  std::string notReadBack;              // why the reader refuses it, or reads it otherwise; empty: it is read back
+  std::string notReadBack;              // why the reader refuses it or reads it differently; empty if it is read back
 
   bool is_safe() const { return losses.empty() && notReadBack.empty(); }
 };
@@ -120,7 +120,7 @@ struct Change {
   bool toDefault = false;
 };
 
-// Whether storing goes on where it would lose something, or would store what is not read back.
+// Whether to store even if something is lost or what is stored is not read back.
 enum class OnLoss { refuse, goOn };
 
 class SDKDEBUGDIALOG_API Configuration {
@@ -130,8 +130,8 @@ class SDKDEBUGDIALOG_API Configuration {
 
   // Read from a text. ErrorCode::notUnderstood.
   static Expected<Configuration> read(Processor processor, std::string_view text, TextKind kind = TextKind::command);
-  // Read from an option file; the defaults when there is no such file, or nothing in it. The path is relative to the
-  // working directory. ErrorCode::notUnderstood, ErrorCode::file.
+  // Read from an option file; the defaults if there is no such file, or nothing in it. A relative path is relative
+  // to the working directory. ErrorCode::notUnderstood, file.
   static Expected<Configuration> open(Processor processor, const std::string& path);
 
   // The defaults, to be stored in place of a file that is there: the file is kept as it is now, understood or not, so
@@ -155,16 +155,16 @@ class SDKDEBUGDIALOG_API Configuration {
   // Of all settings at once, in the order of settings().
   std::vector<SettingState> states() const;
 
-  // A refusal changes nothing. What is returned are warnings: what is accepted and yet looks wrong.
+  // Returns warnings: what is accepted although it looks wrong. A refusal changes nothing.
   // ErrorCode::noSuchSetting, invalidValue, refused.
   Expected<std::vector<std::string>> set(const Setting& setting, const SettingValue& value);
   Expected<std::vector<std::string>> set(std::string_view name, std::string_view text);
-  // Back to the default; also where the setting does not apply. ErrorCode::refused for a setting that is read-only.
+  // Back to the default; also where the setting does not apply. ErrorCode::refused for a setting that cannot be set.
   Expected<void> reset(const Setting& setting);
   // All settings back to their defaults; words that set nothing stay in the text.
   void reset();
 
-  // What is accepted and yet looks wrong about a setting, together with those that it has to do with.
+  // What looks wrong about a setting, alone or together with other settings, although it is accepted.
   std::vector<std::string> warnings(const Setting& setting) const;
 
   // Takes over the settings of another processor; returns those that it could not take, each with the reason.
@@ -174,27 +174,29 @@ class SDKDEBUGDIALOG_API Configuration {
 
   // The connect command that the engine writes for the settings. ErrorCode::cannotBeWritten.
   Expected<std::string> command() const;
-  // The text that was read with the changes made in it. ErrorCode::cannotBeWritten.
+  // The text that was read, with the changes made in it; text() gives the text alone. ErrorCode::cannotBeWritten.
   Expected<Edit> edited() const;
   Expected<std::string> text() const;
-  // The same as the content of an option file, which store() writes: a command that the option file's reader would not
-  // understand alike, byte for byte, is written anew.
+  // The same as the content of an option file; store() writes it. A text that was not read from an option file stays as
+  // it is if it means the same there; otherwise the command is written anew.
   Expected<Edit> for_file() const;
-  // The same, written anew: what edited() keeps and command() does not tell is listed as lost.
+  // The same with the command written anew; what this does not keep is listed as lost.
   Expected<Edit> written_anew() const;
 
   // --- The option file ---
 
-  // Where open() read it; empty for a configuration that was not read from a file.
+  // The file that open() read or store() wrote last; empty if there is none.
   const std::string& path() const;
-  // Stores for_file() in the file that was read, which must be as it was then. Nothing is written when it would not
-  // change. Returns what was stored. ErrorCode::cannotBeWritten, wouldLose, changedMeanwhile, file.
+  // Stores for_file() in the file that was read, which must be as it was then; a file that has the content already is
+  // not written. Returns what was stored, and the configuration is then that of the file.
+  // ErrorCode::cannotBeWritten, wouldLose, changedMeanwhile, file.
   Expected<Edit> store(OnLoss onLoss = OnLoss::refuse);
-  // The same in another file, which must not be there yet, unless onLoss is goOn.
+  // The same in another file, which must not exist unless onLoss is goOn.
   Expected<Edit> store(const std::string& path, OnLoss onLoss = OnLoss::refuse);
+  // The same for an edit that this configuration returned before, such as written_anew().
   Expected<Edit> store(const Edit& edit, const std::string& path, OnLoss onLoss);
 
-  // --- What the settings are kept in ---
+  // --- The records that hold the settings ---
 
   const Processor& processor() const;
   const ProcessorInfoImp& record() const;
@@ -207,13 +209,14 @@ class SDKDEBUGDIALOG_API Configuration {
   std::unique_ptr<Content> m_content;
 };
 
-// By setting, in the order of the catalogue; the identity is compared too.
+// The settings that differ, those of the identity too, in the order of the catalogue.
 SDKDEBUGDIALOG_API std::vector<Difference> differences(const Configuration& before, const Configuration& after);
 
-// Makes changes in a text: the words of the settings given change, a missing keyword joins its group, a missing option
-// is put where the writer would put it, or at the first place where it reads right. Every other byte stays. Where that
-// is impossible the command is written anew; see Edit. "cpu-jtag" is put to its default also in a text that is refused
-// for it alone. ErrorCode as Configuration::set and Configuration::edited, and notUnderstood.
+// Makes changes in a text: the words of the settings given change, a missing keyword joins its option, and a missing
+// option is put where the writer would put it, or at the first place where it reads right. Every other byte stays.
+// Where that is impossible the command is written anew; see Edit. Changes are applied in the order of the catalogue.
+// "cpu-jtag" can be switched off also in a text that the reader refuses for it alone. ErrorCode as Configuration::set
+// and Configuration::edited, and notUnderstood.
 SDKDEBUGDIALOG_API Expected<Edit> edit(const Processor& processor, std::string_view text, TextKind kind,
                                        const std::vector<Change>& changes);
 

@@ -14,19 +14,19 @@ enum class ErrorCode {
   invalidValue,      // a text or a value that the setting can never have
   refused,           // a value that is not accepted, or a setting that does not apply
   notUnderstood,     // the reader refuses the text
-  cannotBeWritten,   // the writer has no text for these settings
-  wouldLose,         // storing would lose something, or what it stores would not be read back alike
-  changedMeanwhile,  // the file is not what was read
+  cannotBeWritten,   // there is no connect command for these settings
+  wouldLose,         // storing would lose something, or what is stored would not be read back with the same meaning
+  changedMeanwhile,  // the file has changed since it was read, or exists although it should not
   file,              // a file cannot be read or written
 };
 
 struct Error {
   ErrorCode code = ErrorCode::refused;
   std::string message;     // one line, never empty: what is wrong and what is accepted
-  std::string engineText;  // what Engine::GetErrorStr says of it; mostly empty
+  std::string engineText;  // what Engine::GetErrorStr says about it; often empty
 };
 
-// A value or an error. Reading the one that is not there throws std::bad_variant_access.
+// A value or an error. Asking for the one that it does not hold throws std::bad_variant_access.
 template <class Value>
 class Expected {
  public:
