@@ -9,7 +9,7 @@ Draft::Draft(std::string t, TextKind k) : text(std::move(t)), kind(k), words(wal
     if (!is_read(i)) continue;
     const std::size_t group = words[i].group;
     if (group >= groups.size()) groups.resize(group + 1, {i, i, words[i].option});
-    groups[group].last = i;
+    groups[group].end = i + 1;
   }
 }
 
@@ -17,11 +17,10 @@ std::string_view Draft::word(std::size_t i) const {
   return std::string_view(text).substr(words[i].begin, words[i].end - words[i].begin);
 }
 
-std::size_t Draft::last_read() const {
-  for (std::size_t i = words.size(); i > 0; --i) {
-    if (is_read(i - 1)) return i - 1;
-  }
-  return words.size();
+std::size_t Draft::read_end() const {
+  std::size_t end = words.size();
+  while (end > 0 && !is_read(end - 1)) --end;
+  return end;
 }
 
 void Changes::replace(std::size_t word, std::string_view by) {
@@ -33,8 +32,9 @@ void Changes::remove(std::size_t word) {
   m_splices.push_back({begin, m_draft.words[word].end, {}});
 }
 
-void Changes::add_behind(std::size_t word, std::string_view text) {
-  m_splices.push_back({m_draft.words[word].end, m_draft.words[word].end, std::string(text)});
+void Changes::add(std::size_t words, std::string_view text) {
+  const std::size_t at = words == 0 ? 0 : m_draft.words[words - 1].end;
+  m_splices.push_back({at, at, std::string(text)});
 }
 
 std::string Changes::made() const {
@@ -50,9 +50,9 @@ std::string Changes::made() const {
   return text.append(m_draft.text, from);
 }
 
-std::string with_behind(const Draft& draft, std::size_t word, std::string_view text) {
+std::string with_added(const Draft& draft, std::size_t words, std::string_view text) {
   Changes changes(draft);
-  changes.add_behind(word, text);
+  changes.add(words, text);
   return changes.made();
 }
 

@@ -22,16 +22,16 @@ struct Draft {
   std::string_view word(std::size_t i) const;
   // Whether the reader looks at the word.
   bool is_read(std::size_t i) const { return words[i].role != Role::ignored; }
-  // The last word that is read; words.size() if there is none.
-  std::size_t last_read() const;
+  // The number of words up to the last one that is read.
+  std::size_t read_end() const;
 
-  // An option and what belongs to it: the first and the last word that are read.
+  // An option and what belongs to it, as far as it is read: its first word, and the first word behind.
   struct Group {
     std::size_t first = 0;
-    std::size_t last = 0;
+    std::size_t end = 0;
     const Option* option = nullptr;  // null for an unknown one
   };
-  // By the number of the group; group 0 has the words before the first option.
+  // By the number of the group; that of the words before the first option is 0, and it may be empty.
   std::vector<Group> groups;
 };
 
@@ -44,7 +44,8 @@ class Changes {
   void replace(std::size_t word, std::string_view by);
   // Removes the word with the white space in front of it.
   void remove(std::size_t word);
-  void add_behind(std::size_t word, std::string_view text);
+  // Behind that many words. The text begins with a blank.
+  void add(std::size_t words, std::string_view text);
 
   std::string made() const;
 
@@ -58,6 +59,6 @@ class Changes {
   std::vector<Splice> m_splices;
 };
 
-std::string with_behind(const Draft& draft, std::size_t word, std::string_view text);
+std::string with_added(const Draft& draft, std::size_t words, std::string_view text);
 
 }  // namespace SdkDebugDialog

@@ -16,6 +16,7 @@ struct State {
   CableOption cable;
   std::int32_t cpuJtag = 0;
   std::vector<JtagOption> chain;
+  bool hasDesign = false;  // a design tells what the processor is and which connections it admits
 };
 
 }  // namespace SdkDebugDialog

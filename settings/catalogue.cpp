@@ -6,6 +6,7 @@
 #include <iterator>
 #include <limits>
 #include <unordered_map>
+#include <utility>
 
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
@@ -33,42 +34,48 @@ std::string text_of(const SettingValue& value) { return std::get<std::string>(va
 
 // --- When settings apply ---
 
+constexpr unsigned kStubFlags = Engine::STUB_JTAG_PRESENT | Engine::STUB_UART_PRESENT;
+constexpr unsigned kSelectable = Engine::SIMULATOR | Engine::HARDWARE | Engine::STUB | Engine::VIRTUAL_PLATFORM;
+
+// The connections that the processor admits. Without a design these are all that targets of its family have.
+unsigned admitted(const State& s) {
+  const unsigned told = s.processor.allowedConnections;
+  if (s.hasDesign || (told & ~(kSelectable | kStubFlags)) != 0) return told;
+  unsigned all = 0;
+  for (const Target& target : targets()) {
+    if (target.family != s.processor.procFamily || target.admits != 0) continue;
+    if (target.virtualPlatform) all |= Engine::VIRTUAL_PLATFORM;
+    for (const Connection& connection : target.connections) all |= connection.type;
+  }
+  return all;
+}
+
 bool has(const State& s, std::uint32_t connection) { return (s.processor.connectionType & connection) != 0; }
 bool is_hardware(const State& s) { return s.processor.connectionType == Engine::HARDWARE; }
 bool is_serial(const State& s) { return has(s, Engine::STUB) && s.processor.stubType != Engine::STUB_OVER_JTAG; }
 bool is_powerpc(const State& s) { return s.processor.procFamily == kFamilyPowerPC; }
 bool uses_cable(const State& s) { return !has(s, Engine::SIMULATOR | Engine::VIRTUAL_PLATFORM) && !is_serial(s); }
+bool is_ppc_simulator(const State& s) { return has(s, Engine::SIMULATOR) && s.processor.procFamily != kFamilySoft; }
 const CableType& type_of(const State& s) { return cable_type(s.cable.type); }
-bool is_clocked(const State& s) { return uses_cable(s) && !type_of(s).accepted.empty(); }
-bool is_plugin(const State& s) { return uses_cable(s) && s.cable.type == Engine::ZARVEK_PLUGIN; }
 
 constexpr Applies kEverywhere = {[](const State&) { return true; }, ""};
-constexpr Applies kWithStub = {[](const State& s) { return (s.processor.allowedConnections & Engine::STUB) != 0; },
+constexpr Applies kWithStub = {[](const State& s) { return (admitted(s) & Engine::STUB) != 0; },
                                "the processor has no stub connection"};
 constexpr Applies kSerialStub = {is_serial, "it is for the connection 'stub' over a serial line"};
 constexpr Applies kSoftSimulator = {
     [](const State& s) { return has(s, Engine::SIMULATOR) && s.processor.procFamily == kFamilySoft; },
     "it is for the simulator of a soft processor"};
-bool is_ppc_simulator(const State& s) { return has(s, Engine::SIMULATOR) && s.processor.procFamily != kFamilySoft; }
 constexpr Applies kPpcSimulator = {is_ppc_simulator, "it is for the simulator of a PowerPC"};
 constexpr Applies kSimulatorPort = {
     [](const State& s) { return is_ppc_simulator(s) || has(s, Engine::VIRTUAL_PLATFORM); },
     "it is for the simulator of a PowerPC and for the virtual platform"};
 constexpr Applies kPlatform = {[](const State& s) { return has(s, Engine::VIRTUAL_PLATFORM); },
                                "it is for the connection 'virtual-platform'"};
-bool takes_general_options(const State& s) {
-  return has(s, Engine::HARDWARE | Engine::STUB) &&
-         (s.processor.allowedConnections & (Engine::ODM_TARGET | Engine::DCC_TARGET | Engine::QMTC_TARGET)) == 0;
-}
-constexpr Applies kHdlSimulator = {takes_general_options, "it is for the connections 'hardware' and 'stub'"};
-constexpr Applies kWithHdlSimulator = {
-    [](const State& s) { return takes_general_options(s) && s.processor.modelSimEnabled != 0; },
-    "the hardware simulator is not enabled"};
-constexpr const char* kNoCableInUse = "the connection uses no cable";
-constexpr Applies kOnCable = {uses_cable, kNoCableInUse};
-constexpr Applies kUart = {
-    [](const State& s) { return (s.processor.allowedConnections & (Engine::ODM_TARGET | Engine::DCC_TARGET)) != 0; },
-    "only the targets 'odm' and 'dcc' take it"};
+constexpr Applies kHdlSimulator = {[](const State& s) { return has(s, Engine::HARDWARE | Engine::STUB); },
+                                   "it is for the connections 'hardware' and 'stub'"};
+constexpr Applies kWithHdlSimulator = {[](const State& s) { return s.processor.modelSimEnabled != 0; },
+                                       "the hardware simulator is not enabled", &kHdlSimulator};
+constexpr Applies kOnCable = {uses_cable, "the connection uses no cable"};
 constexpr Applies kPpcHardware = {[](const State& s) { return is_powerpc(s) && is_hardware(s); },
                                   "it is for a PowerPC with the connection 'hardware'"};
 constexpr Applies kPpc405Hardware = {
@@ -76,8 +83,29 @@ constexpr Applies kPpc405Hardware = {
     "it is for a ppc405 with the connection 'hardware'"};
 constexpr Applies kHardware = {is_hardware, "it is for the connection 'hardware'"};
 constexpr Applies kPowerPC = {is_powerpc, "only a PowerPC has one"};
-constexpr Applies kClocked = {is_clocked, "the cable has no such setting"};
-constexpr Applies kPlugin = {is_plugin, "it is for a cable of the type 'zarvek_plugin'"};
+constexpr Applies kClocked = {[](const State& s) { return !type_of(s).accepted.empty(); },
+                              "the cable has no such setting", &kOnCable};
+constexpr Applies kPlugin = {[](const State& s) { return s.cable.type == Engine::ZARVEK_PLUGIN; },
+                             "it is for a cable of the type 'zarvek_plugin'", &kOnCable};
+
+// The options that a command for the state can have; null if the processor cannot be connected like this.
+const Run* run_of(const State& s) {
+  const ProcessorInfoImp& p = s.processor;
+  const bool isPlatform = p.connectionType == Engine::VIRTUAL_PLATFORM;
+  const bool isBare = (p.allowedConnections & ~(kSelectable | kStubFlags)) != 0;
+  for (const Target& target : targets()) {
+    if (isBare ? target.admits != p.allowedConnections
+               : target.admits != 0 || target.virtualPlatform != isPlatform || target.family != p.procFamily) {
+      continue;
+    }
+    if (target.options != nullptr) return target.options;
+    const auto found = std::ranges::find(target.connections, p.connectionType,
+                                         [](const Connection& c) -> std::uint32_t { return c.type; });
+    if (found != target.connections.end()) return &found->options;
+  }
+  // An ARM processor is written like a PowerPC, and so is its simulator.
+  return p.connectionType == Engine::SIMULATOR ? &kPpcSimOptions : nullptr;
+}
 
 // --- Words ---
 
@@ -91,7 +119,8 @@ std::vector<SettingWord> words_of(const Group& group, std::string_view keyword) 
 // A type is called by its last name, which is also the longest.
 std::vector<SettingWord> cable_words() {
   std::vector<SettingWord> words = {{"none", Engine::CABLE_NONE}};
-  for (const CableType& type : cable_types()) words.push_back({type.names.back().text(), type.type});
+  for (const CableType& type : cable_types())
+    words.push_back({type.names.back().text(), type.type, type.notRead == nullptr});
   std::ranges::sort(words, {}, &SettingWord::value);
   return words;
 }
@@ -107,19 +136,18 @@ constexpr SettingWord kVariants[] = {{"soft", kVariantSoft},     {"ppc405", kVar
                                      {"ppc440", kVariantPpc440}, {"cortex-a9", kVariantCortexA9},
                                      {"r5", kVariantR5},         {"other", kVariantOtherPowerPC}};
 
-// Bits. The first four are the connections that can be selected.
-constexpr std::size_t kSelectable = 4;
+// Bits. The first four are connections that can be selected.
 constexpr SettingWord kConnections[] = {
     {"simulator", Engine::SIMULATOR},
     {"hardware", Engine::HARDWARE},
     {"stub", Engine::STUB},
     {"virtual-platform", Engine::VIRTUAL_PLATFORM},
-    {"odm-target", Engine::ODM_TARGET},
-    {"qmtc-target", Engine::QMTC_TARGET},
-    {"dcc-target", Engine::DCC_TARGET},
-    {"dap-target", Engine::DAP_TARGET},
-    {"stub-jtag", Engine::STUB_JTAG_PRESENT},
-    {"stub-uart", Engine::STUB_UART_PRESENT},
+    {"odm-target", Engine::ODM_TARGET, false},
+    {"qmtc-target", Engine::QMTC_TARGET, false},
+    {"dcc-target", Engine::DCC_TARGET, false},
+    {"dap-target", Engine::DAP_TARGET, false},
+    {"stub-jtag", Engine::STUB_JTAG_PRESENT, false},
+    {"stub-uart", Engine::STUB_UART_PRESENT, false},
 };
 
 std::vector<std::string> names_in_set(std::uint32_t set) {
@@ -147,7 +175,7 @@ std::string by_engine(State& state, Operation operation) {
 
 // --- Identity ---
 
-const char* as_in_design(const State& /*s*/, bool hasDesign) { return hasDesign ? "it is as in the design" : nullptr; }
+const char* as_in_design(const State& s) { return s.hasDesign ? "the design tells it" : nullptr; }
 
 std::vector<std::string> choose_variant(const SettingRow& /*row*/, const State& /*s*/) {
   std::vector<std::string> names;
@@ -155,15 +183,15 @@ std::vector<std::string> choose_variant(const SettingRow& /*row*/, const State& 
   return names;
 }
 
-SettingValue get_connections(const SettingRow& /*row*/, const State& s) {
-  return names_in_set(s.processor.allowedConnections);
-}
+SettingValue get_connections(const SettingRow& /*row*/, const State& s) { return names_in_set(admitted(s)); }
 
 SettingValue initial_cpu(const State& /*s*/, const State& defaults) {
   return std::int64_t{static_cast<std::int8_t>(defaults.processor.cpuNr)};
 }
 SettingValue initial_fpu(const State& /*s*/, const State& defaults) { return value_of(row_named("fpu"), defaults); }
-SettingValue initial_variant(const State& s, const State& /*defaults*/) { return value_of(row_named("variant"), s); }
+SettingValue initial_variant(const State& /*s*/, const State& defaults) {
+  return value_of(row_named("variant"), defaults);
+}
 
 // --- Connection and stub ---
 
@@ -174,48 +202,60 @@ SettingValue get_connection(const SettingRow& /*row*/, const State& s) {
 
 std::vector<std::string> choose_connection(const SettingRow& row, const State& s) {
   std::vector<std::string> names;
-  for (const SettingWord& word : std::span(row.words).first(kSelectable)) {
-    if ((s.processor.allowedConnections & word.value) != 0) names.emplace_back(word.name);
+  for (const SettingWord& word : row.traits.words) {
+    if ((admitted(s) & kSelectable & word.value) != 0) names.emplace_back(word.name);
   }
   return names;
 }
 
-std::string set_connection(const SettingRow& row, State& s, const SettingValue& value, bool /*hasDesign*/) {
-  const auto type = std::ranges::find(row.words, text_of(value), &SettingWord::name)->value;
-  if ((s.processor.allowedConnections & type) == 0) {
-    return "the processor does not admit this connection; it admits " + joined(choose_connection(row, s), ", ");
+std::string set_connection(const SettingRow& row, State& s, const SettingValue& value) {
+  const auto type = std::ranges::find(row.traits.words, text_of(value), &SettingWord::name)->value;
+  const std::vector<std::string> choices = choose_connection(row, s);
+  if (choices.empty()) return "a command for this target has no other connection";
+  if (std::ranges::find(choices, text_of(value)) == choices.end()) {
+    return "the processor does not admit this connection; it admits " + joined(choices, ", ");
   }
+  if (!s.hasDesign) s.processor.allowedConnections |= type;
   return by_engine(s, [&](Engine& e) { return e.SetConnectionType(static_cast<Engine::ConnectionType>(type)); });
 }
 
-constexpr unsigned kStubFlags = Engine::STUB_JTAG_PRESENT | Engine::STUB_UART_PRESENT;
-
-// Selects the stub. To change the link, the engine needs its flag in the selected connection; the writer accepts no
-// flag there. Without a design the flags are not known, and any link is accepted.
-std::string set_stub(const SettingRow& row, State& s, const SettingValue& value, bool hasDesign) {
-  const auto type =
-      static_cast<Engine::StubType>(std::ranges::find(row.words, text_of(value), &SettingWord::name)->value);
-  State changed = s;
-  if (type != s.processor.stubType) {
-    changed.processor.connectionType =
-        Engine::STUB | (hasDesign ? s.processor.allowedConnections & kStubFlags : kStubFlags);
-    std::string why = by_engine(changed, [&](Engine& e) { return e.SetStubType(type); });
-    if (!why.empty()) return why;
+void warn_of_connection(const State& s, std::vector<std::string>& warnings) {
+  if ((admitted(s) & s.processor.connectionType) == 0) {
+    warnings.emplace_back("the processor does not admit this connection: a command with it is not read back");
   }
-  changed.processor.connectionType = Engine::STUB;
-  s = std::move(changed);
-  return {};
+  const bool hasOnlySerialStub = (s.processor.allowedConnections & kStubFlags) == Engine::STUB_UART_PRESENT;
+  if (has(s, Engine::STUB) && !is_serial(s) && hasOnlySerialStub) {
+    warnings.emplace_back("the design has a stub over a serial line only; set stub to serial");
+  }
 }
 
 std::vector<std::string> choose_stub(const SettingRow& row, const State& s) {
   std::vector<std::string> names;
-  for (const SettingWord& word : row.words) {
+  for (const SettingWord& word : row.traits.words) {
     const auto flag = word.value == Engine::STUB_OVER_JTAG ? Engine::STUB_JTAG_PRESENT : Engine::STUB_UART_PRESENT;
-    const bool isKnown = (s.processor.allowedConnections & kStubFlags) != 0;
+    const bool isKnown = s.hasDesign;
     const bool isPresent = (s.processor.allowedConnections & flag) != 0;
     if (!isKnown || isPresent || s.processor.stubType == word.value) names.emplace_back(word.name);
   }
   return names;
+}
+
+// Selects the stub. To change the link, the engine needs its flag in the selected connection; the writer accepts no
+// flag there. Without a design the flags are not known, and any link is accepted.
+std::string set_stub(const SettingRow& row, State& s, const SettingValue& value) {
+  const auto type =
+      static_cast<Engine::StubType>(std::ranges::find(row.traits.words, text_of(value), &SettingWord::name)->value);
+  State changed = s;
+  if (type != s.processor.stubType) {
+    changed.processor.connectionType =
+        Engine::STUB | (s.hasDesign ? s.processor.allowedConnections & kStubFlags : kStubFlags);
+    const std::string why = by_engine(changed, [&](Engine& e) { return e.SetStubType(type); });
+    if (!why.empty()) return "the design has no such link to a stub; accepted: " + joined(choose_stub(row, s), ", ");
+  }
+  if (!s.hasDesign) changed.processor.allowedConnections |= Engine::STUB;
+  changed.processor.connectionType = Engine::STUB;
+  s = std::move(changed);
+  return {};
 }
 
 // --- Simulators ---
@@ -227,7 +267,7 @@ SettingValue get_port(const SettingRow& /*row*/, const State& s) {
 }
 
 // A text has no port without a host.
-std::string set_sim_port(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+std::string set_sim_port(const SettingRow& /*row*/, State& s, const SettingValue& value) {
   s.processor.simPort = static_cast<std::uint32_t>(std::get<std::int64_t>(value));
   if (s.processor.simPort != 0 && s.processor.simHost.empty()) s.processor.simHost = "localhost";
   return {};
@@ -235,7 +275,7 @@ std::string set_sim_port(const SettingRow& /*row*/, State& s, const SettingValue
 
 constexpr const char* kNoColon = "it must not have a colon, which separates host and port";
 
-std::string set_sim_host(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+std::string set_sim_host(const SettingRow& /*row*/, State& s, const SettingValue& value) {
   if (text_of(value).find(':') != std::string::npos) return kNoColon;
   s.processor.simHost = text_of(value);
   if (s.processor.simHost.empty()) s.processor.simPort = 0;
@@ -243,25 +283,25 @@ std::string set_sim_host(const SettingRow& /*row*/, State& s, const SettingValue
 }
 
 // The text has one word for this setting and "configured".
-std::string set_accuracy(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+std::string set_accuracy(const SettingRow& /*row*/, State& s, const SettingValue& value) {
   s.processor.vpCycleApproximate = std::get<bool>(value) ? 1 : 0;
   s.processor.vpConfigured = s.processor.vpCycleApproximate;
   return {};
 }
-std::string set_configured(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+std::string set_configured(const SettingRow& /*row*/, State& s, const SettingValue& value) {
   s.processor.vpConfigured = std::get<bool>(value) ? 1 : 0;
   if (s.processor.vpConfigured == 0) s.processor.vpCycleApproximate = 0;
   return {};
 }
 
-std::string set_hdl_host(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+std::string set_hdl_host(const SettingRow& /*row*/, State& s, const SettingValue& value) {
   if (text_of(value).find(':') != std::string::npos) return kNoColon;
   s.processor.modelSimHost = text_of(value);
   return {};
 }
 
 // Host and port stand behind the option of the simulator, and go with it.
-std::string set_hdl_simulator(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+std::string set_hdl_simulator(const SettingRow& /*row*/, State& s, const SettingValue& value) {
   s.processor.modelSimEnabled = std::get<bool>(value) ? 1 : 0;
   if (s.processor.modelSimEnabled == 0) {
     const P fresh;
@@ -279,7 +319,7 @@ SettingValue get_cpu(const SettingRow& /*row*/, const State& s) {
 
 // Sets a base, or unsets it. The base of the instruction cache is that of the map.
 template <std::uint32_t P::*base>
-std::string set_base(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+std::string set_base(const SettingRow& /*row*/, State& s, const SettingValue& value) {
   if (std::holds_alternative<std::monostate>(value)) {
     s.processor.*base = kAddressNotSet;
     if (base == &P::icacheStartAddr) s.processor.debugAddressMap = kAddressNotSet;
@@ -295,7 +335,9 @@ std::string set_base(const SettingRow& /*row*/, State& s, const SettingValue& va
   return by_engine(s, [&](Engine& e) { return set_map_base(*e.imp, base, address) ? 0 : 1; });
 }
 
-std::string set_address_map(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+std::vector<std::string> choose_address_map(const SettingRow& /*row*/, const State& /*s*/) { return {"unset"}; }
+
+std::string set_address_map(const SettingRow& /*row*/, State& s, const SettingValue& value) {
   if (!std::holds_alternative<std::monostate>(value)) return "it can only be unset; it is set with icache";
   return by_engine(s, [](Engine& e) { return e.UnSetDebugAddressMap(); });
 }
@@ -315,7 +357,7 @@ SettingValue get_cable(const SettingRow& /*row*/, const State& s) {
 
 std::vector<std::string> choose_cable(const SettingRow& row, const State& /*s*/) {
   std::vector<std::string> names;
-  for (const SettingWord& word : row.words) {
+  for (const SettingWord& word : row.traits.words) {
     const auto type = static_cast<Engine::CableType>(word.value);
     if (cable_type(type).notRead == nullptr) names.emplace_back(word.name);
   }
@@ -323,9 +365,9 @@ std::vector<std::string> choose_cable(const SettingRow& row, const State& /*s*/)
 }
 
 // A new type brings its own defaults. Setting the type again changes nothing.
-std::string set_cable(const SettingRow& row, State& s, const SettingValue& value, bool /*hasDesign*/) {
+std::string set_cable(const SettingRow& row, State& s, const SettingValue& value) {
   const auto type =
-      static_cast<Engine::CableType>(std::ranges::find(row.words, text_of(value), &SettingWord::name)->value);
+      static_cast<Engine::CableType>(std::ranges::find(row.traits.words, text_of(value), &SettingWord::name)->value);
   if (type == s.cable.type) return {};
   if (cable_type(type).notRead != nullptr) {
     return "this type is not read; the types are " + joined(choose_cable(row, s), ", ");
@@ -341,7 +383,7 @@ std::vector<std::string> choose_frequency(const SettingRow& row, const State& s)
 }
 
 // The error names the nearest frequencies below and above.
-std::string set_frequency_of_cable(const SettingRow& row, State& s, const SettingValue& value, bool /*hasDesign*/) {
+std::string set_frequency_of_cable(const SettingRow& row, State& s, const SettingValue& value) {
   const std::int64_t hz = std::get<std::int64_t>(value);
   const auto accepted = type_of(s).accepted;
   if (hz != 0 && std::ranges::find(accepted, hz) == accepted.end()) {
@@ -368,7 +410,13 @@ std::vector<std::string> choose_port(const SettingRow& /*row*/, const State& s) 
   return port.empty() ? std::vector<std::string>() : std::vector<std::string>{port};
 }
 
-std::string set_arguments(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+std::string set_module(const SettingRow& /*row*/, State& s, const SettingValue& value) {
+  if (text_of(value).empty()) return "a zarvek_plugin cable needs a module";
+  s.cable.modulename = text_of(value);
+  return {};
+}
+
+std::string set_arguments(const SettingRow& /*row*/, State& s, const SettingValue& value) {
   const std::string arguments = text_of(value);
   if (!arguments.empty()) {
     for (const std::string_view argument : split(arguments, ';')) {
@@ -379,7 +427,40 @@ std::string set_arguments(const SettingRow& /*row*/, State& s, const SettingValu
   return {};
 }
 
-std::string set_svf_file(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+void warn_of_plugin(const State& s, std::vector<std::string>& warnings) {
+  if (s.cable.type == Engine::ZARVEK_PLUGIN && s.cable.modulename.empty()) {
+    warnings.emplace_back("a zarvek_plugin cable needs a module");
+  }
+}
+
+void warn_of_cable(const State& s, std::vector<std::string>& warnings) {
+  warn_of_plugin(s, warnings);
+  if (s.cable.type != Engine::CABLE_NONE && type_of(s).notWritten != nullptr) {
+    warnings.emplace_back("a command with this cable cannot be written anew: " + std::string(type_of(s).notWritten));
+  }
+}
+
+void warn_of_rom(const State& s, std::vector<std::string>& warnings) {
+  if ((s.processor.romemStartAddr == kAddressNotSet) != (s.processor.romemSize == 0)) {
+    warnings.emplace_back("the read-only memory needs both, rom and rom-size");
+  }
+}
+
+void warn_of_chain(const State& s, std::vector<std::string>& warnings) {
+  const int device = s.processor.debugDevice;
+  std::vector<int> numbers;
+  for (const JtagOption& d : s.chain) numbers.push_back(d.devicenr);
+  if (device != 0 && !numbers.empty() && std::ranges::find(numbers, device) == numbers.end()) {
+    warnings.push_back("no device of the JTAG chain has the number " + std::to_string(device) + " of the debug device");
+  }
+  std::ranges::sort(numbers);
+  const auto twice = std::ranges::adjacent_find(numbers);
+  if (twice != numbers.end()) {
+    warnings.push_back("two devices of the JTAG chain have the number " + std::to_string(*twice));
+  }
+}
+
+std::string set_svf_file(const SettingRow& /*row*/, State& s, const SettingValue& value) {
   s.cable.fname = text_of(value);
   s.processor.svfFileSet = s.cable.fname.empty() ? 0 : 1;
   return {};
@@ -390,7 +471,7 @@ std::string set_svf_file(const SettingRow& /*row*/, State& s, const SettingValue
 SettingValue get_cpu_jtag(const SettingRow& /*row*/, const State& s) { return s.cpuJtag != 0; }
 
 // Reading "-configdevice jtagport cpu" adds a device without any value; it is removed with the setting.
-std::string set_cpu_jtag(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+std::string set_cpu_jtag(const SettingRow& /*row*/, State& s, const SettingValue& value) {
   const bool on = std::get<bool>(value);
   if (!on && s.cpuJtag != 0) std::erase(s.chain, JtagOption());
   s.cpuJtag = on ? 1 : 0;
@@ -399,7 +480,7 @@ std::string set_cpu_jtag(const SettingRow& /*row*/, State& s, const SettingValue
 
 SettingValue get_devices(const SettingRow& /*row*/, const State& s) { return s.chain; }
 
-std::string set_devices(const SettingRow& /*row*/, State& s, const SettingValue& value, bool /*hasDesign*/) {
+std::string set_devices(const SettingRow& /*row*/, State& s, const SettingValue& value) {
   const auto& devices = std::get<std::vector<JtagOption>>(value);
   for (const JtagOption& device : devices) {
     if (!is_plain_word(device.partname)) return "a part name must be one word without a dash in front";
@@ -413,21 +494,11 @@ std::string set_devices(const SettingRow& /*row*/, State& s, const SettingValue&
 constexpr std::string_view kCableParts = "frequency port esn svf-file svf-file-named module module-arguments url";
 constexpr std::string_view kBases = "icache itag dcache dtag tlb dcr";
 
-// What only some rows have.
-struct Special {
+// The parts of a description that only some settings have.
+struct Shown {
   std::string_view unit = {};
-  std::int64_t max = 0;
-  std::vector<SettingWord> words = {};
   std::string_view follows = {};
-  decltype(SettingRow::get) get = nullptr;
-  decltype(SettingRow::set) set = nullptr;
-  bool resetPlainly = false;
-  bool alsoWhenSame = false;
-  bool manyWords = false;
-  std::string_view initialInWords = {};
-  decltype(SettingRow::initial) initial = nullptr;
-  decltype(SettingRow::choices) choices = nullptr;
-  decltype(SettingRow::fixed) fixed = nullptr;
+  std::string_view initial = {};
   bool readOnly = false;
 };
 
@@ -437,64 +508,50 @@ struct Entry {
 };
 
 Entry row(std::string_view group, std::string_view name, std::string_view label, std::string_view meaning,
-          SettingKind kind, Field field, const Applies& applies, Special special = {}) {
+          SettingKind kind, Field field, const Applies& applies, SettingTraits traits = {}, Shown shown = {}) {
   return {.setting = {.name = name,
                       .group = group,
                       .label = label,
                       .meaning = meaning,
                       .kind = kind,
-                      .unit = special.unit,
-                      .initial = special.initialInWords,
-                      .follows = special.follows,
-                      .readOnly = special.readOnly},
-          .row = {.field = field,
-                  .words = std::move(special.words),
-                  .applies = applies,
-                  .max = special.max,
-                  .get = special.get,
-                  .set = special.set,
-                  .resetPlainly = special.resetPlainly,
-                  .alsoWhenSame = special.alsoWhenSame,
-                  .manyWords = special.manyWords,
-                  .initial = special.initial,
-                  .choices = special.choices,
-                  .fixed = special.fixed}};
+                      .unit = shown.unit,
+                      .initial = shown.initial,
+                      .follows = shown.follows,
+                      .readOnly = shown.readOnly},
+          .row = {.field = field, .applies = applies, .traits = std::move(traits)}};
 }
 
 template <std::uint32_t P::*field>
 Entry base(std::string_view name, std::string_view label, std::string_view meaning, std::string_view follows = {}) {
   return row("address-map", name, label, meaning, SettingKind::address, field, kPpcHardware,
-             {.max = kMaxAddress, .follows = follows, .set = set_base<field>});
+             {.max = kMaxAddress, .set = set_base<field>}, {.follows = follows});
 }
 
 // In the order in which changes are applied; the settings of a group stand together.
 std::vector<Entry> make_entries() {
   using enum SettingKind;
   return {
-      row("identity", "name", "Name", "Instance name of the processor in the design.", text, &P::name, kEverywhere,
+      row("identity", "name", "Name", "Instance name of the processor in the design.", text, &P::name, kEverywhere, {},
           {.readOnly = true}),
       row("identity", "family", "Family", "Kind of processor.", word, &P::procFamily, kEverywhere,
-          {.words = {std::begin(kFamilies), std::end(kFamilies)}, .readOnly = true}),
+          {.words = {std::begin(kFamilies), std::end(kFamilies)}}, {.readOnly = true}),
       row("identity", "variant", "Variant",
           "Core of the processor; the address map and the memories of a PowerPC depend on it.", word, &P::procVariant,
           kPowerPC,
           {.words = {std::begin(kVariants), std::end(kVariants)},
-           .initialInWords = "as in the design",
            .initial = initial_variant,
            .choices = choose_variant,
-           .fixed = as_in_design}),
-      row("identity", "cpu", "Number", "Number of the processor on its debug link.", number, &P::cpuNr, kEverywhere,
-          {.max = kMaxSignedByte,
-           .get = get_cpu,
-           .initialInWords = "1, or as in the design",
-           .initial = initial_cpu,
-           .fixed = as_in_design}),
+           .fixed = as_in_design},
+          {.initial = "as in the design"}),
+      row("identity", "cpu", "Processor number", "Number of the processor on its debug link.", number, &P::cpuNr,
+          kEverywhere, {.max = kMaxSignedByte, .get = get_cpu, .initial = initial_cpu, .fixed = as_in_design},
+          {.initial = "1, or as in the design"}),
       row("identity", "connections", "Connections", "The connections that the processor admits.", words,
           &P::allowedConnections, kEverywhere,
-          {.words = {std::begin(kConnections), std::end(kConnections)}, .get = get_connections, .readOnly = true}),
+          {.words = {std::begin(kConnections), std::end(kConnections)}, .get = get_connections}, {.readOnly = true}),
       row("identity", "fpu", "FPU", "Floating-point unit of a PowerPC: single or double precision.", word, &P::fpuType,
-          kPowerPC,
-          {.words = fpu_words(), .initialInWords = "as in the design", .initial = initial_fpu, .fixed = as_in_design}),
+          kPowerPC, {.words = fpu_words(), .initial = initial_fpu, .fixed = as_in_design},
+          {.initial = "as in the design"}),
 
       row("connection", "connection", "Connection",
           "What the debugger connects to: simulator, hardware, stub or virtual-platform.", word, &P::connectionType,
@@ -503,63 +560,69 @@ std::vector<Entry> make_entries() {
            .get = get_connection,
            .set = set_connection,
            .resetPlainly = true,
-           .choices = choose_connection}),
+           .choices = choose_connection,
+           .warn = warn_of_connection}),
 
-      row("stub", "stub", "Link", "How the software stub is reached; setting it selects the connection 'stub'.", word,
-          &P::stubType, kWithStub,
+      row("stub", "stub", "Stub link", "How the software stub is reached; setting it selects the connection 'stub'.",
+          word, &P::stubType, kWithStub,
           {.words = words_of(kStub, "-comm"),
-           .follows = "connection",
            .set = set_stub,
            .resetPlainly = true,
-           .choices = choose_stub}),
-      row("stub", "stub-port", "Serial device", "Serial device of this computer that the stub is connected to.", text,
-          &P::stubSerialPort, kSerialStub),
-      row("stub", "stub-baud", "Baud rate", "Rate of the serial line; 0 for none.", number, &P::stubBaudRate,
-          kSerialStub, {.unit = "baud", .max = kMaxSigned}),
-      row("stub", "stub-timeout", "Time-out", "Handed to the debugger as it is.", number, &P::stubTimeout, kSerialStub,
-          {.max = kMaxSigned}),
+           .alsoWhenSame = true,
+           .choices = choose_stub,
+           .warn = warn_of_connection},
+          {.follows = "connection"}),
+      row("stub", "stub-port", "Stub serial device", "Serial device of this computer that the stub is connected to.",
+          text, &P::stubSerialPort, kSerialStub),
+      row("stub", "stub-baud", "Stub baud rate", "Rate of the serial line; 0 for none.", number, &P::stubBaudRate,
+          kSerialStub, {.max = kMaxSigned}, {.unit = "baud"}),
+      row("stub", "stub-timeout", "Stub time-out", "Handed to the debugger as it is.", number, &P::stubTimeout,
+          kSerialStub, {.max = kMaxSigned}),
 
-      row("simulator", "memory-size", "Memory", "Memory of the soft-processor simulator.", number, &P::memSize,
-          kSoftSimulator, {.max = kMaxUnsigned}),
-      row("simulator", "config-file", "Configuration file",
+      row("simulator", "memory-size", "Simulator memory", "Memory of the soft-processor simulator.", number,
+          &P::memSize, kSoftSimulator, {.max = kMaxUnsigned}),
+      row("simulator", "config-file", "Simulator configuration file",
           "Configuration file of the PowerPC simulator; it has precedence over host and port.", text, &P::simConfigFile,
           kPpcSimulator),
-      row("simulator", "sim-host", "Host", "Host on which the simulator or the virtual platform runs.", text,
-          &P::simHost, kSimulatorPort, {.follows = "sim-port", .set = set_sim_host}),
-      row("simulator", "sim-port", "Port", "Port of the simulator or the virtual platform.", number, &P::simPort,
-          kSimulatorPort, {.max = kMaxPort, .follows = "sim-host", .get = get_port<&P::simPort>, .set = set_sim_port}),
+      row("simulator", "sim-host", "Simulator host", "Host on which the simulator or the virtual platform runs.", text,
+          &P::simHost, kSimulatorPort, {.set = set_sim_host}, {.follows = "sim-port"}),
+      row("simulator", "sim-port", "Simulator port", "Port of the simulator or the virtual platform.", number,
+          &P::simPort, kSimulatorPort, {.max = kMaxPort, .get = get_port<&P::simPort>, .set = set_sim_port},
+          {.follows = "sim-host"}),
 
-      row("virtual-platform", "configured", "Configured",
+      row("virtual-platform", "configured", "Accuracy configured",
           "The accuracy of the virtual platform is set; without an accuracy the text is not read back.", flag,
-          &P::vpConfigured, kPlatform, {.follows = "cycle-approximate", .set = set_configured}),
+          &P::vpConfigured, kPlatform, {.set = set_configured}, {.follows = "cycle-approximate"}),
       row("virtual-platform", "cycle-approximate", "Cycle approximate",
           "The virtual platform counts cycles approximately.", flag, &P::vpCycleApproximate, kPlatform,
-          {.follows = "configured", .set = set_accuracy}),
+          {.set = set_accuracy}, {.follows = "configured"}),
 
-      row("hardware-simulator", "enabled", "Enabled",
+      row("hardware-simulator", "enabled", "Hardware simulator",
           "The hardware is run by a hardware-description-language simulator.", flag, &P::modelSimEnabled, kHdlSimulator,
-          {.follows = "hardware-simulator-host hardware-simulator-port", .set = set_hdl_simulator}),
-      row("hardware-simulator", "hardware-simulator-host", "Host", "Host on which the hardware simulator runs.", text,
-          &P::modelSimHost, kWithHdlSimulator, {.set = set_hdl_host}),
-      row("hardware-simulator", "hardware-simulator-port", "Port", "Port of the hardware simulator.", number,
-          &P::modelSimPort, kWithHdlSimulator, {.max = kMaxPort, .get = get_port<&P::modelSimPort>}),
+          {.set = set_hdl_simulator}, {.follows = "hardware-simulator-host hardware-simulator-port"}),
+      row("hardware-simulator", "hardware-simulator-host", "Hardware simulator host",
+          "Host on which the hardware simulator runs.", text, &P::modelSimHost, kWithHdlSimulator,
+          {.set = set_hdl_host}),
+      row("hardware-simulator", "hardware-simulator-port", "Hardware simulator port", "Port of the hardware simulator.",
+          number, &P::modelSimPort, kWithHdlSimulator, {.max = kMaxPort, .get = get_port<&P::modelSimPort>}),
 
       row("debug-device", "debug-device", "Debug device",
           "Number of the device in the JTAG chain that holds the processor; 0 for none.", number, &P::debugDevice,
-          kOnCable, {.max = kMaxSignedByte}),
+          kOnCable, {.max = kMaxSignedByte, .warn = warn_of_chain}),
       row("debug-device", "bscan", "BSCAN register", "JTAG user register that the debug module uses.", word,
           &P::bscanPort, kOnCable, {.words = words_of(kBscan, "-bscan")}),
-      row("debug-device", "uart", "UART", "The UART of the debug module is used.", flag, &P::uartEnabled, kUart),
+      row("debug-device", "uart", "UART", "The UART of the debug module is used.", flag, &P::uartEnabled, kEverywhere),
       row("debug-device", "cpu-version", "Processor version", "Version of the processor, kept for programs.", text,
           &P::cpuVersion, kOnCable),
       row("debug-device", "odm-version", "Debug module version", "Version of the debug module, kept for programs.",
           text, &P::odmVersion, kOnCable),
-      row("debug-device", "cpu-count", "Processors", "Number of processors, kept for programs.", number, &P::nCpu,
-          kOnCable, {.max = kMaxSigned}),
+      row("debug-device", "cpu-count", "Number of processors", "Number of processors, kept for programs.", number,
+          &P::nCpu, kOnCable, {.max = kMaxSigned}),
 
       row("address-map", "address-map", "Debug address map",
           "Base of the debug address map: that of the instruction cache. Unset, all bases are unset.", address,
-          &P::debugAddressMap, kPpcHardware, {.max = kMaxAddress, .follows = kBases, .set = set_address_map}),
+          &P::debugAddressMap, kPpcHardware,
+          {.max = kMaxAddress, .set = set_address_map, .choices = choose_address_map}, {.follows = kBases}),
       base<&P::icacheStartAddr>("icache", "Instruction cache",
                                 "Base of the instruction cache and of the debug address map.", "address-map"),
       base<&P::itagStartAddr>("itag", "Instruction tags", "Base of the instruction tags."),
@@ -570,47 +633,44 @@ std::vector<Entry> make_entries() {
 
       row("memories", "isocm", "On-chip instruction memory", "Base of the on-chip instruction memory of a ppc405.",
           address, &P::isocmStartAddr, kPpc405Hardware, {.max = kMaxAddress}),
-      row("memories", "isocm-size", "Its size", "Size of the on-chip instruction memory.", size, &P::isocmSize,
-          kPpc405Hardware, {.unit = "bytes", .max = kMaxUnsigned}),
-      row("memories", "isocm-dcr", "Its DCR base", "DCR base of the on-chip instruction memory.", address,
+      row("memories", "isocm-size", "On-chip memory size", "Size of the on-chip instruction memory.", size,
+          &P::isocmSize, kPpc405Hardware, {.max = kMaxUnsigned}, {.unit = "bytes"}),
+      row("memories", "isocm-dcr", "On-chip memory DCR base", "DCR base of the on-chip instruction memory.", address,
           &P::isocmDcrStartAddr, kPpc405Hardware, {.max = kMaxAddress}),
       row("memories", "rom", "Read-only memory", "Base of the read-only memory.", address, &P::romemStartAddr,
-          kHardware, {.max = kMaxAddress}),
-      row("memories", "rom-size", "Its size", "Size of the read-only memory.", size, &P::romemSize, kHardware,
-          {.unit = "bytes", .max = kMaxUnsigned}),
+          kHardware, {.max = kMaxAddress, .warn = warn_of_rom}),
+      row("memories", "rom-size", "Read-only memory size", "Size of the read-only memory.", size, &P::romemSize,
+          kHardware, {.max = kMaxUnsigned, .warn = warn_of_rom}, {.unit = "bytes"}),
 
       row("cable", "cable", "Cable", "Type of the download cable; a new type comes with its own port and frequency.",
           word, {}, kOnCable,
-          {.words = cable_words(),
-           .follows = kCableParts,
-           .get = get_cable,
-           .set = set_cable,
-           .choices = choose_cable}),
-      row("cable", "frequency", "Frequency", "JTAG clock of the cable.", frequency, &C::frequency, kClocked,
-          {.unit = "Hz",
-           .max = kMaxUnsigned,
+          {.words = cable_words(), .get = get_cable, .set = set_cable, .choices = choose_cable, .warn = warn_of_cable},
+          {.follows = kCableParts}),
+      row("cable", "frequency", "Cable frequency", "JTAG clock of the cable.", frequency, &C::frequency, kClocked,
+          {.max = kMaxUnsigned,
            .set = set_frequency_of_cable,
-           .initialInWords = "that of the cable",
            .initial = initial_frequency,
-           .choices = choose_frequency}),
-      row("cable", "port", "Port", "Where the cable is plugged in.", text, &C::port, kClocked,
-          {.initialInWords = "that of the cable", .initial = initial_port, .choices = choose_port}),
-      row("cable", "esn", "Serial number", "Electronic serial number that selects one of several cables.", text,
+           .choices = choose_frequency},
+          {.unit = "Hz", .initial = "that of the cable"}),
+      row("cable", "port", "Cable port", "Where the cable is plugged in.", text, &C::port, kClocked,
+          {.initial = initial_port, .choices = choose_port}, {.initial = "that of the cable"}),
+      row("cable", "esn", "Cable serial number", "Electronic serial number that selects one of several cables.", text,
           &C::esn, kClocked),
       row("cable", "svf-file", "SVF file", "Output file of a cable that writes one.", text, &C::fname, kOnCable,
-          {.follows = "svf-file-named", .set = set_svf_file}),
+          {.set = set_svf_file}, {.follows = "svf-file-named"}),
       row("cable", "svf-file-named", "SVF file named", "A name was given for the SVF file.", flag, &P::svfFileSet,
-          kOnCable, {.readOnly = true}),
-      row("cable", "module", "Module", "Module of a plug-in cable.", text, &C::modulename, kPlugin),
+          kOnCable, {}, {.readOnly = true}),
+      row("cable", "module", "Module", "Module of a plug-in cable.", text, &C::modulename, kPlugin,
+          {.set = set_module, .resetPlainly = true, .warn = warn_of_plugin}),
       row("cable", "module-arguments", "Module arguments", "Arguments of the module, separated by ';'.", text,
           &C::modulearg, kPlugin, {.set = set_arguments, .manyWords = true}),
-      row("cable", "url", "URL", "Address of a cable on the network.", text, &C::url, kOnCable),
+      row("cable", "url", "Cable URL", "Address of a cable on the network.", text, &C::url, kOnCable),
 
       row("jtag-chain", "cpu-jtag", "Own JTAG pins",
           "The processor is reached through its own JTAG pins; such a command is not read back.", flag, {}, kOnCable,
-          {.follows = "devices", .get = get_cpu_jtag, .set = set_cpu_jtag}),
+          {.get = get_cpu_jtag, .set = set_cpu_jtag}, {.follows = "devices"}),
       row("jtag-chain", "devices", "JTAG chain", "The devices of the JTAG chain, in their order.", devices, {},
-          kOnCable, {.get = get_devices, .set = set_devices}),
+          kOnCable, {.get = get_devices, .set = set_devices, .warn = warn_of_chain}),
   };
 }
 
@@ -623,7 +683,7 @@ const Catalogue& catalogue() {
   static const Catalogue made = [] {
     Catalogue all;
     for (Entry& entry : make_entries()) {
-      for (const SettingWord& word : entry.row.words) entry.setting.words.push_back(word.name);
+      for (const SettingWord& word : entry.row.traits.words) entry.setting.words.push_back(word.name);
       all.settings.push_back(std::move(entry.setting));
       all.rows.push_back(std::move(entry.row));
     }
@@ -646,11 +706,47 @@ const Setting* find_setting_of(const Keyword& keyword) {
 
 }  // namespace
 
+const Setting& told_by(const Setting& setting) {
+  constexpr std::pair<std::string_view, std::string_view> kTold[] = {
+      {"sim-port", "sim-host"},
+      {"hardware-simulator-port", "hardware-simulator-host"},
+      {"configured", "cycle-approximate"},
+      {"svf-file-named", "svf-file"},
+      {"address-map", "icache"},
+  };
+  const auto* const row = std::ranges::find(kTold, setting.name, [](const auto& told) { return told.first; });
+  return row != std::end(kTold) ? *find_setting(row->second) : setting;
+}
+
+// A setting that no option of the command tells does not apply; one that no option tells at all, such as the
+// connection, does not depend on them.
+std::string why_not(const SettingRow& row, const State& state) {
+  for (const Applies& applies : {row.applies.first != nullptr ? *row.applies.first : row.applies, row.applies}) {
+    if (!applies.holds(state)) return applies.otherwise;
+  }
+  const Setting& told = told_by(*row.setting);
+  const Run* const run = run_of(state);
+  const unsigned behindSim = run == &kGeneralOptions ? kHdlSimOptions.bit : 0;
+  bool isTold = false;
+  for (const Option& option : options()) {
+    const Keyword* const own = value_row(option);
+    const auto tells = [&](const Keyword& keyword) {
+      return setting_of(keyword) == &told && (own == nullptr || own == &keyword);
+    };
+    if (std::ranges::none_of(option.group.keywords, tells)) continue;
+    isTold = true;
+    if (run != nullptr && (option.runs & (run->bit | behindSim)) != 0) return {};
+  }
+  return isTold ? "a command for this target and connection does not take it" : "";
+}
+
 std::span<const SettingRow> setting_rows() { return catalogue().rows; }
 
 const SettingRow& row_of(const Setting& setting) {
   return catalogue().rows[static_cast<std::size_t>(&setting - settings().data())];
 }
+
+std::size_t place_of(const SettingRow& row) { return static_cast<std::size_t>(&row - setting_rows().data()); }
 
 const SettingRow& row_named(std::string_view name) { return row_of(*find_setting(name)); }
 

@@ -8,6 +8,7 @@
 
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
+#include "model/processor_kind.h"
 #include "model/processor_list.h"
 #include "options/option_file.h"
 #include "platform/HHSMHwManager.h"
@@ -21,8 +22,6 @@ namespace SdkDebugDialog {
 namespace {
 
 constexpr std::size_t kLargestFile = std::size_t{16} << 20;  // bytes
-
-std::size_t place_of(const SettingRow& row) { return static_cast<std::size_t>(&row - setting_rows().data()); }
 
 std::string quoted(std::string_view name) { return "'" + std::string(name) + "'"; }
 
@@ -104,7 +103,7 @@ Expected<Processor> Design::find(std::string_view name) const {
 
 Expected<Processor> Design::identify(std::string_view command) const {
   const Reading reading = read_state({}, command, TextKind::command);
-  if (!reading.understood) return not_understood(reading);
+  if (!reading.understood) return not_understood(reading, command);
   const ProcessorInfoImp& told = reading.state.processor;
   constexpr unsigned kBare = Engine::ODM_TARGET | Engine::QMTC_TARGET | Engine::DCC_TARGET | Engine::DAP_TARGET;
   if ((told.allowedConnections & kBare) != 0) return Processor();
@@ -149,15 +148,32 @@ Configuration& Configuration::operator=(const Configuration& other) {
 Configuration& Configuration::operator=(Configuration&& other) noexcept = default;
 Configuration::~Configuration() = default;
 
+namespace {
+
+// Without a design the text alone tells what the processor is; this is kept by a reset.
+State defaults_told_by(const State& state) {
+  State defaults = defaults_of({});
+  ProcessorInfoImp& processor = defaults.processor;
+  const ProcessorInfoImp fresh = processor;
+  processor = state.processor;
+  processor.ProcessorInfoImpInit();
+  processor.cpuNr = fresh.cpuNr;
+  if (processor.procFamily == kFamilyPowerPC) processor.procVariant = kVariantOtherPowerPC;
+  return defaults;
+}
+
+}  // namespace
+
 Expected<Configuration> Configuration::read(Processor processor, std::string_view text, TextKind kind) {
   Reading reading = read_state(processor, text, kind);
-  if (!reading.understood) return not_understood(reading);
+  if (!reading.understood) return not_understood(reading, text);
   Configuration configuration(std::move(processor));
   Content& content = *configuration.m_content;
   content.kind = kind;
   content.text = text;
   content.state = reading.state;
   content.read = std::move(reading.state);
+  if (!content.state.hasDesign) content.defaults = defaults_told_by(content.state);
   return configuration;
 }
 
@@ -218,29 +234,29 @@ SettingValue Configuration::value(const Setting& setting) const { return value_o
 
 namespace {
 
-SettingState state_of(const SettingRow& row, const State& state, const State& defaults, bool hasDesign,
+SettingState state_of(const SettingRow& row, const State& state, const State& defaults,
                       const Expected<SettingSet>& written) {
   SettingState found;
   found.value = value_of(row, state);
   found.initial = initial_of(row, state, defaults);
-  found.applies = row.applies.holds(state);
-  found.changeable = found.applies;
-  if (!found.applies) {
-    found.whyNot = row.applies.otherwise;
-  } else if (row.setting->readOnly) {
-    found.changeable = false;
-    found.whyNot = "it cannot be set";
-  } else if (const char* const why = row.fixed != nullptr ? row.fixed(state, hasDesign) : nullptr) {
-    found.changeable = false;
-    found.whyNot = why;
+  found.whyNot = why_not(row, state);
+  found.applies = found.whyNot.empty();
+  const char* const fixed = row.traits.fixed != nullptr ? row.traits.fixed(state) : nullptr;
+  if (found.applies && (row.setting->readOnly || fixed != nullptr)) {
+    found.whyNot = fixed != nullptr ? fixed : "other settings tell it";
   }
-  if (row.choices != nullptr) {
-    found.choices = row.choices(row, state);
+  found.changeable = found.whyNot.empty();
+  if (row.traits.choices != nullptr) {
+    found.choices = row.traits.choices(row, state);
   } else if (row.setting->kind == SettingKind::flag) {
     found.choices = {"off", "on"};
   } else {
-    for (const SettingWord& word : row.words) found.choices.emplace_back(word.name);
+    for (const SettingWord& word : row.traits.words) found.choices.emplace_back(word.name);
   }
+  // What it is can stay, even where it could not be chosen.
+  const std::string now = value_text(*row.setting, found.value);
+  const bool isWord = row.setting->kind == SettingKind::word;
+  if (isWord && std::ranges::find(found.choices, now) == found.choices.end()) found.choices.push_back(now);
   found.freeText = found.choices.empty() || row.setting->kind == SettingKind::text;
 
   found.written = written && written->test(place_of(row));
@@ -259,7 +275,7 @@ SettingState state_of(const SettingRow& row, const State& state, const State& de
 
 SettingState Configuration::state(const Setting& setting) const {
   const Content& c = *m_content;
-  return state_of(row_of(setting), c.state, c.defaults, c.has_design(), written_settings(c.state));
+  return state_of(row_of(setting), c.state, c.defaults, written_settings(c.state));
 }
 
 std::vector<SettingState> Configuration::states() const {
@@ -268,7 +284,7 @@ std::vector<SettingState> Configuration::states() const {
   std::vector<SettingState> all;
   all.reserve(settings().size());
   for (const SettingRow& row : setting_rows()) {
-    all.push_back(state_of(row, c.state, c.defaults, c.has_design(), written));
+    all.push_back(state_of(row, c.state, c.defaults, written));
   }
   return all;
 }
@@ -277,23 +293,27 @@ Expected<std::vector<std::string>> Configuration::set(const Setting& setting, co
   Content& c = *m_content;
   const SettingRow& row = row_of(setting);
   const std::string name(setting.name);
-  if (value == value_of(row, c.state) && !row.alsoWhenSame) {
+  if (value == value_of(row, c.state) && !row.traits.alsoWhenSame) {
     c.toDefault.reset(place_of(row));
     return std::vector<std::string>();
   }
-  if (!row.applies.holds(c.state)) {
-    return Error{ErrorCode::refused, name + " does not apply: " + row.applies.otherwise, {}};
+  // A setting that does not apply can be changed where the text has it all the same.
+  const SettingValue initial = initial_of(row, c.state, c.defaults);
+  const std::string doesNotApply = why_not(row, c.state);
+  if (!doesNotApply.empty() && value_of(row, c.state) == initial) {
+    return Error{ErrorCode::refused, name + " does not apply: " + doesNotApply, {}};
   }
   std::string invalid = why_invalid(row, c.state, value);
-  const SettingValue initial = initial_of(row, c.state, c.defaults);
   if (value == SettingValue(std::string()) && value != initial) {
     invalid = "it cannot be empty; its default is " + value_text(setting, initial);
   }
   if (!invalid.empty()) return Error{ErrorCode::invalidValue, name + ": " + invalid, {}};
-  std::string why = set_value(row, c.state, value, c.has_design());
+  std::string why = set_value(row, c.state, value);
   if (!why.empty()) return Error{ErrorCode::refused, name + ": " + why, {}};
   c.toDefault.reset(place_of(row));
-  return warnings_of(row, c.state);
+  std::vector<std::string> warnings = warnings_of(row, c.state);
+  if (!doesNotApply.empty()) warnings.push_back(name + " does not apply: " + doesNotApply);
+  return warnings;
 }
 
 Expected<std::vector<std::string>> Configuration::set(std::string_view name, std::string_view text) {
@@ -307,7 +327,7 @@ Expected<std::vector<std::string>> Configuration::set(std::string_view name, std
 Expected<void> Configuration::reset(const Setting& setting) {
   Content& c = *m_content;
   const SettingRow& row = row_of(setting);
-  const char* const why = row.fixed != nullptr ? row.fixed(c.state, c.has_design()) : nullptr;
+  const char* const why = row.traits.fixed != nullptr ? row.traits.fixed(c.state) : nullptr;
   if (setting.readOnly || why != nullptr) {
     return Error{ErrorCode::refused, std::string(setting.name) + ": it cannot be set", {}};
   }
@@ -330,7 +350,7 @@ std::vector<Loss> Configuration::copy_settings(const Configuration& from) {
   const State& source = from.m_content->state;
   for (const SettingRow& row : setting_rows()) {
     const Setting& setting = *row.setting;
-    if (setting.group == "identity" || setting.readOnly || !row.applies.holds(source)) continue;
+    if (setting.group == "identity" || setting.readOnly || !why_not(row, source).empty()) continue;
     const SettingValue value = value_of(row, source);
     if (value == value_of(row, m_content->state)) continue;
     if (value == initial_of(row, source, from.m_content->defaults)) {
@@ -463,12 +483,22 @@ Expected<Edit> edit(const Processor& processor, std::string_view text, TextKind 
     ordered.emplace_back(setting, &change);
   }
   std::ranges::stable_sort(ordered, {}, [](const auto& item) { return item.first; });
+  std::vector<SettingValue> meant;
   for (const auto& [setting, change] : ordered) {
     if (change->toDefault) {
       if (const auto done = configuration->reset(*setting); !done) return done.error();
     } else if (const auto done = configuration->set(setting->name, change->value); !done) {
       return done.error();
     }
+    meant.push_back(configuration->value(*setting));
+  }
+  for (std::size_t i = 0; i < ordered.size(); ++i) {
+    const Setting& setting = *ordered[i].first;
+    const SettingValue now = configuration->value(setting);
+    if (now == meant[i]) continue;
+    return Error{ErrorCode::refused,
+                 std::string(setting.name) + ": another change sets it to " + quoted(value_text(setting, now)),
+                 {}};
   }
   Expected<Edit> edited = configuration->edited();
   if (edited && pinsRemoved) {

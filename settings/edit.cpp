@@ -14,8 +14,6 @@
 namespace SdkDebugDialog {
 namespace {
 
-std::size_t place_of(const SettingRow& row) { return static_cast<std::size_t>(&row - setting_rows().data()); }
-
 // --- In place ---
 
 struct Meant {
@@ -118,6 +116,21 @@ std::vector<std::string> words_without_setting(std::string_view text, TextKind k
   return found;
 }
 
+// The settings that a text that is not read back has no words for.
+std::vector<Loss> unsaid_losses(const EditTask& task, const Draft& draft) {
+  const State defaults = defaults_of(task.processor);
+  const auto said = said_by(draft);
+  std::vector<Loss> losses;
+  for (const SettingRow* const row : differing(defaults, task.wanted)) {
+    const Setting& setting = *row->setting;
+    const bool hasWords = setting.group != "identity" && setting.group != "connection" && setting.name != "cpu-jtag";
+    if (!hasWords || is_said(setting, said)) continue;
+    const std::string value = value_text(setting, value_of(*row, task.wanted));
+    losses.push_back({&setting, std::string(setting.name) + " " + value, why_not_written(*row, task.wanted)});
+  }
+  return losses;
+}
+
 std::vector<Loss> losses_between(const EditTask& task, std::string_view text, const Reading& reading) {
   std::vector<Loss> losses;
   if (reading.understood) {
@@ -126,6 +139,8 @@ std::vector<Loss> losses_between(const EditTask& task, std::string_view text, co
       losses.push_back(
           {row->setting, std::string(row->setting->name) + " " + value, why_not_written(*row, task.wanted)});
     }
+  } else {
+    losses = unsaid_losses(task, {std::string(text), task.written});
   }
   std::vector<std::string> kept = words_without_setting(text, task.written);
   for (std::string& words : words_without_setting(task.text, task.kind)) {
@@ -146,16 +161,7 @@ std::string why_not_read(const std::string& text, TextKind kind, const Reading& 
            " are read back";
   }
   if (reading.understood) return {};
-  return "the debugger accepts it, but it is not read back" +
-         (reading.engineText.empty() ? std::string() : ": " + reading.engineText);
-}
-
-std::vector<Difference> differences_between(const State& before, const State& after) {
-  std::vector<Difference> found;
-  for (const SettingRow* const row : differing(before, after)) {
-    found.push_back({row->setting, value_of(*row, before), value_of(*row, after)});
-  }
-  return found;
+  return "it is not read back" + (reading.engineText.empty() ? std::string() : ": " + reading.engineText);
 }
 
 Edit finished(const EditTask& task, std::string text, bool anew) {
@@ -163,7 +169,13 @@ Edit finished(const EditTask& task, std::string text, bool anew) {
   edit.text = std::move(text);
   edit.anew = anew;
   const Reading reading = read_state(task.processor, edit.text, task.written);
-  edit.differences = differences_between(task.before, reading.understood ? reading.state : task.wanted);
+  const State& after = reading.understood ? reading.state : task.wanted;
+  for (const SettingRow* const row : differing(task.before, after)) {
+    edit.differences.push_back({row->setting, value_of(*row, task.before), value_of(*row, after)});
+    for (std::string& warning : warnings_of(*row, after)) {
+      if (std::ranges::find(edit.warnings, warning) == edit.warnings.end()) edit.warnings.push_back(std::move(warning));
+    }
+  }
   edit.losses = losses_between(task, edit.text, reading);
   edit.notReadBack = why_not_read(edit.text, task.written, reading);
   return edit;
@@ -187,7 +199,7 @@ Expected<SettingSet> written_settings(const State& state) {
 }
 
 std::string why_not_written(const SettingRow& row, const State& state) {
-  if (!row.applies.holds(state)) return row.applies.otherwise;
+  if (std::string why = why_not(row, state); !why.empty()) return why;
   if (row.setting->kind == SettingKind::devices) return "of a device number, part, length and IDCODE are written";
   for (const Option& option : options()) {
     for (const Keyword& keyword : option.group.keywords) {
@@ -237,9 +249,12 @@ Expected<Edit> edit_text(const EditTask& task) {
     edit->losses = std::move(losses);
     return edit;
   }
+  // The rest of a line that is too long is not read: where it is cut depends on every word before.
+  const bool isCut = task.kind == TextKind::optionFile && command_in(task.text, task.kind).size() > kLongestLine;
   std::optional<Meant> best;
-  if (std::optional<Meant> begin = meaning_of(std::string(task.text), task); begin && !task.text.empty()) {
-    best = step_by_step(std::move(*begin), task);
+  if (!task.text.empty() && !isCut) best = meaning_of(std::string(task.text), task);
+  if (best) {
+    best = step_by_step(std::move(*best), task);
     if (!best->wrong.empty()) {
       if (std::optional<Meant> whole = all_at_once(task)) best = step_by_step(std::move(*whole), task);
     }

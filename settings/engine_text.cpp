@@ -48,6 +48,7 @@ void find_fpu(BoundEngine& engine) {
 State defaults_of(const Processor& processor) {
   State state;
   state.processor = processor.identity();
+  state.hasDesign = processor.hardware() != nullptr;
   BoundEngine engine(state.processor, processor.hardware());
   engine.imp.EngineImpInit();
   find_fpu(engine);
@@ -64,6 +65,7 @@ Reading read_state(const Processor& processor, std::string_view text, TextKind k
   }
   State& state = reading.state;
   state.processor = processor.identity();
+  state.hasDesign = processor.hardware() != nullptr;
   ReadingEngine engine(state.processor, processor.hardware());
   EngineImp& imp = engine.imp;
   imp.EngineImpInit();
@@ -84,8 +86,12 @@ Reading read_state(const Processor& processor, std::string_view text, TextKind k
   return reading;
 }
 
-Error not_understood(const Reading& reading) {
+Error not_understood(const Reading& reading, std::string_view text) {
+  std::string_view word = text.substr(0, reading.consumed);
+  word = word.substr(0, word.find_last_not_of(" \t\n\v\f\r") + 1);
+  word = word.substr(word.find_last_of(" \t\n") + 1);
   std::string message = "the text is not understood";
+  if (!word.empty()) message += " at '" + std::string(word) + "'";
   if (reading.loneDash) message = "a lone '-' stands in the place of an option or a value";
   return {ErrorCode::notUnderstood, std::move(message), reading.engineText};
 }
@@ -105,7 +111,12 @@ Expected<std::string> write_state(const State& state, TextKind kind) {
   if (result == kOk) return text;
   std::string engineText;
   engine.engine.GetErrorStr(engineText);
-  return Error{ErrorCode::cannotBeWritten, "no connect command can be written for these settings", engineText};
+  std::string message = "no connect command can be written for these settings";
+  const CableType& cable = cable_type(state.cable.type);
+  if (state.cable.type != Engine::CABLE_NONE && cable.notWritten != nullptr) {
+    message += "; the cable: " + std::string(cable.notWritten);
+  }
+  return Error{ErrorCode::cannotBeWritten, std::move(message), engineText};
 }
 
 }  // namespace SdkDebugDialog

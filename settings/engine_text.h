@@ -27,7 +27,7 @@ struct Reading {
 Reading read_state(const Processor& processor, std::string_view text, TextKind kind);
 
 // Why the text was not understood, as an error.
-Error not_understood(const Reading& reading);
+Error not_understood(const Reading& reading, std::string_view text);
 
 // The text that the engine writes for the state: a command, or a text of cable and chain alone.
 // ErrorCode::cannotBeWritten.

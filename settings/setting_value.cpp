@@ -35,8 +35,9 @@ SettingValue plain_value(const SettingRow& row, const State& state) {
           if (static_cast<std::uint32_t>(stored) != kAddressNotSet) value = static_cast<std::int64_t>(stored);
           break;
         case SettingKind::word: {
-          const auto word = std::ranges::find(row.words, static_cast<std::uint32_t>(stored), &SettingWord::value);
-          value = word != row.words.end() ? std::string(word->name) : std::to_string(stored);
+          const auto word =
+              std::ranges::find(row.traits.words, static_cast<std::uint32_t>(stored), &SettingWord::value);
+          value = word != row.traits.words.end() ? std::string(word->name) : std::to_string(stored);
           break;
         }
         default:
@@ -56,7 +57,7 @@ void store_plain(const SettingRow& row, State& state, const SettingValue& value)
     } else if (const auto* const flag = std::get_if<bool>(&value)) {
       stored = static_cast<Stored>(*flag);
     } else if (const auto* const name = std::get_if<std::string>(&value)) {
-      stored = static_cast<Stored>(std::ranges::find(row.words, *name, &SettingWord::name)->value);
+      stored = static_cast<Stored>(std::ranges::find(row.traits.words, *name, &SettingWord::name)->value);
     } else {
       stored = static_cast<Stored>(kAddressNotSet);
     }
@@ -66,27 +67,28 @@ void store_plain(const SettingRow& row, State& state, const SettingValue& value)
 // --- Checks that hold for a kind of value ---
 
 std::string check_number(const SettingRow& row, std::int64_t number) {
-  if (number >= 0 && number <= row.max) return {};
+  if (number >= 0 && number <= row.traits.max) return {};
   const bool isAddress = row.setting->kind == SettingKind::address;
-  const std::string max = isAddress ? address_text(static_cast<std::uint32_t>(row.max)) : std::to_string(row.max);
+  const std::string max =
+      isAddress ? address_text(static_cast<std::uint32_t>(row.traits.max)) : std::to_string(row.traits.max);
   return "it must be from 0 to " + max;
 }
 
 std::string check_text(const SettingRow& row, const std::string& text) {
-  if (text.empty() || row.manyWords || is_plain_word(text)) return {};
+  if (text.empty() || row.traits.manyWords || is_plain_word(text)) return {};
   return "it must be one word, without blanks and without a dash in front: a connect command has no quoting";
 }
 
 std::string check_word(const SettingRow& row, const State& state, const std::string& word) {
-  const auto known = std::ranges::find(row.words, word, &SettingWord::name);
-  const auto choices = row.choices != nullptr ? row.choices(row, state) : std::vector<std::string>();
-  if (known != row.words.end() &&
-      (row.choices == nullptr || row.set != nullptr || std::ranges::find(choices, word) != choices.end())) {
+  const auto known = std::ranges::find(row.traits.words, word, &SettingWord::name);
+  const auto choices = row.traits.choices != nullptr ? row.traits.choices(row, state) : std::vector<std::string>();
+  if (known != row.traits.words.end() && (row.traits.choices == nullptr || row.traits.set != nullptr ||
+                                          std::ranges::find(choices, word) != choices.end())) {
     return {};
   }
   std::vector<std::string> accepted = choices;
-  if (row.choices == nullptr) {
-    for (const SettingWord& w : row.words) accepted.emplace_back(w.name);
+  if (row.traits.choices == nullptr) {
+    for (const SettingWord& w : row.traits.words) accepted.emplace_back(w.name);
   }
   return "it must be one of " + joined(accepted, ", ");
 }
@@ -116,11 +118,11 @@ bool has_kind(const SettingRow& row, const SettingValue& value) {
 }  // namespace
 
 SettingValue value_of(const SettingRow& row, const State& state) {
-  return row.get != nullptr ? row.get(row, state) : plain_value(row, state);
+  return row.traits.get != nullptr ? row.traits.get(row, state) : plain_value(row, state);
 }
 
 SettingValue initial_of(const SettingRow& row, const State& state, const State& defaults) {
-  return row.initial != nullptr ? row.initial(state, defaults) : value_of(row, defaults);
+  return row.traits.initial != nullptr ? row.traits.initial(state, defaults) : value_of(row, defaults);
 }
 
 std::string why_invalid(const SettingRow& row, const State& state, const SettingValue& value) {
@@ -131,54 +133,28 @@ std::string why_invalid(const SettingRow& row, const State& state, const Setting
   return {};
 }
 
-std::string set_value(const SettingRow& row, State& state, const SettingValue& value, bool hasDesign) {
+std::string set_value(const SettingRow& row, State& state, const SettingValue& value) {
   if (row.setting->readOnly) return "it cannot be set";
-  if (row.fixed != nullptr) {
-    if (const char* const why = row.fixed(state, hasDesign)) return std::string(why) + " and cannot be set";
+  if (row.traits.fixed != nullptr) {
+    if (const char* const why = row.traits.fixed(state)) return std::string(why) + " and cannot be set";
   }
-  if (row.set != nullptr) return row.set(row, state, value, hasDesign);
+  if (row.traits.set != nullptr) return row.traits.set(row, state, value);
   store_plain(row, state, value);
   return {};
 }
 
 void reset_value(const SettingRow& row, State& state, const State& defaults) {
   const SettingValue initial = initial_of(row, state, defaults);
-  if (row.set == nullptr || row.resetPlainly) {
+  if (row.traits.set == nullptr || row.traits.resetPlainly) {
     store_plain(row, state, initial);
   } else {
-    row.set(row, state, initial, true);
+    row.traits.set(row, state, initial);
   }
 }
 
-std::vector<std::string> warnings_of(const SettingRow& row, const State& s) {
+std::vector<std::string> warnings_of(const SettingRow& row, const State& state) {
   std::vector<std::string> warnings;
-  const std::string_view name = row.setting->name;
-  const int device = s.processor.debugDevice;
-  if (name == "debug-device" || name == "devices") {
-    const auto number = [](const JtagOption& d) { return int{d.devicenr}; };
-    if (device != 0 && !s.chain.empty() && std::ranges::find(s.chain, device, number) == s.chain.end()) {
-      warnings.push_back("no device of the JTAG chain has the number " + std::to_string(device) +
-                         " of the debug device");
-    }
-    std::vector<int> numbers;
-    std::ranges::transform(s.chain, std::back_inserter(numbers), number);
-    std::ranges::sort(numbers);
-    const auto twice = std::ranges::adjacent_find(numbers);
-    if (twice != numbers.end()) {
-      warnings.push_back("two devices of the JTAG chain have the number " + std::to_string(*twice));
-    }
-  }
-  if (name == "cable" && s.cable.type == Engine::ZARVEK_PLUGIN && s.cable.modulename.empty()) {
-    warnings.emplace_back("a zarvek_plugin cable needs a module");
-  }
-  if (name == "cable" && s.cable.type != Engine::CABLE_NONE && cable_type(s.cable.type).notWritten != nullptr) {
-    warnings.emplace_back("a command with this cable cannot be written anew: " +
-                          std::string(cable_type(s.cable.type).notWritten));
-  }
-  if ((name == "rom" || name == "rom-size") &&
-      (s.processor.romemStartAddr == kAddressNotSet) != (s.processor.romemSize == 0)) {
-    warnings.emplace_back("the read-only memory needs both, rom and rom-size");
-  }
+  if (row.traits.warn != nullptr) row.traits.warn(state, warnings);
   return warnings;
 }
 

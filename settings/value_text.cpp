@@ -11,11 +11,6 @@
 namespace SdkDebugDialog {
 namespace {
 
-bool same_word(std::string_view a, std::string_view b) {
-  const auto small = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-  return std::ranges::equal(a, b, {}, small, small);
-}
-
 Scale scale_of(const Setting& setting) {
   switch (setting.kind) {
     case SettingKind::frequency:
@@ -34,11 +29,9 @@ constexpr std::string_view kHardCores[] = {"none", "ppc405", "other"};
 constexpr std::size_t kShort = 4;  // fields of a device
 constexpr std::size_t kLong = 7;
 
-std::string hex_text(std::uint32_t number) { return address_text(number); }
-
 std::string device_text(const JtagOption& d) {
   std::string text =
-      std::to_string(d.devicenr) + "," + d.partname + "," + std::to_string(d.irlength) + "," + hex_text(d.idcode);
+      std::to_string(d.devicenr) + "," + d.partname + "," + std::to_string(d.irlength) + "," + address_text(d.idcode);
   if (d.isfpga == 0 && d.hardppc == 0 && d.nppc == 0) return text;
   const auto core = static_cast<std::size_t>(d.hardppc);
   return text + "," + std::to_string(d.isfpga) + "," + std::string(kHardCores[core < 3 ? core : 2]) + "," +
@@ -63,7 +56,8 @@ bool parse_device(std::string_view text, JtagOption& device) {
   device.partname = fields[1];
   device.idcode = static_cast<std::uint32_t>(*idcode);
   if (fields.size() == kShort) return true;
-  const auto* const core = std::ranges::find(kHardCores, fields[5]);
+  const auto* const core =
+      std::ranges::find_if(kHardCores, [&](std::string_view c) { return same_word(c, fields[5]); });
   device.hardppc = static_cast<std::int8_t>(core - std::begin(kHardCores));
   return core != std::end(kHardCores) && parse_byte(fields[4], device.isfpga) && parse_byte(fields[6], device.nppc);
 }
@@ -87,11 +81,14 @@ std::string accepted(const Setting& setting) {
     case SettingKind::word:
     case SettingKind::words: {
       std::vector<std::string> names;
-      for (const SettingWord& word : row_of(setting).words) names.emplace_back(word.name);
+      for (const SettingWord& word : row_of(setting).traits.words) {
+        if (word.offered) names.emplace_back(word.name);
+      }
       return joined(names, ", ");
     }
     case SettingKind::devices:
-      return "devices as NR,PART,IRLENGTH,IDCODE with a colon between, such as 1,prom32,16,0xa5059093; or none";
+      return "devices as NR,PART,IRLENGTH,IDCODE (or with ,FPGA,HARDPPC,PPCCOUNT) with a colon between, such as "
+             "1,prom32,16,0xa5059093; or none";
   }
   return {};
 }
@@ -107,7 +104,7 @@ Error no_value(const Setting& setting, std::string_view text) {
 
 // The word's own spelling; empty when there is no such word.
 std::string parse_word(const Setting& setting, std::string_view text) {
-  for (const SettingWord& word : row_of(setting).words) {
+  for (const SettingWord& word : row_of(setting).traits.words) {
     if (same_word(word.name, text)) return std::string(word.name);
   }
   if (setting.name != "cable") return {};

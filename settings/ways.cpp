@@ -10,6 +10,7 @@
 
 #include "options/groups.h"
 #include "settings/value_words.h"
+#include "settings/words.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -17,19 +18,6 @@ namespace {
 using Takes = Option::Takes;
 
 bool has_pairs(const Option& option) { return option.takes == Takes::pairs; }
-
-// Some settings have no word of their own: the word of another setting sets both.
-const Setting& told_by(const Setting& setting) {
-  constexpr std::pair<std::string_view, std::string_view> kTold[] = {
-      {"sim-port", "sim-host"},
-      {"hardware-simulator-port", "hardware-simulator-host"},
-      {"configured", "cycle-approximate"},
-      {"svf-file-named", "svf-file"},
-      {"address-map", "icache"},
-  };
-  const auto* const row = std::ranges::find(kTold, setting.name, [](const auto& told) { return told.first; });
-  return row != std::end(kTold) ? *find_setting(row->second) : setting;
-}
 
 // The setting that a word sets, if the word is a value or an option without one.
 const Setting* set_by(const WalkedWord& word) {
@@ -75,7 +63,7 @@ std::vector<std::string> ways_without(const Draft& draft, const std::vector<std:
   for (const std::size_t i : values) {
     const Draft::Group& group = draft.groups[draft.words[i].group];
     bool isEmpty = true;
-    for (std::size_t j = group.first + 1; j <= group.last; ++j) isEmpty = isEmpty && gone.contains(j);
+    for (std::size_t j = group.first + 1; j < group.end; ++j) isEmpty = isEmpty && gone.contains(j);
     if (draft.words[i].group != 0 && isEmpty) gone.insert(group.first);
   }
   return {without(), optionsStay};
@@ -86,7 +74,7 @@ std::string without_cable(const Draft& draft) {
   Changes changes(draft);
   for (const Draft::Group& group : draft.groups) {
     if (group.option == nullptr || &group.option->group != &kCable) continue;
-    for (std::size_t i = group.first; i <= group.last; ++i) changes.remove(i);
+    for (std::size_t i = group.first; i < group.end; ++i) changes.remove(i);
   }
   return changes.made();
 }
@@ -115,36 +103,36 @@ bool runs_hdl_simulator(const Draft& draft) {
   });
 }
 
-// The words behind which an option may be put: first where the writer would put it, then behind the last one of each
+// Behind how many words an option may be put: first where the writer would put it, then behind the last one of each
 // other option.
 std::vector<std::size_t> places_for(const Draft& draft, const Option& option) {
   if (draft.groups.empty()) return {};
-  std::map<std::size_t, std::size_t> lastOf;  // by place in the table, from 1; 0 for the words before the first option
+  std::map<std::size_t, std::size_t> endOf;  // by place in the table; 0 for the words before the first option
   for (std::size_t i = 0; i < draft.groups.size(); ++i) {
     const Draft::Group& group = draft.groups[i];
     const std::size_t place = i == 0 || group.option == nullptr ? 0 : place_in_table(*group.option) + 1;
-    std::size_t& last = lastOf[place];
-    last = std::max(last, group.last);
+    std::size_t& end = endOf[place];
+    end = std::max(end, group.end);
   }
-  std::size_t writers = lastOf.begin()->second;
-  for (const auto& [place, last] : lastOf) {
-    if (place <= place_in_table(option) + 1) writers = std::max(writers, last);
+  std::size_t writers = 0;
+  for (const auto& [place, end] : endOf) {
+    if (place <= place_in_table(option) + 1) writers = std::max(writers, end);
   }
   std::vector<std::size_t> places = {writers};
-  for (const auto& [place, last] : lastOf) {
-    if (last != writers) places.push_back(last);
+  for (const auto& [place, end] : endOf) {
+    if (end != writers) places.push_back(end);
   }
   return places;
 }
 
-// Behind which words a pair can join its option: in front of the first pair that the writer would write later, and at
-// the end.
+// Behind how many words a pair joins those of its group: before the first one that the writer would put behind it, and
+// at the end.
 std::vector<std::size_t> places_in(const Draft& draft, const Draft::Group& group, const Keyword& keyword) {
-  for (std::size_t i = group.first + 1; i <= group.last; ++i) {
+  for (std::size_t i = group.first + 1; i < group.end; ++i) {
     const WalkedWord& word = draft.words[i];
-    if (word.role == Role::keyword && word.keyword != nullptr && word.keyword > &keyword) return {i - 1, group.last};
+    if (word.role == Role::keyword && word.keyword != nullptr && word.keyword > &keyword) return {i, group.end};
   }
-  return {group.last};
+  return {group.end};
 }
 
 const Keyword& frequency_row() {
@@ -153,24 +141,24 @@ const Keyword& frequency_row() {
 
 // A cable at the end of a text implies a frequency: the same text with it written out, so that options can follow.
 Draft with_frequency_written(const Draft& draft, const State& now) {
-  const std::size_t last = draft.last_read();
-  if (last == draft.words.size() || now.cable.frequency == 0) return draft;
-  const Draft::Group& group = draft.groups[draft.words[last].group];
+  const std::size_t end = draft.read_end();
+  if (end == 0 || now.cable.frequency == 0) return draft;
+  const Draft::Group& group = draft.groups[draft.words[end - 1].group];
   if (group.option == nullptr || &group.option->group != &kCable) return draft;
-  for (std::size_t i = group.first; i <= group.last; ++i) {
+  for (std::size_t i = group.first; i < group.end; ++i) {
     if (draft.words[i].keyword == &frequency_row()) return draft;
   }
   const std::size_t place = places_in(draft, group, frequency_row()).front();
-  return {with_behind(draft, place, pair_text(frequency_row(), now)), draft.kind};
+  return {with_added(draft, place, pair_text(frequency_row(), now)), draft.kind};
 }
 
 // Adds the ways to add an option.
 void add_option(std::vector<std::string>& ways, const Draft& draft, const Option& option, const std::string& text,
                 const State& now) {
   const Draft whole = with_frequency_written(draft, now);
-  for (const std::size_t place : places_for(whole, option)) ways.push_back(with_behind(whole, place, text));
+  for (const std::size_t place : places_for(whole, option)) ways.push_back(with_added(whole, place, text));
   if (whole.text == draft.text) return;
-  for (const std::size_t place : places_for(draft, option)) ways.push_back(with_behind(draft, place, text));
+  for (const std::size_t place : places_for(draft, option)) ways.push_back(with_added(draft, place, text));
 }
 
 // Adds the ways to add the words of a setting that the text does not have.
@@ -194,7 +182,7 @@ void add_setting(std::vector<std::string>& ways, const Draft& draft, const Setti
       const auto last = std::find_if(draft.groups.rbegin(), draft.groups.rend(), isOption);
       for (const Draft::Group* const group : {&*last, &*first}) {
         for (const std::size_t place : places_in(draft, *group, *keyword)) {
-          ways.push_back(with_behind(draft, place, pair));
+          ways.push_back(with_added(draft, place, pair));
         }
       }
     }
@@ -224,11 +212,10 @@ std::vector<std::string> ways_of_value(const Draft& draft, const SettingRow& row
     Changes changes(draft);
     changes.replace(values.back(), value);
     ways.push_back(changes.made());
-  } else {
-    // Several values, each with its keyword.
-    const Draft rest(ways_without(draft, values).back(), draft.kind);
-    add_setting(ways, rest, *row.setting, meanings);
   }
+  // In another place, for a value that later words change; and several values, each with its keyword.
+  const Draft rest(ways_without(draft, values).back(), draft.kind);
+  add_setting(ways, rest, *row.setting, meanings);
   return ways;
 }
 
@@ -270,7 +257,7 @@ void change_device(Changes& changes, const Draft& draft, const Draft::Group& gro
     const std::string pair = device_pair_text(row, after);
     if (pair == device_pair_text(row, before)) continue;
     std::vector<std::size_t> values;
-    for (std::size_t i = group.first + 1; i <= group.last; ++i) {
+    for (std::size_t i = group.first + 1; i < group.end; ++i) {
       if (draft.words[i].role == Role::value && draft.words[i].keyword == &row) values.push_back(i);
     }
     if (pair.empty()) {
@@ -279,7 +266,7 @@ void change_device(Changes& changes, const Draft& draft, const Draft::Group& gro
         changes.remove(i);
       }
     } else if (values.empty()) {
-      changes.add_behind(places_in(draft, group, row).front(), pair);
+      changes.add(places_in(draft, group, row).front(), pair);
     } else {
       changes.replace(values.back(), device_value(row, after));
     }
@@ -304,7 +291,7 @@ std::vector<std::string> ways_of_devices(const Draft& draft, const Meanings& mea
   Changes changes(draft);
   for (std::size_t i = head; i < both; ++i) change_device(changes, draft, *groups[i], before[i], after[i]);
   for (std::size_t i = both; i < beforeEnd; ++i) {
-    for (std::size_t word = groups[i]->first; word <= groups[i]->last; ++word) changes.remove(word);
+    for (std::size_t word = groups[i]->first; word < groups[i]->end; ++word) changes.remove(word);
   }
   std::string added;
   for (std::size_t i = both; i < afterEnd; ++i) added += device_text_of_command(after[i]);
@@ -312,8 +299,9 @@ std::vector<std::string> ways_of_devices(const Draft& draft, const Meanings& mea
   const Draft changed(changes.made(), draft.kind);
   const Draft whole = with_frequency_written(changed, meanings.now);
   const auto now = device_groups(whole);
-  if (both > 0) return {with_behind(whole, now[both - 1]->last, added)};
-  if (!now.empty()) return {with_behind(whole, now.front()->first - 1, added)};
+  if (now.size() < both) return {};  // the end of a file's line is pushed out of what is read
+  if (both > 0) return {with_added(whole, now[both - 1]->end, added)};
+  if (!now.empty()) return {with_added(whole, now.front()->first, added)};
   std::vector<std::string> ways;
   add_option(ways, changed, device_option(), added, meanings.now);
   return ways;
@@ -346,11 +334,11 @@ std::set<const Setting*> said_by(const Draft& draft) {
 std::vector<std::size_t> own_pins_written(const Draft& draft) {
   std::vector<std::size_t> found;
   for (const Draft::Group& group : draft.groups) {
-    if (!is_device(group) || group.last != group.first + 2) continue;
-    const std::string pair = " " + std::string(draft.word(group.first + 1)) + " " + std::string(draft.word(group.last));
-    const auto small = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    if (!std::ranges::equal(pair, kOwnPinsWritten, {}, small)) continue;
-    found.insert(found.end(), {group.first, group.first + 1, group.last});
+    if (!is_device(group) || group.end != group.first + 3) continue;
+    const std::string pair =
+        " " + std::string(draft.word(group.first + 1)) + " " + std::string(draft.word(group.first + 2));
+    if (!same_word(pair, kOwnPinsWritten)) continue;
+    found.insert(found.end(), {group.first, group.first + 1, group.first + 2});
   }
   return found;
 }
@@ -358,7 +346,7 @@ std::vector<std::size_t> own_pins_written(const Draft& draft) {
 std::string with_own_pins(const Draft& draft, const State& now) {
   const std::string form = " " + std::string(device_option().name.text()) + std::string(kOwnPinsWritten);
   const auto groups = device_groups(draft);
-  if (!groups.empty() && groups.front()->first > 0) return with_behind(draft, groups.front()->first - 1, form);
+  if (!groups.empty()) return with_added(draft, groups.front()->first, form);
   std::vector<std::string> ways;
   add_option(ways, draft, device_option(), form, now);
   return ways.empty() ? draft.text + form : ways.front();

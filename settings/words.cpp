@@ -26,6 +26,11 @@ std::size_t distance(std::string_view a, std::string_view b) {
 
 }  // namespace
 
+bool same_word(std::string_view a, std::string_view b) {
+  const auto small = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+  return std::ranges::equal(a, b, {}, small, small);
+}
+
 std::string joined(std::span<const std::string> items, std::string_view separator) {
   std::string out;
   for (const std::string& item : items) {

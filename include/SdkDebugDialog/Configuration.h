@@ -110,6 +110,9 @@ struct Edit {
   std::vector<Loss> losses;             // what storing it loses
   std::string notReadBack;              // why the reader refuses it or reads it differently; empty if it is read back
 
+  // What is accepted and yet looks wrong about the settings that differ.
+  std::vector<std::string> warnings;
+
   bool is_safe() const { return losses.empty() && notReadBack.empty(); }
 };
 

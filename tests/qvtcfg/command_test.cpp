@@ -35,9 +35,8 @@ TEST_F(Command, ThatCannotBeWrittenIsRefusedWithTheEnginesText) {
   const Result result = qvtcfg({"command", "ovrin_0", "--write"});
   EXPECT_EQ(result.code, 1);
   EXPECT_EQ(result.out, "");
-  EXPECT_THAT(
-      result.err,
-      IsComplaint("ovrin_0: no connect command can be written for these settings; change the connection or the cable"));
+  EXPECT_THAT(result.err, IsComplaint("ovrin_0: no connect command can be written for these settings; the cable: the "
+                                      "writer has no text for this type; change the connection or the cable"));
   EXPECT_EQ(read_option_file("ovrin_0"), "connect ov odm -cable type zarvek_tcf");
 }
 

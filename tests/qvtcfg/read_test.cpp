@@ -76,7 +76,7 @@ TEST_F(ReadAlone, StoresNothingThatTheProcessorDoesNotAdmit) {
   const Result result = qvtcfg({"read", command, "--write"});
   EXPECT_EQ(result.code, 3);
   EXPECT_EQ(result.out, "");
-  EXPECT_THAT(result.err, IsComplaint("the command given: the text is not understood; 'qvtcfg command "
+  EXPECT_THAT(result.err, IsComplaint("the command given: the text is not understood at 'stub'; 'qvtcfg command "
                                       "ovrin_1' prints one that is understood"));
   EXPECT_FALSE(exists("etc/qvt_ovrin_1.opt"));
 }
@@ -133,7 +133,7 @@ TEST_F(ReadWithoutDesign, ShowsWhatTheCommandAloneTells) {
             "  family              ovrin\n"
             "  variant             soft\n"
             "  cpu                 1\n"
-            "  connections         simulator, virtual-platform\n"
+            "  connections         simulator, hardware, stub, virtual-platform\n"
             "  fpu                 none\n"
             "\n"
             "connection\n"
@@ -249,7 +249,7 @@ TEST_F(Targets, ThatTellWhatTheProcessorIs) {
       {"connect ov sim", R"(["ovrin_0", "ovrin", "soft", ["simulator", "hardware", "stub", "stub-uart"]])"},
       {"connect arm hw", R"(["cortexa9_0", "arm", "cortex-a9", ["hardware"]])"},
       {"connect r5 hw", R"(["cortexa9_0", "arm", "cortex-a9", ["hardware"]])"},
-      {"connect r5 hw -debugdevice cpunr 9", R"([null, "arm", "r5", ["simulator", "hardware"]])"},
+      {"connect r5 hw -debugdevice cpunr 9", R"([null, "arm", "r5", ["hardware"]])"},
       {"connect ppc hw -debugdevice cpunr 9", R"([null, "ppc", "other", ["simulator", "hardware"]])"},
       {"connect dap hw", R"([null, "arm", "cortex-a9", ["dap-target"]])"},
       {"connect dcc", R"([null, "arm", "cortex-a9", ["dcc-target"]])"},

@@ -67,7 +67,7 @@ TEST_F(Usage, OptionsOfTheProgramMayFollowTheCommand) {
 
 TEST_F(Usage, TwoDashesEndTheOptions) {
   EXPECT_THAT(qvtcfg({"read", "ovrin_0", "--", "-foo"}).err,
-              IsComplaint("the command given: the text is not understood; 'qvtcfg command ovrin_0' prints"));
+              IsComplaint("the command given: the text is not understood at '-foo'; 'qvtcfg command ovrin_0' prints"));
 }
 
 TEST_F(Usage, MistakesAreExplainedInOneLine) {
