@@ -161,8 +161,9 @@ void add_option(std::vector<std::string>& ways, const Draft& draft, const Option
   for (const std::size_t place : places_for(draft, option)) ways.push_back(with_added(draft, place, text));
 }
 
-// Adds the ways to add the words of a setting that the text does not have.
-void add_setting(std::vector<std::string>& ways, const Draft& draft, const Setting& setting, const Meanings& meanings) {
+// Adds the ways to add the words of a setting that the text does not have: to an option that it has, or with an option.
+void add_setting(std::vector<std::string>& ways, const Draft& draft, const Setting& setting, const Meanings& meanings,
+                 bool inNewOption = true) {
   const Run* const run = main_run(draft);
   const unsigned runs = (run != nullptr ? run->bit : 0) | (runs_hdl_simulator(draft) ? kHdlSimOptions.bit : 0);
   for (const Option& option : options()) {
@@ -173,7 +174,7 @@ void add_setting(std::vector<std::string>& ways, const Draft& draft, const Setti
     if (keyword == option.group.keywords.end()) continue;
     const std::string pair = pair_text(*keyword, meanings.wanted);
     if (!has_pairs(option)) {
-      add_option(ways, draft, option, pair, meanings.now);
+      if (inNewOption) add_option(ways, draft, option, pair, meanings.now);
       continue;
     }
     const auto isOption = [&](const Draft::Group& group) { return group.option == &option; };
@@ -186,7 +187,7 @@ void add_setting(std::vector<std::string>& ways, const Draft& draft, const Setti
         }
       }
     }
-    add_option(ways, draft, option, " " + std::string(option.name.text()) + pair, meanings.now);
+    if (inNewOption) add_option(ways, draft, option, " " + std::string(option.name.text()) + pair, meanings.now);
   }
 }
 
@@ -197,9 +198,13 @@ std::vector<std::string> ways_of_value(const Draft& draft, const SettingRow& row
   std::vector<std::string> ways;
   const std::vector<std::size_t> values = values_of(draft, *row.setting);
   const bool unsaid = is_unsaid(row_of(told_by(*row.setting)), meanings.wanted);
-  if (unsaid && row.setting->name == "cable") ways.push_back(without_cable(draft));
-  if ((unsaid || toDefault) && !values.empty())
-    std::ranges::move(ways_without(draft, values), std::back_inserter(ways));
+  // No frequency is said by no words where the cable has none by itself, and by 0 elsewhere.
+  const bool isNoFrequency = row.setting->kind == SettingKind::frequency && meanings.wanted.cable.frequency == 0;
+  if (unsaid || toDefault || isNoFrequency) {
+    ways.push_back(draft.text);
+    if (!values.empty()) ways = ways_without(draft, values);
+  }
+  if (unsaid && row.setting->name == "cable") ways = {without_cable(draft)};
   if (unsaid) return ways;
   if (values.empty()) {
     add_setting(ways, draft, *row.setting, meanings);
@@ -208,14 +213,15 @@ std::vector<std::string> ways_of_value(const Draft& draft, const SettingRow& row
   const Keyword* const keyword = draft.words[values.back()].keyword;
   if (keyword == nullptr) return ways;
   const std::string value = value_words(*keyword, meanings.wanted);
-  if (value.find(' ') == std::string::npos) {
+  const bool isOneWord = value.find(' ') == std::string::npos;
+  if (isOneWord) {
     Changes changes(draft);
     changes.replace(values.back(), value);
     ways.push_back(changes.made());
   }
-  // In another place, for a value that later words change; and several values, each with its keyword.
+  // At the end of its option, for a value that later words there change; or several values, each with its keyword.
   const Draft rest(ways_without(draft, values).back(), draft.kind);
-  add_setting(ways, rest, *row.setting, meanings);
+  add_setting(ways, rest, *row.setting, meanings, !isOneWord);
   return ways;
 }
 
@@ -326,7 +332,12 @@ bool is_said(const Setting& setting, const std::set<const Setting*>& said) { ret
 
 std::set<const Setting*> said_by(const Draft& draft) {
   std::set<const Setting*> said;
-  for (const WalkedWord& word : draft.words) said.insert(set_by(word));
+  for (const WalkedWord& word : draft.words) {
+    said.insert(set_by(word));
+    // An option without the value that it wants.
+    const Keyword* const row = word.option != nullptr ? value_row(*word.option) : nullptr;
+    if (row != nullptr) said.insert(setting_of(*row));
+  }
   said.erase(nullptr);
   return said;
 }
