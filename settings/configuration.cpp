@@ -293,13 +293,13 @@ Expected<std::vector<std::string>> Configuration::set(const Setting& setting, co
   Content& c = *m_content;
   const SettingRow& row = row_of(setting);
   const std::string name(setting.name);
-  if (value == value_of(row, c.state) && !row.traits.alsoWhenSame) {
+  const std::string doesNotApply = why_not(row, c.state);
+  if (value == value_of(row, c.state) && (!row.traits.alsoWhenSame || !doesNotApply.empty())) {
     c.toDefault.reset(place_of(row));
     return std::vector<std::string>();
   }
   // A setting that does not apply can be changed where the text has it all the same.
   const SettingValue initial = initial_of(row, c.state, c.defaults);
-  const std::string doesNotApply = why_not(row, c.state);
   if (!doesNotApply.empty() && value_of(row, c.state) == initial) {
     return Error{ErrorCode::refused, name + " does not apply: " + doesNotApply, {}};
   }
