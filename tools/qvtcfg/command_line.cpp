@@ -158,7 +158,7 @@ constexpr Command kCableCommands[] = {
      "qvtcfg cable parse '-cable type zarvek_parallel3 -configdevice devicenr 1 isfpga 1'", take_cable_parse,
      run_cable_parse},
     {"format", "Print the options of a cable and a chain",
-     "qvtcfg cable format --type zarvek_platformusb --device 1,prom32,16,0xa5059093 --debug-device 2",
+     "qvtcfg cable format --type zarvek_platformusb --device 1,prom32,16,0xa5059093 --debug-device 1",
      take_cable_format, run_cable_format},
 };
 
