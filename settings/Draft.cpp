@@ -33,8 +33,13 @@ void Changes::remove(std::size_t word) {
 }
 
 void Changes::add(std::size_t words, std::string_view text) {
-  const std::size_t at = words == 0 ? 0 : m_draft.words[words - 1].end;
-  m_splices.push_back({at, at, std::string(text)});
+  if (words == 0 && !m_draft.words.empty()) {
+    const std::size_t begin = m_draft.words.front().begin;
+    m_splices.push_back({begin, begin, std::string(text.substr(1)) + " "});
+  } else {
+    const std::size_t end = words == 0 ? m_draft.text.size() : m_draft.words[words - 1].end;
+    m_splices.push_back({end, end, std::string(text)});
+  }
 }
 
 std::string Changes::made() const {

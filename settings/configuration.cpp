@@ -414,7 +414,7 @@ Expected<Edit> Configuration::store(const Edit& edit, const std::string& path, O
   Content& c = *m_content;
   if (!edit.is_safe() && onLoss == OnLoss::refuse) return Error{ErrorCode::wouldLose, listed(edit), {}};
   if (path.empty()) return Error{ErrorCode::file, "no file was read, and none is named to store in", {}};
-  const bool isOwn = path == c.path;
+  const bool isOwn = is_same_path(path, c.path);
   const bool overwrites = !isOwn && onLoss == OnLoss::goOn;
   const FileContent expected = isOwn ? c.file : FileContent();
   const Error changed = {

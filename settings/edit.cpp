@@ -29,8 +29,8 @@ std::optional<Meant> meaning_of(std::string text, const EditTask& task) {
   return Meant{std::move(text), std::move(reading.state), std::move(wrong)};
 }
 
-// Changes one setting after the other. A new text is accepted if the reader understands it, fewer settings are wrong
-// than before, and none is wrong that was right.
+// Goes on from a text setting by setting. A new text is taken only if fewer settings are wrong in it and none that was
+// right, so it ends; it can end early where two settings must change together.
 Meant step_by_step(Meant now, const EditTask& task) {
   for (bool moved = true; moved && !now.wrong.empty();) {
     moved = false;

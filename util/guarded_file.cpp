@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <boost/filesystem/operations.hpp>
 #include <boost/filesystem/path.hpp>
 #include <cerrno>
 #include <cstddef>
@@ -77,6 +78,15 @@ std::string why_not_written(const fs::path& folder, const fs::path& file, const 
 }
 
 }  // namespace
+
+bool is_same_path(const std::string& a, const std::string& b) {
+  if (a == b) return true;
+  boost::system::error_code error;
+  const fs::path first = fs::weakly_canonical(a, error);
+  if (error) return false;
+  const fs::path second = fs::weakly_canonical(b, error);
+  return !error && first == second;
+}
 
 FileContent read_whole_file(const std::string& path, std::size_t limit) {
   if (path.find('\0') != std::string::npos) return {false, "", kNulByte};

@@ -18,6 +18,9 @@ struct FileContent {
 // Reads a regular file of at most limit bytes; symbolic links are followed. Other kinds of files are not opened.
 FileContent read_whole_file(const std::string& path, std::size_t limit);
 
+// Whether two paths lead to the same file, which need not be there.
+bool is_same_path(const std::string& a, const std::string& b);
+
 enum class Replaced {
   done,     // the file holds the text
   changed,  // not written: the file is not as expected

@@ -107,9 +107,13 @@ SettingValue port(EngineImp& imp) {
   return static_cast<std::int64_t>(static_cast<std::int32_t>(field<Member>(imp)));
 }
 
+// Without a design every connection of the processor's family is admitted, whatever the texts told.
+constexpr unsigned int kSelectable = Engine::SIMULATOR | Engine::HARDWARE | Engine::STUB | Engine::VIRTUAL_PLATFORM;
+
 SettingValue connections(EngineImp& imp) {
   std::vector<std::string> names;
   for (const Word& word : kConnections) {
+    if (imp.hwManager == nullptr && (word.value & kSelectable) != 0) continue;
     if ((imp.currentProcessor->allowedConnections & word.value) != 0) names.emplace_back(word.name);
   }
   return names;
@@ -164,7 +168,12 @@ void set_base(Engine& engine, const SettingValue& value) {
   }
 }
 
+void admit(Engine& engine, unsigned int connection) {
+  if (engine.imp->hwManager == nullptr) engine.imp->currentProcessor->allowedConnections |= connection;
+}
+
 void set_connection(Engine& engine, const SettingValue& value) {
+  admit(engine, value_of(kConnections, value));
   engine.SetConnectionType(static_cast<Engine::ConnectionType>(value_of(kConnections, value)));
 }
 
@@ -174,6 +183,7 @@ void set_stub(Engine& engine, const SettingValue& value) {
   engine.imp->currentProcessor->connectionType = kFlags;
   engine.SetStubType(static_cast<Engine::StubType>(value_of(kStubs, value)));
   engine.imp->currentProcessor->connectionType = Engine::STUB;
+  admit(engine, Engine::STUB);
 }
 
 void set_icache(Engine& engine, const SettingValue& value) {

@@ -43,6 +43,8 @@ std::string any_processor(Random& random) { return random.pick(kProcessors); }
 
 void expect_values(const Configuration& c, const State& state) {
   for (const Setting& setting : settings()) {
+    // Without a design every connection of the family is admitted, not only those that the texts told.
+    if (setting.name == "connections" && c.processor().hardware() == nullptr) continue;
     if (c.value(setting) == value_in(state, setting.name)) continue;
     RC_FAIL(std::string(setting.name) + " is " + value_text(setting, c.value(setting)) + ", by hand " +
             value_text(setting, value_in(state, setting.name)));

@@ -677,6 +677,16 @@ TEST_F(Store, RefusesAnotherFileThatIsThere) {
   EXPECT_FALSE(is_touched());
 }
 
+TEST_F(Store, KnowsItsFileByAnotherPath) {
+  Configuration c = opened(kUsb);
+  expect_set(c, {{"frequency", "12M"}});
+  ASSERT_TRUE(c.store(std::string("etc/../") + kPath));
+  expect_set(c, {{"frequency", "24M"}});
+  WorkFolder::write(kPath, "connect ov sim");
+  EXPECT_EQ(code_of(c.store(fs::absolute(kPath).string(), OnLoss::goOn)), ErrorCode::changedMeanwhile);
+  EXPECT_EQ(content(), "connect ov sim");
+}
+
 TEST_F(Store, RefusesToLoseAnything) {
   Configuration c = opened("connect ov odm -quiet -bscan USER3");
   expect_set(c, {{"connection", "simulator"}});
