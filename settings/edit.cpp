@@ -10,6 +10,7 @@
 #include "settings/Draft.h"
 #include "settings/engine_text.h"
 #include "settings/ways.h"
+#include "settings/words.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -107,7 +108,7 @@ std::vector<std::string> words_without_setting(std::string_view text, TextKind k
     const bool isForgotten = word.option != nullptr && sets_nothing(*word.option);
     if (word.begin < begin || word.end > end || (!isForgotten && draft.is_read(i))) continue;
     if (isForgotten && word.group == group) {
-      found.back() += " " + std::string(draft.word(i));
+      found.back() += spaced(draft.word(i));
     } else {
       found.emplace_back(draft.word(i));
     }
@@ -161,7 +162,8 @@ std::string why_not_read(const std::string& text, TextKind kind, const Reading& 
            " are read back";
   }
   if (reading.understood) return {};
-  return "it is not read back" + (reading.engineText.empty() ? std::string() : ": " + reading.engineText);
+  return "it is not read back: " +
+         (reading.engineText.empty() ? not_understood(reading, text).message : reading.engineText);
 }
 
 Edit finished(const EditTask& task, std::string text, bool anew) {

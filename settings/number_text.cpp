@@ -35,7 +35,7 @@ std::string frequency_text(std::int64_t hertz) {
   std::string text = std::to_string(hertz);
   if (prefix == std::end(kPrefixes) || hertz % (prefix->factor / 1000) != 0) return text + " Hz";
   const std::size_t places = std::to_string(prefix->factor).size() - 1;
-  text.insert(text.size() - places, ".");
+  text.insert(text.size() - places, 1, '.');
   text.erase(text.find_last_not_of('0') + 1);
   if (text.ends_with('.')) text.pop_back();
   return text.append(" ").append(prefix->letter).append("Hz");

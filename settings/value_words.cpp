@@ -3,6 +3,7 @@
 #include "options/field.h"
 #include "options/groups.h"
 #include "options/pairs.h"
+#include "settings/words.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -30,7 +31,7 @@ std::string written_value(const Keyword& row, const Records& from) {
 }
 
 std::string named(const Keyword& row, const std::string& value) {
-  return " " + std::string(row.name.text()) + (value.empty() ? "" : " " + value);
+  return spaced(row.name.text()) + (value.empty() ? "" : spaced(value));
 }
 
 }  // namespace
@@ -65,7 +66,7 @@ std::string device_text_of_command(const JtagOption& device) {
   std::string text;
   for (const Option& option : options()) {
     if (&option.group != &kConfigdevice) continue;
-    text = " " + std::string(option.name.text());
+    text = spaced(option.name.text());
     break;
   }
   for (const Keyword& row : kConfigdevice.keywords) text += device_pair_text(row, device);

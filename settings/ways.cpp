@@ -187,7 +187,7 @@ void add_setting(std::vector<std::string>& ways, const Draft& draft, const Setti
         }
       }
     }
-    if (inNewOption) add_option(ways, draft, option, " " + std::string(option.name.text()) + pair, meanings.now);
+    if (inNewOption) add_option(ways, draft, option, spaced(option.name.text()) + pair, meanings.now);
   }
 }
 
@@ -346,8 +346,7 @@ std::vector<std::size_t> own_pins_written(const Draft& draft) {
   std::vector<std::size_t> found;
   for (const Draft::Group& group : draft.groups) {
     if (!is_device(group) || group.end != group.first + 3) continue;
-    const std::string pair =
-        " " + std::string(draft.word(group.first + 1)) + " " + std::string(draft.word(group.first + 2));
+    const std::string pair = spaced(draft.word(group.first + 1)) + spaced(draft.word(group.first + 2));
     if (!same_word(pair, kOwnPinsWritten)) continue;
     found.insert(found.end(), {group.first, group.first + 1, group.first + 2});
   }
@@ -355,7 +354,7 @@ std::vector<std::size_t> own_pins_written(const Draft& draft) {
 }
 
 std::string with_own_pins(const Draft& draft, const State& now) {
-  const std::string form = " " + std::string(device_option().name.text()) + std::string(kOwnPinsWritten);
+  const std::string form = spaced(device_option().name.text()) + std::string(kOwnPinsWritten);
   const auto groups = device_groups(draft);
   if (!groups.empty()) return with_added(draft, groups.front()->first, form);
   std::vector<std::string> ways;

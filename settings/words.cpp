@@ -31,6 +31,8 @@ bool same_word(std::string_view a, std::string_view b) {
   return std::ranges::equal(a, b, {}, small, small);
 }
 
+std::string spaced(std::string_view word) { return std::string(" ").append(word); }
+
 std::string joined(std::span<const std::string> items, std::string_view separator) {
   std::string out;
   for (const std::string& item : items) {

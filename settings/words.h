@@ -13,6 +13,9 @@ namespace SdkDebugDialog {
 // Equal but for the case of ASCII letters.
 bool same_word(std::string_view a, std::string_view b);
 
+// A blank and the word.
+std::string spaced(std::string_view word);
+
 std::string joined(std::span<const std::string> items, std::string_view separator);
 
 // At every separator; the result has at least one item, and items can be empty.

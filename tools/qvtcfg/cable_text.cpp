@@ -31,7 +31,12 @@ void find_debug_device(Configuration& configuration) {
 std::vector<GivenChange> changes_of(const CableArguments& given) {
   std::vector<GivenChange> changes;
   const auto add = [&](const std::string& option, const char* setting, const std::string& value, bool append = false) {
-    changes.push_back({{setting, value}, option + "=" + value, find_setting(setting), append});
+    GivenChange& change = changes.emplace_back();
+    change.setting = setting;
+    change.value = value;
+    change.argument = option + "=" + value;
+    change.meant = find_setting(setting);
+    change.append = append;
   };
   if (given.type) add("--type", "cable", *given.type);
   if (given.frequency) add("--frequency", "frequency", *given.frequency);
