@@ -214,7 +214,7 @@ TEST_F(CableFormat, WhatCannotBeWrittenIsRefusedInOneLine) {
       {{"--type", "none"}, 2, "nothing to write; give --type, --device or --debug-device"},
       {{"--type", "zarvek_tcf"}, 1, "no connect command can be written for these settings; the cable: "},
       {{"--type", "zarvek_svffile", "--port", "p"}, 1, "--type=zarvek_svffile: this type is not read; the types are "},
-      {{"--type", "zarvek_plugin"}, 1, "it is not read back; a zarvek_plugin cable needs a module"},
+      {{"--type", "zarvek_plugin"}, 1, "it is not read back: the text is not understood at "},
       {{"--type", "digilent_plugin", "--esn", "1"}, 1, "--esn=1: esn does not apply: the cable has no such setting"},
       {{"--type", "zarvek_plugin", "--module", "m", "--port", "p"}, 1, "--port=p: port does not apply: "},
       {{"--type", "zarvek_parallel3", "--module", "m"}, 1, "--module=m: module does not apply: "},

@@ -442,7 +442,10 @@ TEST_F(Refused, WhatTheDesignOrTheConnectionDoesNotAllow) {
           {{"stub=serial"}, 1, "stub=serial: stub does not apply: the processor has no stub connection"},
           {{"stub-baud=9600"}, 1, "stub-baud=9600: stub-baud does not apply: it is for the connection 'stub' over"},
           {{"module=m"}, 1, "module=m: module does not apply: it is for a cable of the type 'zarvek_plugin'"},
-          {{"cable=zarvek_plugin"}, 1, "is not read back; a zarvek_plugin cable needs a module; --force stores it"},
+          {{"cable=zarvek_plugin"},
+           1,
+           "is not read back: the text is not understood at '-debugdevice'; a zarvek_plugin cable needs a module; "
+           "--force "},
           {{"cable=zarvek_svffile"}, 1, "cable=zarvek_svffile: this type is not read; the types are none, "},
           {{"cable=zarvek_tcf"}, 1, "ovrin_1: no connect command can be written for these settings; the cable: "},
           {{"connection=simulator", "devices=1,a,6,1"}, 1, "devices=1,a,6,1: devices does not apply: "},
