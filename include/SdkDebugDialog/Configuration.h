@@ -158,8 +158,9 @@ class SDKDEBUGDIALOG_API Configuration {
   // Of all settings at once, in the order of settings().
   std::vector<SettingState> states() const;
 
-  // Returns warnings: what is accepted although it looks wrong. A refusal changes nothing.
-  // ErrorCode::noSuchSetting, invalidValue, refused.
+  // Returns warnings: what is accepted although it looks wrong. A refusal changes nothing. A setting that does not
+  // apply is refused, unless it has another value than its default: then the text has words for it, which may be
+  // changed. ErrorCode::noSuchSetting, invalidValue, refused.
   Expected<std::vector<std::string>> set(const Setting& setting, const SettingValue& value);
   Expected<std::vector<std::string>> set(std::string_view name, std::string_view text);
   // Back to the default; also where the setting does not apply. ErrorCode::refused for a setting that cannot be set.
@@ -194,7 +195,8 @@ class SDKDEBUGDIALOG_API Configuration {
   // not written. Returns what was stored, and the configuration is then that of the file.
   // ErrorCode::cannotBeWritten, wouldLose, changedMeanwhile, file.
   Expected<Edit> store(OnLoss onLoss = OnLoss::refuse);
-  // The same in another file, which must not exist unless onLoss is goOn.
+  // The same in another file, which must not exist unless onLoss is goOn. For the file that was read, by whatever path,
+  // goOn concerns losses alone.
   Expected<Edit> store(const std::string& path, OnLoss onLoss = OnLoss::refuse);
   // The same for an edit that this configuration returned before, such as written_anew().
   Expected<Edit> store(const Edit& edit, const std::string& path, OnLoss onLoss);
@@ -202,6 +204,7 @@ class SDKDEBUGDIALOG_API Configuration {
   // --- The records that hold the settings ---
 
   const Processor& processor() const;
+  // Without a design, allowedConnections are those that the texts told; every connection of the family can be set.
   const ProcessorInfoImp& record() const;
   const CableOption& cable() const;
   const std::vector<JtagOption>& chain() const;
