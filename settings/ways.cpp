@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <span>
 #include <utility>
 
 #include "options/groups.h"
@@ -218,6 +219,12 @@ std::vector<std::string> ways_of_value(const Draft& draft, const SettingRow& row
     Changes changes(draft);
     changes.replace(values.back(), value);
     ways.push_back(changes.made());
+    // Without the others, which may have had effects of their own.
+    for (const std::size_t i : std::span(values).first(values.size() - 1)) {
+      changes.remove(i - 1);
+      changes.remove(i);
+    }
+    if (values.size() > 1) ways.push_back(changes.made());
   }
   // At the end of its option, for a value that later words there change; or several values, each with its keyword.
   const Draft rest(ways_without(draft, values).back(), draft.kind);
