@@ -37,7 +37,8 @@ Meant step_by_step(Meant now, const EditTask& task) {
     moved = false;
     for (const SettingRow* const row : std::vector(now.wrong)) {
       const Draft draft(now.text, task.written);
-      for (std::string& way : ways_of(draft, *row, {now.state, task.wanted}, task.toDefault.test(place_of(*row)))) {
+      for (std::string& way :
+           ways_of(draft, *row, {task.before, now.state, task.wanted}, task.toDefault.test(place_of(*row)))) {
         if (way == now.text) continue;
         std::optional<Meant> next = meaning_of(std::move(way), task);
         const bool better =
@@ -73,7 +74,7 @@ std::optional<Meant> all_at_once(const EditTask& task) {
   for (const SettingRow* const row : differing(task.before, task.wanted)) {
     const Draft draft(std::move(text), task.written);
     const std::vector<std::string> ways =
-        ways_of(draft, *row, {task.before, task.wanted}, task.toDefault.test(place_of(*row)));
+        ways_of(draft, *row, {task.before, task.before, task.wanted}, task.toDefault.test(place_of(*row)));
     text = ways.empty() ? draft.text : ways.front();
   }
   return meaning_of(std::move(text), task);

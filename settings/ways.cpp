@@ -214,6 +214,11 @@ std::vector<std::string> ways_of_value(const Draft& draft, const SettingRow& row
   const Keyword* const keyword = draft.words[values.back()].keyword;
   if (keyword == nullptr) return ways;
   const std::string value = value_words(*keyword, meanings.wanted);
+  // Only the words of settings that are to change are changed; for others, which an edit spoilt, words are added.
+  if (value_of(row, meanings.before) == value_of(row, meanings.wanted)) {
+    add_setting(ways, draft, *row.setting, meanings, false);
+    return ways;
+  }
   const bool isOneWord = value.find(' ') == std::string::npos;
   if (isOneWord) {
     Changes changes(draft);

@@ -12,8 +12,9 @@
 
 namespace SdkDebugDialog {
 
-// What the text means, and what it is to mean.
+// What a text meant before anything was changed in it, what it means now, and what it is to mean.
 struct Meanings {
+  const State& before;
   const State& now;
   const State& wanted;
 };

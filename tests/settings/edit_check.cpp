@@ -262,9 +262,11 @@ struct Check {
     std::vector<Word> newWords = words_of(newText, newLine);
     const std::vector<Annotation> annotations = annotate(oldText, c.kind, processor);
     Names names = affected;
-    if (ends_in_cable(annotations)) names.insert("frequency");  // which the end of the text has implied
+    const std::vector<Annotation> newAnnotations = annotate(newText, c.kind, processor);
+    // At the end of a text the frequency is implied, and checked.
+    if (ends_in_cable(annotations) || ends_in_cable(newAnnotations)) names.insert("frequency");
     mark(oldWords, oldText, annotations, names);
-    mark(newWords, newText, annotate(newText, c.kind, processor), names);
+    mark(newWords, newText, newAnnotations, names);
     mark_doubled(newWords, newText);
     return Alignment(oldText, oldLine, oldWords, newText, newLine, newWords).holds() ? "" : "bytes changed needlessly";
   }

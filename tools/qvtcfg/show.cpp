@@ -16,7 +16,6 @@ namespace {
 using SdkDebugDialog::Configuration;
 using SdkDebugDialog::Design;
 using SdkDebugDialog::Edit;
-using SdkDebugDialog::ErrorCode;
 using SdkDebugDialog::Processor;
 using SdkDebugDialog::TextKind;
 
