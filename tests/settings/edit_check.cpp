@@ -264,18 +264,17 @@ struct Check {
     Names names = affected;
     const std::vector<Annotation> newAnnotations = annotate(newText, c.kind, processor);
     // At the end of a text the frequency is implied, and checked.
-    if (ends_in_cable(annotations) || ends_in_cable(newAnnotations)) names.insert("frequency");
+    if (ends_in_cable(oldText, annotations) || ends_in_cable(newText, newAnnotations)) names.insert("frequency");
     mark(oldWords, oldText, annotations, names);
     mark(newWords, newText, newAnnotations, names);
     mark_doubled(newWords, newText);
     return Alignment(oldText, oldLine, oldWords, newText, newLine, newWords).holds() ? "" : "bytes changed needlessly";
   }
 
-  bool ends_in_cable(const std::vector<Annotation>& annotations) const {
+  static bool ends_in_cable(std::string_view text, const std::vector<Annotation>& annotations) {
     const auto isOption = [](const Annotation& a) { return a.role == Role::option; };
     const auto last = std::find_if(annotations.rbegin(), annotations.rend(), isOption);
-    return last != annotations.rend() &&
-           lower(std::string_view(c.text).substr(last->begin, last->end - last->begin)) == "-cable";
+    return last != annotations.rend() && lower(text.substr(last->begin, last->end - last->begin)) == "-cable";
   }
 
   std::string meaning(const Edit& edit) const {
