@@ -17,10 +17,8 @@
 
 namespace {
 
-using SdkDebugDialog::CableOption;
 using SdkDebugDialog::Configuration;
 using SdkDebugDialog::parse_value;
-using SdkDebugDialog::ProcessorInfoImp;
 using SdkDebugDialog::Setting;
 using SdkDebugDialog::settings;
 using SdkDebugDialog::SettingState;

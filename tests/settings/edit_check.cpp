@@ -20,8 +20,6 @@ using SdkDebugDialog::Loss;
 using SdkDebugDialog::Processor;
 using SdkDebugDialog::Role;
 using SdkDebugDialog::Setting;
-using SdkDebugDialog::SettingKind;
-using SdkDebugDialog::SettingState;
 using SdkDebugDialog::SettingValue;
 using SdkDebugDialog::TextKind;
 

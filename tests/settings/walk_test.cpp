@@ -50,7 +50,7 @@ TEST(Walk, KnowsEveryHeadAndTarget) {
       EXPECT_EQ(walked(text), expected);
       for (const Connection& connection : target.connections) {
         const std::string name(connection.name.text());
-        EXPECT_EQ(walked(text + " " + name), expected + " C:" + name);
+        EXPECT_EQ(walked(std::string(text).append(" ").append(name)), std::string(expected).append(" C:").append(name));
       }
       if (!target.connections.empty()) continue;
       text += " -cable -config";
@@ -128,6 +128,7 @@ TEST(Walk, TellsWhereEachWordStands) {
 TEST(Walk, GivesAWordOfNoOptionNoGroup) {
   const auto walked_words = walk("connect ov odm x -quiet y -comm -port -port p q", TextKind::command);
   std::vector<std::size_t> groups;
+  groups.reserve(walked_words.size());
   for (const WalkedWord& word : walked_words) groups.push_back(word.group);
   EXPECT_EQ(groups, (std::vector<std::size_t>{0, 0, 0, 0, 1, 0, 2, 2, 3, 3, 0}));
   EXPECT_EQ(walked_words[5].run, nullptr);
