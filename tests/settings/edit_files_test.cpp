@@ -41,9 +41,9 @@ const Row kFiles[] = {
      "connect ov odm -cable type zarvek_platformusb frequency 1500000 fname out.svf url ftp://y"},
 
     // Spelling, blanks, tabs, lines.
-    {"ovrin_0", "\tConnect\tOV  ODM -CABLE Type Zarvek_PlatformUSB\tFREQUENCY   0x5B8D80 -Debugdevice DEVICENR 010\n",
+    {"ovrin_0", "\tConnect\tOV  ODM -CABLE Type Zarvek_PlatformUSB\tFREQUENCY   0x5B8D80 -Debugdevice DEViCENR 010\n",
      "frequency=12M",
-     "\tConnect\tOV  ODM -CABLE Type Zarvek_PlatformUSB\tFREQUENCY   12000000 -Debugdevice DEVICENR 010\n"},
+     "\tConnect\tOV  ODM -CABLE Type Zarvek_PlatformUSB\tFREQUENCY   12000000 -Debugdevice DEViCENR 010\n"},
     {"ovrin_0", "\n\nconnect ov odm -bscan USER3\r\nconnect ov sim\r\n", "bscan=USER4",
      "\n\nconnect ov odm -bscan USER4\r\nconnect ov sim\r\n"},
     {"ovrin_0", "connect ov odm -debugdevice deviceNr 1 \t\r\n", "debug-device=2",
