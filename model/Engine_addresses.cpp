@@ -14,8 +14,6 @@ namespace {
 
 using Address = std::uint32_t ProcessorInfoImp::*;
 
-constexpr std::uint32_t kBlock = 0x10000;
-
 // The bases of the debug address map, in the order in which it is laid out.
 struct MapBase {
   Address field;
@@ -52,7 +50,7 @@ int get_map_address(const EngineImp& imp, Address field, unsigned int& a) {
 
 bool set_map_base(EngineImp& imp, Address field, std::uint32_t address) {
   const MapBase& base = *std::ranges::find(kMapBases, field, &MapBase::field);
-  if (address % kBlock != 0) {
+  if (address % kMapBlock != 0) {
     set_error(imp, "%s Start Address should be aligned at 64k boundry", base.what);
     return false;
   }
@@ -114,7 +112,7 @@ int EngineImp::AssignAddressMap(unsigned int base) {
   if (currentProcessor == nullptr) return kRefused;
   for (const MapBase& row : kMapBases) {
     if (currentProcessor->*row.field == kAddressNotSet) currentProcessor->*row.field = base;
-    base += kBlock;
+    base += kMapBlock;
   }
   return kOk;
 }

@@ -28,7 +28,6 @@ constexpr std::int64_t kMaxSigned = std::numeric_limits<std::int32_t>::max();
 constexpr std::int64_t kMaxUnsigned = std::numeric_limits<std::uint32_t>::max();
 constexpr std::int64_t kMaxAddress = kMaxUnsigned - 1;  // the largest number stands for "not set"
 constexpr std::int64_t kMaxPort = 65535;
-constexpr std::uint32_t kBlock = 0x10000;
 
 std::string text_of(const SettingValue& value) { return std::get<std::string>(value); }
 
@@ -185,14 +184,6 @@ std::vector<std::string> choose_variant(const SettingRow& /*row*/, const State& 
 
 SettingValue get_connections(const SettingRow& /*row*/, const State& s) { return names_in_set(admitted(s)); }
 
-SettingValue initial_cpu(const State& /*s*/, const State& defaults) {
-  return std::int64_t{static_cast<std::int8_t>(defaults.processor.cpuNr)};
-}
-SettingValue initial_fpu(const State& /*s*/, const State& defaults) { return value_of(row_named("fpu"), defaults); }
-SettingValue initial_variant(const State& /*s*/, const State& defaults) {
-  return value_of(row_named("variant"), defaults);
-}
-
 // --- Connection and stub ---
 
 // All bits, joined by "+": a stub connection can have several.
@@ -233,9 +224,8 @@ std::vector<std::string> choose_stub(const SettingRow& row, const State& s) {
   std::vector<std::string> names;
   for (const SettingWord& word : row.traits.words) {
     const auto flag = word.value == Engine::STUB_OVER_JTAG ? Engine::STUB_JTAG_PRESENT : Engine::STUB_UART_PRESENT;
-    const bool isKnown = s.hasDesign;
     const bool isPresent = (s.processor.allowedConnections & flag) != 0;
-    if (!isKnown || isPresent || s.processor.stubType == word.value) names.emplace_back(word.name);
+    if (!s.hasDesign || isPresent || s.processor.stubType == word.value) names.emplace_back(word.name);
   }
   return names;
 }
@@ -326,10 +316,10 @@ std::string set_base(const SettingRow& /*row*/, State& s, const SettingValue& va
     return {};
   }
   const auto address = static_cast<std::uint32_t>(std::get<std::int64_t>(value));
-  if (address % kBlock != 0) {
-    const std::uint32_t below = address - address % kBlock;
+  if (address % kMapBlock != 0) {
+    const std::uint32_t below = address - address % kMapBlock;
     std::string nearest = address_text(below);
-    if (below + kBlock != 0) nearest += " and " + address_text(below + kBlock);
+    if (below + kMapBlock != 0) nearest += " and " + address_text(below + kMapBlock);
     return "it must be a multiple of 64 KB (0x10000); the nearest are " + nearest;
   }
   return by_engine(s, [&](Engine& e) { return set_map_base(*e.imp, base, address) ? 0 : 1; });
@@ -358,8 +348,7 @@ SettingValue get_cable(const SettingRow& /*row*/, const State& s) {
 std::vector<std::string> choose_cable(const SettingRow& row, const State& /*s*/) {
   std::vector<std::string> names;
   for (const SettingWord& word : row.traits.words) {
-    const auto type = static_cast<Engine::CableType>(word.value);
-    if (cable_type(type).notRead == nullptr) names.emplace_back(word.name);
+    if (word.offered) names.emplace_back(word.name);
   }
   return names;
 }
@@ -538,20 +527,16 @@ std::vector<Entry> make_entries() {
       row("identity", "variant", "Variant",
           "Core of the processor; the address map and the memories of a PowerPC depend on it.", word, &P::procVariant,
           kPowerPC,
-          {.words = {std::begin(kVariants), std::end(kVariants)},
-           .initial = initial_variant,
-           .choices = choose_variant,
-           .fixed = as_in_design},
+          {.words = {std::begin(kVariants), std::end(kVariants)}, .choices = choose_variant, .fixed = as_in_design},
           {.initial = "as in the design"}),
       row("identity", "cpu", "Processor number", "Number of the processor on its debug link.", number, &P::cpuNr,
-          kEverywhere, {.max = kMaxSignedByte, .get = get_cpu, .initial = initial_cpu, .fixed = as_in_design},
+          kEverywhere, {.max = kMaxSignedByte, .get = get_cpu, .fixed = as_in_design},
           {.initial = "1, or as in the design"}),
       row("identity", "connections", "Connections", "The connections that the processor admits.", words,
           &P::allowedConnections, kEverywhere,
           {.words = {std::begin(kConnections), std::end(kConnections)}, .get = get_connections}, {.readOnly = true}),
       row("identity", "fpu", "FPU", "Floating-point unit of a PowerPC: single or double precision.", word, &P::fpuType,
-          kPowerPC, {.words = fpu_words(), .initial = initial_fpu, .fixed = as_in_design},
-          {.initial = "as in the design"}),
+          kPowerPC, {.words = fpu_words(), .fixed = as_in_design}, {.initial = "as in the design"}),
 
       row("connection", "connection", "Connection",
           "What the debugger connects to: simulator, hardware, stub or virtual-platform.", word, &P::connectionType,

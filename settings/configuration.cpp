@@ -128,7 +128,6 @@ struct Configuration::Content {
   std::string path;
   FileContent file;
 
-  bool has_design() const { return processor.hardware() != nullptr; }
   EditTask task() const { return {processor, text, kind, read, state, toDefault}; }
 };
 

@@ -30,27 +30,23 @@ std::optional<Meant> meaning_of(std::string text, const EditTask& task) {
   return Meant{std::move(text), std::move(reading.state), std::move(wrong)};
 }
 
-// Goes on from a text setting by setting. A new text is taken only if fewer settings are wrong in it and none that was
-// right, so it ends; it can end early where two settings must change together.
-Meant step_by_step(Meant now, const EditTask& task) {
-  for (bool moved = true; moved && !now.wrong.empty();) {
-    moved = false;
-    for (const SettingRow* const row : std::vector(now.wrong)) {
-      const Draft draft(now.text, task.written);
-      for (std::string& way :
-           ways_of(draft, *row, {task.before, now.state, task.wanted}, task.toDefault.test(place_of(*row)))) {
-        if (way == now.text) continue;
-        std::optional<Meant> next = meaning_of(std::move(way), task);
-        const bool better =
-            next && next->wrong.size() < now.wrong.size() && std::ranges::includes(now.wrong, next->wrong, {}, {}, {});
-        if (!better) continue;
-        now = std::move(*next);
-        moved = true;
-        break;
-      }
-      if (moved) break;
+// A text in which fewer settings are wrong, and none that was right; nothing if no way of one setting leads to one.
+std::optional<Meant> next_step(const Meant& now, const EditTask& task) {
+  const Draft draft(now.text, task.written);
+  const Meanings meanings = {task.before, now.state, task.wanted};
+  for (const SettingRow* const row : now.wrong) {
+    for (std::string& way : ways_of(draft, *row, meanings, task.toDefault.test(place_of(*row)))) {
+      if (way == now.text) continue;
+      std::optional<Meant> next = meaning_of(std::move(way), task);
+      if (next && next->wrong.size() < now.wrong.size() && std::ranges::includes(now.wrong, next->wrong)) return next;
     }
   }
+  return std::nullopt;
+}
+
+// Goes on from a text setting by setting. It can end early where two settings must change together.
+Meant step_by_step(Meant now, const EditTask& task) {
+  while (std::optional<Meant> next = next_step(now, task)) now = std::move(*next);
   return now;
 }
 
@@ -118,6 +114,11 @@ std::vector<std::string> words_without_setting(std::string_view text, TextKind k
   return found;
 }
 
+Loss loss_of(const SettingRow& row, const State& wanted) {
+  const std::string value = value_text(*row.setting, value_of(row, wanted));
+  return {row.setting, std::string(row.setting->name) + " " + value, why_not_written(row, wanted)};
+}
+
 // The settings that a text that is not read back has no words for.
 std::vector<Loss> unsaid_losses(const EditTask& task, const Draft& draft) {
   const State defaults = defaults_of(task.processor);
@@ -126,9 +127,7 @@ std::vector<Loss> unsaid_losses(const EditTask& task, const Draft& draft) {
   for (const SettingRow* const row : differing(defaults, task.wanted)) {
     const Setting& setting = *row->setting;
     const bool hasWords = setting.group != "identity" && setting.group != "connection" && setting.name != "cpu-jtag";
-    if (!hasWords || is_said(setting, said)) continue;
-    const std::string value = value_text(setting, value_of(*row, task.wanted));
-    losses.push_back({&setting, std::string(setting.name) + " " + value, why_not_written(*row, task.wanted)});
+    if (hasWords && !is_said(setting, said)) losses.push_back(loss_of(*row, task.wanted));
   }
   return losses;
 }
@@ -137,9 +136,7 @@ std::vector<Loss> losses_between(const EditTask& task, std::string_view text, co
   std::vector<Loss> losses;
   if (reading.understood) {
     for (const SettingRow* const row : differing(reading.state, task.wanted)) {
-      const std::string value = value_text(*row->setting, value_of(*row, task.wanted));
-      losses.push_back(
-          {row->setting, std::string(row->setting->name) + " " + value, why_not_written(*row, task.wanted)});
+      losses.push_back(loss_of(*row, task.wanted));
     }
   } else {
     losses = unsaid_losses(task, {std::string(text), task.written});
