@@ -65,12 +65,6 @@ int read_without_hardware(EngineImp& imp, std::string command) {
   return QvtOption_Parser::ReadQvtCommand(std::move(command), imp);
 }
 
-// Targets that need no processor of the design.
-bool is_bare_target(std::uint32_t connections) {
-  return connections == Engine::ODM_TARGET || connections == Engine::QMTC_TARGET || connections == Engine::DCC_TARGET ||
-         connections == Engine::DAP_TARGET;
-}
-
 }  // namespace
 
 int EngineImp::GetFPUType() {

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "SdkDebugDialog/Engine.h"
+
 namespace SdkDebugDialog {
 
 // Values of ProcessorInfoImp::procFamily.
@@ -21,5 +23,11 @@ inline constexpr std::uint32_t kVariantOtherPowerPC = 6;
 inline constexpr std::uint32_t kFpuNone = 0;
 inline constexpr std::uint32_t kFpuSingle = 1;
 inline constexpr std::uint32_t kFpuDouble = 2;
+
+// Whether ProcessorInfoImp::allowedConnections is that of a target that needs no processor of the design.
+constexpr bool is_bare_target(std::uint32_t connections) {
+  return connections == Engine::ODM_TARGET || connections == Engine::QMTC_TARGET || connections == Engine::DCC_TARGET ||
+         connections == Engine::DAP_TARGET;
+}
 
 }  // namespace SdkDebugDialog

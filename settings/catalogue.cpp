@@ -39,7 +39,7 @@ constexpr unsigned kSelectable = Engine::SIMULATOR | Engine::HARDWARE | Engine::
 // The connections that the processor admits. Without a design these are all that targets of its family have.
 unsigned admitted(const State& s) {
   const unsigned told = s.processor.allowedConnections;
-  if (s.hasDesign || (told & ~(kSelectable | kStubFlags)) != 0) return told;
+  if (s.hasDesign || is_bare_target(told)) return told;
   unsigned all = 0;
   for (const Target& target : targets()) {
     if (target.family != s.processor.procFamily || target.admits != 0) continue;
@@ -91,7 +91,7 @@ constexpr Applies kPlugin = {[](const State& s) { return s.cable.type == Engine:
 const Run* run_of(const State& s) {
   const ProcessorInfoImp& p = s.processor;
   const bool isPlatform = p.connectionType == Engine::VIRTUAL_PLATFORM;
-  const bool isBare = (p.allowedConnections & ~(kSelectable | kStubFlags)) != 0;
+  const bool isBare = is_bare_target(p.allowedConnections);
   for (const Target& target : targets()) {
     if (isBare ? target.admits != p.allowedConnections
                : target.admits != 0 || target.virtualPlatform != isPlatform || target.family != p.procFamily) {

@@ -105,8 +105,7 @@ Expected<Processor> Design::identify(std::string_view command) const {
   const Reading reading = read_state({}, command, TextKind::command);
   if (!reading.understood) return not_understood(reading, command);
   const ProcessorInfoImp& told = reading.state.processor;
-  constexpr unsigned kBare = Engine::ODM_TARGET | Engine::QMTC_TARGET | Engine::DCC_TARGET | Engine::DAP_TARGET;
-  if ((told.allowedConnections & kBare) != 0) return Processor();
+  if (is_bare_target(told.allowedConnections)) return Processor();
   const auto found = std::ranges::find_if(m_content->records(), [&](const ProcessorInfoImp* known) {
     return known->procFamily == told.procFamily && known->cpuNr == told.cpuNr;
   });

@@ -10,7 +10,6 @@
 #include <chrono>
 #include <filesystem>
 #include <string>
-#include <thread>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -19,6 +18,7 @@
 #include "tests/options/work_folder.h"
 #include "tests/support/DesignedEngine.h"
 #include "tests/support/GlobalLocale.h"
+#include "tests/support/run_together.h"
 
 namespace {
 
@@ -775,28 +775,14 @@ TEST_F(EditTest, AppliesTheChangesInTheOrderOfTheCatalogue) {
 
 // --- Threads ---
 
-// Runs a job in eight threads, which begin at the same time.
-template <class Job>
-void run_together(const Job& job) {
-  constexpr int kThreads = 8;
-  std::atomic<int> waiting = kThreads;
-  std::vector<std::thread> threads;
-  threads.reserve(kThreads);
-  for (int i = 0; i < kThreads; ++i) {
-    threads.emplace_back([&, i] {
-      for (--waiting; waiting != 0;) std::this_thread::yield();
-      job(i);
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-}
+constexpr int kThreads = 8;
 
 TEST(ConfigurationThreads, WorkOnCopiesOfOneConfiguration) {
   const WorkFolder folder;
   const SdkDebugDialog::Design design(
       std::make_shared<DesignFile>(DesignFile::load(PROJECT_SOURCE_DIR "/examples/designs/large.json")));
   const Configuration shared = Configuration::read(design.find("ppc405_0").value(), "connect ppc hw -quiet").value();
-  run_together([&](int thread) {
+  run_together(kThreads, [&](int thread) {
     const std::string number = std::to_string(thread + 1);
     const std::string devices = number + ",part" + number + ",10,0x1";
     for (int i = 0; i < 40; ++i) {
@@ -823,7 +809,7 @@ TEST(ConfigurationThreads, StoreAFileOnlyAsTheyReadIt) {
   WorkFolder::write("etc/file", "connect ov odm -debugdevice deviceNr 100");
   const Configuration shared = Configuration::open({}, "etc/file").value();
   std::atomic<int> stored = 0;
-  run_together([&](int thread) {
+  run_together(kThreads, [&](int thread) {
     Configuration c = shared;
     ASSERT_TRUE(c.set("debug-device", std::to_string(thread + 1)));
     const auto result = c.store();

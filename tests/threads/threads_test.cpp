@@ -2,18 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "options/QvtOption_Parser.h"
 #include "tests/options/work_folder.h"
 #include "tests/support/DesignedEngine.h"
 #include "tests/support/SelectedEngine.h"
+#include "tests/support/run_together.h"
 
 namespace {
 
@@ -27,22 +25,8 @@ using SdkDebugDialog::QvtOption_Parser;
 constexpr int kThreads = 4;
 constexpr int kRounds = 300;
 
-// Runs a job in several threads, which begin at the same time. The argument is the number of the thread.
-void run_together(const std::function<void(int thread)>& job) {
-  std::atomic<int> waiting = kThreads;
-  std::vector<std::thread> threads;
-  threads.reserve(kThreads);
-  for (int i = 0; i < kThreads; ++i) {
-    threads.emplace_back([&, i] {
-      for (--waiting; waiting != 0;) std::this_thread::yield();
-      job(i);
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-}
-
 TEST(Threads, ReadAndWriteWithTheirOwnEngines) {
-  run_together([](int thread) {
+  run_together(kThreads, [](int thread) {
     const std::string number = std::to_string(thread + 1);
     const std::string text = "connect ov odm -cable type zarvek_platformusb port USB" + number +
                              " frequency 12000000 -configdevice devicenr " + number + " partname part" + number +
@@ -61,7 +45,7 @@ TEST(Threads, ReadAndWriteWithTheirOwnEngines) {
 }
 
 TEST(Threads, KeepTheLastOptionThatEachOfThemRead) {
-  run_together([](int thread) {
+  run_together(kThreads, [](int thread) {
     const std::string option = "-option" + std::to_string(thread);
     for (int i = 0; i < kRounds; ++i) {
       std::string text = option + " x";
@@ -74,7 +58,7 @@ TEST(Threads, KeepTheLastOptionThatEachOfThemRead) {
 }
 
 TEST(Threads, HaveErrorsAndExceptionsOfTheirOwn) {
-  run_together([](int thread) {
+  run_together(kThreads, [](int thread) {
     const std::string option = "-unknown" + std::to_string(thread);
     SelectedEngine selected;
     for (int i = 0; i < kRounds; ++i) {
@@ -87,7 +71,7 @@ TEST(Threads, HaveErrorsAndExceptionsOfTheirOwn) {
 }
 
 TEST(Threads, UseTheStaticOperations) {
-  run_together([](int thread) {
+  run_together(kThreads, [](int thread) {
     const std::string frequency = std::to_string(thread % 2 == 0 ? 6000000 : 12000000);
     const std::string expected = " -cable type zarvek_platformusb port USB21 frequency " + frequency +
                                  " -configdevice devicenr 1 partname p irlength 6 idcode 0x1 -debugdevice deviceNr 3";
@@ -109,7 +93,7 @@ TEST(Threads, UseTheStaticOperations) {
 TEST(Threads, SelectProcessorsAndStoreThem) {
   const WorkFolder folder;
   const char* const kNames[] = {"ovrin_0", "ppc405_0", "ppc440_0", "a9_0"};
-  run_together([&](int thread) {
+  run_together(kThreads, [&](int thread) {
     DesignedEngine d;
     ProcessorInfo info;
     const std::string name = kNames[thread];
