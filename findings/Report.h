@@ -1,0 +1,64 @@
+#pragma once
+
+// Collects findings.
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "SdkDebugDialog/Diagnosis.h"
+#include "findings/kinds.h"
+
+namespace SdkDebugDialog {
+
+// A part of a text, in bytes.
+struct Place {
+  std::size_t begin = 0;
+  std::size_t end = 0;
+
+  bool operator==(const Place&) const = default;
+};
+
+// The text, what kind it is, and the part of it that is read.
+struct Subject {
+  Subject(std::string_view text, TextKind kind, const Processor& processor);
+
+  std::string_view in(const Place& place) const { return text.substr(place.begin, place.end - place.begin); }
+
+  std::string_view text;
+  TextKind kind;
+  const Processor& processor;
+  Place line;  // of a file: its command, as far as it is read; else the whole text
+};
+
+class Report {
+ public:
+  // Of one kind no more are listed.
+  static constexpr std::size_t kMostOfOneKind = 1000;
+
+  // The finding can be completed until the next one is added. Its severity is that of its kind.
+  Finding& add(Code code, const Place& place, std::string message, std::string remedy = {});
+
+  bool has_errors() const { return m_hasErrors; }
+  // For a finding whose severity was changed to an error.
+  void make_error(Finding& finding);
+
+  // In the order of their places.
+  std::vector<Finding> findings() &&;
+
+ private:
+  std::vector<Finding> m_findings;
+  std::array<std::size_t, static_cast<std::size_t>(Code::tooMany) + 1> m_counts{};
+  Finding m_unlisted;
+  bool m_hasErrors = false;
+};
+
+// A fix that replaces one place.
+Fix fix(std::string title, bool safe, const Place& place, std::string text);
+
+// In single quotes; what is no text is escaped as \xNN, and a long word is cut.
+std::string quoted(std::string_view word);
+
+}  // namespace SdkDebugDialog
