@@ -78,6 +78,11 @@ Processor Design::processor_of(const ProcessorInfoImp& record) const {
   Processor processor;
   processor.m_identity = record;
   processor.m_hardware = m_content->hardware;
+  if (record.procFamily != kFamilyPowerPC) return processor;
+  Engine engine;
+  engine.imp->hwManager = processor.hardware();
+  engine.imp->currentProcessor = &processor.m_identity;
+  engine.imp->GetFPUType();
   return processor;
 }
 

@@ -6,6 +6,7 @@
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
 #include "SdkDebugDialog/Result.h"
+#include "model/processor_kind.h"
 #include "options/QvtOption_Parser.h"
 #include "options/framing.h"
 #include "options/groups.h"
@@ -39,8 +40,10 @@ bool read_text(TokenCursor& in, EngineImp& imp, TextKind kind) {
   return read_connect(in, imp, kind == TextKind::optionFile ? Source::file : Source::command);
 }
 
-void find_fpu(BoundEngine& engine) {
-  if (engine.imp.hwManager != nullptr) engine.imp.GetFPUType();
+// The engine asks the hardware description for the FPU after each reading; the processor knows the answer.
+void take_fpu(ProcessorInfoImp& settings, const Processor& processor) {
+  if (processor.hardware() == nullptr) return;
+  settings.fpuType = settings.procFamily == kFamilyPowerPC ? processor.identity().fpuType : kFpuNone;
 }
 
 }  // namespace
@@ -51,7 +54,7 @@ State defaults_of(const Processor& processor) {
   state.hasDesign = processor.hardware() != nullptr;
   BoundEngine engine(state.processor, processor.hardware());
   engine.imp.EngineImpInit();
-  find_fpu(engine);
+  take_fpu(state.processor, processor);
   return state;
 }
 
@@ -78,7 +81,7 @@ Reading read_state(const Processor& processor, std::string_view text, TextKind k
   reading.consumed = static_cast<std::size_t>(cursor.rest().data() - text.data());
   engine.engine.GetErrorStr(reading.engineText);
   if (!reading.understood) return reading;
-  if (kind != TextKind::cableText) find_fpu(engine);
+  if (kind != TextKind::cableText) take_fpu(state.processor, processor);
   state.cable = std::move(*imp.cable);
   state.cpuJtag = imp.cpuJtag;
   state.chain.reserve(imp.jtagChain.size());

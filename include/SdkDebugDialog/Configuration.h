@@ -10,7 +10,7 @@
 //   if (auto stored = edited.store(); !stored) show(stored.error().message);
 //
 // Nothing needs to be released, and every error has a text. Different objects may be used in different threads at the
-// same time, also copies of one another. Only the hardware description that they query is shared.
+// same time, also copies of one another.
 
 #include <cstdint>
 #include <memory>
@@ -38,7 +38,7 @@ class SDKDEBUGDIALOG_API Processor {
 
   // Its instance name; empty for no processor of a design.
   const std::string& name() const { return m_identity.name; }
-  // As discovered; the settings in it are the defaults.
+  // As discovered, with the FPU that the hardware description tells; the other settings in it are the defaults.
   const ProcessorInfoImp& identity() const { return m_identity; }
   // Null for no processor of a design.
   HHSMHwManager* hardware() const { return m_hardware.get(); }
@@ -52,8 +52,8 @@ class SDKDEBUGDIALOG_API Processor {
 // The processors of a hardware description, found once.
 class SDKDEBUGDIALOG_API Design {
  public:
-  // The description is queried now and by the configurations of its processors: it must outlive them. Exceptions of the
-  // description are passed on.
+  // The description is queried now and for each processor that is asked for; configurations do not query it. It must
+  // outlive the design and its processors. Exceptions of the description are passed on.
   explicit Design(HHSMHwManager& hardware);
   // The same; the description is kept as long as it is needed.
   explicit Design(std::shared_ptr<HHSMHwManager> hardware);
