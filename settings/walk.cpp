@@ -4,145 +4,227 @@
 #include <utility>
 
 #include "options/TokenCursor.h"
-#include "options/framing.h"
 #include "options/groups.h"
 #include "options/option_file.h"
 
 namespace SdkDebugDialog {
 namespace {
 
-// Goes through a command, or through options alone, in the same steps as the readers. Words that it does not reach are
-// Role::ignored.
-class Walker {
- public:
-  // The line is a part of the text, and positions are those in the text.
-  Walker(std::string_view text, std::string_view line) : m_text(text), m_cursor(line) {
+// Any option may stand here.
+constexpr Run kAnyOptions = {~0U, "anywhere", ""};
+
+std::string_view read_part(std::string_view text, TextKind kind) {
+  return kind == TextKind::optionFile ? option_line(text) : text;
+}
+
+}  // namespace
+
+// --- The words ahead ---
+
+Walker::Walker(std::string_view text, TextKind kind)
+    : m_text(text),
+      m_kind(kind),
+      m_source(kind == TextKind::optionFile ? Source::file : Source::command),
+      m_cursor(read_part(text, kind)) {}
+
+Walker::Piece* Walker::ahead(std::size_t count) {
+  while (m_ahead.size() <= count) {
     std::string_view word;
-    while (m_cursor.cut(word)) {
-      const auto begin = static_cast<std::size_t>(word.data() - text.data());
-      m_words.push_back({.begin = begin, .end = begin + word.size()});
+    if (!m_cursor.cut(word)) return nullptr;
+    const auto begin = static_cast<std::size_t>(word.data() - m_text.data());
+    m_ahead.push_back({word, begin, begin + word.size()});
+  }
+  return &m_ahead[count];
+}
+
+void Walker::split(std::size_t size, std::size_t between) {
+  Piece& first = m_ahead.front();
+  const std::size_t rest = size + between;
+  const Piece second = {first.text.substr(rest), first.begin + rest, first.end};
+  first = {first.text.substr(0, size), first.begin, first.begin + size};
+  m_ahead.insert(m_ahead.begin() + 1, second);
+}
+
+void Walker::drop() { m_ahead.erase(m_ahead.begin()); }
+
+// Tells what the next word is, and goes to the one behind it.
+void Walker::take(Role role, const Keyword* keyword) {
+  const Piece piece = m_ahead.front();
+  drop();
+  m_here.begin = piece.begin;
+  m_here.end = piece.end;
+  m_here.role = role;
+  m_here.keyword = keyword;
+  found(m_here, piece.text);
+}
+
+// The kind of the next word. The readers refuse a lone dash wherever they come to it.
+Token Walker::next() {
+  for (const Piece* piece = ahead(); piece != nullptr; piece = ahead()) {
+    if (piece->text != "-") return m_cursor.classify(piece->text);
+    if (!refused(Slot::dash)) take(Role::unknown);
+  }
+  return Token::end;
+}
+
+// --- Head and target ---
+
+void Walker::go() {
+  if (m_kind == TextKind::cableText) {
+    options(kCableTextOptions);
+  } else {
+    command();
+  }
+}
+
+const Head* Walker::find_head() {
+  m_head = find_name(heads(), ahead()->text, letter_case());
+  return m_head != nullptr && is_allowed(m_head->inFile) ? m_head : nullptr;
+}
+
+const Target* Walker::find_target() {
+  const std::string_view word = ahead()->text;
+  m_here.target = SdkDebugDialog::find_target(word, m_head != nullptr && m_head->virtualPlatform, letter_case());
+  if (m_head == nullptr && m_here.target == nullptr) {
+    m_here.target = SdkDebugDialog::find_target(word, true, letter_case());
+  }
+  return m_here.target != nullptr && is_allowed(m_here.target->inFile) ? m_here.target : nullptr;
+}
+
+const Connection* Walker::find_connection() {
+  return m_here.connection = find_name(m_here.target->connections, ahead()->text, letter_case());
+}
+
+void Walker::command() {
+  // What names something in its place; anything else is told. False if nothing can stand there.
+  const auto named = [&](Slot slot, Role role, auto find) {
+    Token token = next();
+    while (token == Token::value && !find() && refused(slot)) token = next();
+    if (token != Token::value) {
+      missing(slot);
+      return false;
+    }
+    take(find() ? role : Role::unknown);
+    return true;
+  };
+  if (!named(Slot::head, Role::head, [&] { return find_head() != nullptr; })) return options(kAnyOptions);
+  if (!named(Slot::target, Role::target, [&] { return find_target() != nullptr; })) return options(kAnyOptions);
+  const Target* const target = m_here.target;
+  if (target == nullptr) return options(kAnyOptions);
+  if (target->connections.empty()) return options(*target->options);
+  const bool isThere = named(Slot::connection, Role::connection, [&] { return find_connection() != nullptr; });
+  options(isThere && m_here.connection != nullptr ? m_here.connection->options : kAnyOptions);
+}
+
+// --- Options ---
+
+void Walker::options(const Run& run) {
+  m_run = &run;
+  if (run.bit == kSoftSimOptions.bit) return single_option();
+  for (Token token = next(); token != Token::end; token = next()) {
+    const Option* known = nullptr;
+    if (token == Token::option) known = find_option(ahead()->text, *m_run, letter_case());
+    if (known == nullptr && refused(Slot::option)) continue;
+    if (token == Token::option) {
+      option(known);
+    } else {
+      take(Role::unknown);
     }
   }
+}
 
-  void command(Source source) {
-    const auto allowed = [&](const auto& row) { return source == Source::command || row.inFile; };
-    if (next() == Token::end) return;
-    const Head* const head = find_name(heads(), word(), m_cursor.letter_case());
-    take(head != nullptr && allowed(*head) ? Role::head : Role::unknown);
-
-    if (next() == Token::end) return;
-    m_here.target = find_target(head != nullptr && head->virtualPlatform);
-    if (head == nullptr && m_here.target == nullptr) m_here.target = find_target(true);
-    take(m_here.target != nullptr && allowed(*m_here.target) ? Role::target : Role::unknown);
-
-    if (m_here.target == nullptr) return options(kGeneralOptions);
-    if (m_here.target->connections.empty()) return options(*m_here.target->options);
-
-    if (next() == Token::end) return;
-    m_here.connection = find_name(m_here.target->connections, word(), m_cursor.letter_case());
-    take(m_here.connection != nullptr ? Role::connection : Role::unknown);
-    options(m_here.connection != nullptr ? m_here.connection->options : kGeneralOptions);
+void Walker::option(const Option* option) {
+  m_here.run = m_run;
+  m_here.option = option;
+  m_here.group = ++m_options;
+  if (option != nullptr) {
+    take(Role::option);
+    what_it_takes(*option);
+  } else {
+    take(Role::unknown);
+    while (next() == Token::value) take(Role::unknown);
   }
+  m_here.run = nullptr;
+  m_here.option = nullptr;
+  m_here.group = 0;
+}
 
-  void options(const Run& run) {
-    m_run = &run;
-    if (run.bit == kSoftSimOptions.bit) return single_option();
-    for (Token found = next(); found != Token::end; found = next()) {
-      if (found == Token::option) {
-        option();
-      } else {
-        take(Role::unknown);
-      }
+void Walker::what_it_takes(const Option& option) {
+  using Takes = Option::Takes;
+  switch (option.takes) {
+    case Takes::nothing:
+      return;
+    case Takes::value:
+    case Takes::valueOrNone:
+      return own_value(option, false, option.takes == Takes::valueOrNone);
+    case Takes::token:
+    case Takes::tokenOrNone:
+      return own_value(option, true, option.takes == Takes::tokenOrNone);
+    case Takes::pairs:
+      return pairs(option.group);
+    case Takes::ownRun:
+      if (m_run != &kAnyOptions) m_run = &kHdlSimOptions;
+      return;
+  }
+}
+
+void Walker::own_value(const Option& option, bool anyToken, bool orNone) {
+  const Keyword* const row = value_row(option);
+  const auto is_value = [&](Token token) { return token == Token::value || (anyToken && token == Token::option); };
+  Token token = next();
+  while (!is_value(token) && token == Token::option && !orNone && refused(Slot::value)) token = next();
+  if (is_value(token)) {
+    value_ahead(*row);
+    return take(Role::value, row);
+  }
+  missing(Slot::value);
+  // The reader skips an option that stands in place of the value.
+  if (orNone && token == Token::option) take(Role::ignored);
+}
+
+void Walker::pairs(const Group& group) {
+  for (Token token = next(); token != Token::end; token = next()) {
+    const std::string_view word = ahead()->text;
+    if (token == Token::option) {
+      if (find_option(word, *m_run, letter_case()) == nullptr && refused(Slot::keyword)) continue;
+      return;
     }
+    const Keyword* const row = find_name(group.keywords, word, letter_case());
+    if (row == nullptr && refused(Slot::keyword)) continue;
+    take(row != nullptr ? Role::keyword : Role::unknown, row);
+    Token value = next();
+    while (row != nullptr && value == Token::option && refused(Slot::value)) value = next();
+    if (value != Token::value) {
+      if (row != nullptr) missing(Slot::value);
+      continue;
+    }
+    if (row != nullptr) value_ahead(*row);
+    take(row != nullptr ? Role::value : Role::unknown, row);
   }
+}
 
-  std::vector<WalkedWord> words() && { return std::move(m_words); }
+// The reader reads one option, if there is one, and ignores the rest.
+void Walker::single_option() {
+  for (Token token = next(); token == Token::option; token = next()) {
+    const Option* const known = find_option(ahead()->text, *m_run, letter_case());
+    if (known == nullptr && refused(Slot::option)) continue;
+    option(known);
+    break;
+  }
+  while (ahead() != nullptr) take(Role::ignored);
+}
+
+// --- All words ---
+
+namespace {
+
+class WordList : public Walker {
+ public:
+  using Walker::Walker;
+  std::vector<WalkedWord> words;
 
  private:
-  std::string_view word() const { return m_text.substr(m_words[m_at].begin, m_words[m_at].end - m_words[m_at].begin); }
-
-  const Target* find_target(bool virtualPlatform) const {
-    return SdkDebugDialog::find_target(word(), virtualPlatform, m_cursor.letter_case());
-  }
-
-  // Records what the next word is, and goes to the one behind it.
-  void take(Role role, const Keyword* keyword = nullptr) {
-    WalkedWord& taken = m_words[m_at++];
-    m_here.begin = taken.begin;
-    m_here.end = taken.end;
-    m_here.role = role;
-    m_here.keyword = keyword;
-    taken = m_here;
-  }
-
-  // The kind of the next word. The readers refuse a lone dash wherever they come to it.
-  Token next() {
-    while (m_at != m_words.size() && word() == "-") take(Role::unknown);
-    return m_at != m_words.size() ? m_cursor.classify(word()) : Token::end;
-  }
-
-  void option() {
-    m_here.run = m_run;
-    m_here.option = find_option(word(), *m_run, m_cursor.letter_case());
-    m_here.group = ++m_options;
-    take(m_here.option != nullptr ? Role::option : Role::unknown);
-    if (m_here.option == nullptr) {
-      while (next() == Token::value) take(Role::unknown);
-    } else {
-      what_it_takes(*m_here.option);
-    }
-    m_here.run = nullptr;
-    m_here.option = nullptr;
-    m_here.group = 0;
-  }
-
-  void what_it_takes(const Option& option) {
-    switch (option.takes) {
-      case Option::Takes::nothing:
-        return;
-      case Option::Takes::value:
-        if (next() == Token::value) take(Role::value, value_row(option));
-        return;
-      case Option::Takes::valueOrNone:
-        if (const Token found = next(); found == Token::value) {
-          take(Role::value, value_row(option));
-        } else if (found == Token::option) {
-          take(Role::ignored);
-        }
-        return;
-      case Option::Takes::token:
-      case Option::Takes::tokenOrNone:
-        if (next() != Token::end) take(Role::value, value_row(option));
-        return;
-      case Option::Takes::pairs:
-        return pairs(option.group);
-      case Option::Takes::ownRun:
-        m_run = &kHdlSimOptions;
-        return;
-    }
-  }
-
-  void pairs(const Group& group) {
-    while (next() == Token::value) {
-      const Keyword* const row = find_name(group.keywords, word(), m_cursor.letter_case());
-      take(row != nullptr ? Role::keyword : Role::unknown, row);
-      if (next() == Token::value) take(row != nullptr ? Role::value : Role::unknown, row);
-    }
-  }
-
-  // The reader reads one option, if there is one, and ignores the rest.
-  void single_option() {
-    if (next() == Token::option) option();
-    while (m_at != m_words.size()) take(Role::ignored);
-  }
-
-  std::string_view m_text;
-  TokenCursor m_cursor;
-  std::vector<WalkedWord> m_words;
-  std::size_t m_at = 0;  // the next word
-  const Run* m_run = nullptr;
-  WalkedWord m_here;  // what holds for the next word
-  std::size_t m_options = 0;
+  void found(const WalkedWord& word, std::string_view /*spelled*/) override { words.push_back(word); }
 };
 
 void add_ignored(std::string_view text, std::size_t from, std::vector<WalkedWord>& words) {
@@ -159,16 +241,11 @@ void add_ignored(std::string_view text, std::size_t from, std::vector<WalkedWord
 }  // namespace
 
 std::vector<WalkedWord> walk(std::string_view text, TextKind kind) {
-  const std::string_view line = kind == TextKind::optionFile ? option_line(text) : text;
-  Walker walker(text, line);
-  if (kind == TextKind::cableText) {
-    walker.options(kCableTextOptions);
-  } else {
-    walker.command(kind == TextKind::optionFile ? Source::file : Source::command);
-  }
-  std::vector<WalkedWord> words = std::move(walker).words();
-  add_ignored(text, static_cast<std::size_t>(line.data() - text.data()) + line.size(), words);
-  return words;
+  WordList list(text, kind);
+  list.go();
+  const std::string_view line = read_part(text, kind);
+  add_ignored(text, static_cast<std::size_t>(line.data() - text.data()) + line.size(), list.words);
+  return std::move(list.words);
 }
 
 }  // namespace SdkDebugDialog

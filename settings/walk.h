@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "SdkDebugDialog/Annotation.h"
+#include "options/framing.h"
 #include "options/syntax.h"
 
 namespace SdkDebugDialog {
@@ -30,10 +31,88 @@ struct WalkedWord {
 // asked.
 //
 //   no such head               a target of either kind may follow
-//   no such target, connection general options may follow
+//   no such target, connection any option may follow
+//   an option instead of those any option may follow
 //   no such option             it takes all words up to the next option
 //   no such keyword            it takes a value
 //   a lone dash                it counts as no word, so that what follows stands in its place
 std::vector<WalkedWord> walk(std::string_view text, TextKind kind);
+
+// Goes through a command, or through options alone, in the same steps as the readers, and tells what it finds. Whoever
+// derives from it may put other words in the place of those that are refused; it then goes on with these.
+class Walker {
+ public:
+  Walker(std::string_view text, TextKind kind);
+  virtual ~Walker() = default;
+  Walker(const Walker&) = delete;
+  Walker& operator=(const Walker&) = delete;
+
+  void go();
+
+ protected:
+  // Where a word stands or is missing.
+  enum class Slot { head, target, connection, option, keyword, value, dash };
+
+  // A word of the text, or what is taken to stand there instead.
+  struct Piece {
+    std::string_view text;
+    std::size_t begin = 0;  // in the text, in bytes
+    std::size_t end = 0;
+  };
+
+  // --- What is told, in the order of the text ---
+
+  // A word, and how it is spelled: as in the text, if it was not replaced.
+  virtual void found(const WalkedWord& word, std::string_view spelled) = 0;
+  // The next word is refused in this slot: it names nothing, or is a lone dash (Slot::dash), or is an option where a
+  // value is due (Slot::value). True if the words ahead were replaced and are to be looked at once more.
+  virtual bool refused(Slot /*slot*/) { return false; }
+  // Nothing that could stand in the slot is there: the text ends, or an option follows.
+  virtual void missing(Slot /*slot*/) {}
+  // The next word is the value of the row. The words ahead may be replaced, but a value must be the first.
+  virtual void value_ahead(const Keyword& /*row*/) {}
+
+  // --- The words ahead ---
+
+  // Null behind the last word.
+  Piece* ahead(std::size_t count = 0);
+  // The first one becomes two: its first bytes, and what is left without as many bytes between them.
+  void split(std::size_t size, std::size_t between);
+  // The first one is not told.
+  void drop();
+
+  const LetterCase& letter_case() const { return m_cursor.letter_case(); }
+  // What holds for the next word.
+  const WalkedWord& here() const { return m_here; }
+  Source source() const { return m_source; }
+  // Whether the head told which targets may follow, and which ones then.
+  const Head* head() const { return m_head; }
+  const Run* run() const { return m_run; }
+
+ private:
+  Token next();
+  bool is_allowed(bool inFile) const { return m_source == Source::command || inFile; }
+  const Head* find_head();
+  const Target* find_target();
+  const Connection* find_connection();
+  void command();
+  void options(const Run& run);
+  void option(const Option* option);  // null for an unknown one
+  void what_it_takes(const Option& option);
+  void own_value(const Option& option, bool anyToken, bool orNone);
+  void pairs(const Group& group);
+  void single_option();
+  void take(Role role, const Keyword* keyword = nullptr);
+
+  std::string_view m_text;
+  TextKind m_kind;
+  Source m_source;
+  TokenCursor m_cursor;
+  std::vector<Piece> m_ahead;
+  const Head* m_head = nullptr;
+  const Run* m_run = nullptr;
+  WalkedWord m_here;
+  std::size_t m_options = 0;
+};
 
 }  // namespace SdkDebugDialog

@@ -76,10 +76,10 @@ TEST(Walk, GoesOnBehindAnUnknownHead) {
 TEST(Walk, GoesOnBehindAnUnknownTargetOrConnection) {
   EXPECT_EQ(walked("connect mips"), "H:connect U:mips");
   EXPECT_EQ(walked("connect mips hw -cable port x -memsize 3"),
-            "H:connect U:mips U:hw O:-cable K:port V:x U:-memsize U:3");
+            "H:connect U:mips U:hw O:-cable K:port V:x O:-memsize V:3");
   EXPECT_EQ(walked("vpconnect ppc hw -cable"), "H:vpconnect U:ppc U:hw O:-cable");
   EXPECT_EQ(walked("connect ppc odm -cable port x"), "H:connect T:ppc U:odm O:-cable K:port V:x");
-  EXPECT_EQ(walked("connect ov -cable port x -quiet"), "H:connect T:ov U:-cable U:port U:x O:-quiet");
+  EXPECT_EQ(walked("connect ov -cable port x -quiet"), "H:connect T:ov O:-cable K:port V:x O:-quiet");
 }
 
 TEST(Walk, TellsWhereEachWordStands) {
