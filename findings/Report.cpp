@@ -40,12 +40,23 @@ Finding& Report::add(Code code, const Place& place, std::string message, std::st
   return m_findings.back();
 }
 
+bool Report::has(const Place& place) const {
+  return std::ranges::any_of(m_findings,
+                             [&](const Finding& f) { return f.begin == place.begin && f.end == place.end; });
+}
+
 void Report::make_error(Finding& finding) {
   finding.severity = Severity::error;
   m_hasErrors = true;
 }
 
 std::vector<Finding> Report::findings() && {
+  // Not all that would have to be fixed are listed.
+  for (Finding& finding : m_findings) {
+    const auto index = static_cast<std::size_t>(finding.kind - &kind_of(Code{}));
+    if (m_counts[index] <= kMostOfOneKind) continue;
+    for (Fix& fix : finding.fixes) fix.safe = false;
+  }
   std::ranges::stable_sort(m_findings, [](const Finding& a, const Finding& b) {
     return std::pair(a.begin, a.severity) < std::pair(b.begin, b.severity);
   });

@@ -42,6 +42,8 @@ class Report {
   Finding& add(Code code, const Place& place, std::string message, std::string remedy = {});
 
   bool has_errors() const { return m_hasErrors; }
+  // Whether something was found at this very place.
+  bool has(const Place& place) const;
   // For a finding whose severity was changed to an error.
   void make_error(Finding& finding);
 

@@ -74,7 +74,8 @@ constexpr Keyword kKeywords[] = {
      .written = kWithArguments,
      .read = read_modulearg,
      .write = write_modulearg,
-     .meaning = "an argument of the module; may come several times"},
+     .meaning = "an argument of the module; may come several times",
+     .repeats = true},
     {.name = " fname ",
      .field = &CableOption::fname,
      .written = never("no type is written with it"),
@@ -198,9 +199,6 @@ bool set_frequency(EngineImp& imp, bool useDefault) {
   return false;
 }
 
-namespace {
-
-// What must hold at the end of the text; a cable that other options follow is not checked.
 bool check_cable(EngineImp& imp, bool hasFrequency) {
   const CableOption& cable = *imp.cable;
   if (cable.type == Engine::ZARVEK_SVFFILE && cable.fname.empty()) {
@@ -213,8 +211,6 @@ bool check_cable(EngineImp& imp, bool hasFrequency) {
   }
   return set_frequency(imp, !hasFrequency);
 }
-
-}  // namespace
 
 Outcome read_cable(const Option& /*option*/, TokenCursor& in, std::string_view /*typed*/, EngineImp& imp) {
   const PairsRead read = read_pairs(in, kCable, records_of(imp), row("frequency"));

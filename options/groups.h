@@ -45,4 +45,8 @@ bool write_ppcsim(TextOut& out, EngineImp& imp);
 // when the type does not accept it.
 bool set_frequency(EngineImp& imp, bool useDefault);
 
+// What must hold where "-cable" ends the text; a cable that other options follow is not checked. False, with an error
+// text for some types, when it does not hold.
+bool check_cable(EngineImp& imp, bool hasFrequency);
+
 }  // namespace SdkDebugDialog

@@ -92,6 +92,7 @@ struct Keyword {
   const char* unit = "";
   const char* initial = "";      // the default, where a new record does not tell
   const char* notReadBack = "";  // why what is written is not read back, or not with the same meaning
+  bool repeats = false;          // it can be given several times, and each value counts
 };
 
 // Keywords that belong together: those of the pairs that follow an option, or options with one value each.

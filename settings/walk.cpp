@@ -27,7 +27,7 @@ Walker::Walker(std::string_view text, TextKind kind)
       m_source(kind == TextKind::optionFile ? Source::file : Source::command),
       m_cursor(read_part(text, kind)) {}
 
-Walker::Piece* Walker::ahead(std::size_t count) {
+const Piece* Walker::ahead(std::size_t count) {
   while (m_ahead.size() <= count) {
     std::string_view word;
     if (!m_cursor.cut(word)) return nullptr;
@@ -37,20 +37,15 @@ Walker::Piece* Walker::ahead(std::size_t count) {
   return &m_ahead[count];
 }
 
-void Walker::split(std::size_t size, std::size_t between) {
-  Piece& first = m_ahead.front();
-  const std::size_t rest = size + between;
-  const Piece second = {first.text.substr(rest), first.begin + rest, first.end};
-  first = {first.text.substr(0, size), first.begin, first.begin + size};
-  m_ahead.insert(m_ahead.begin() + 1, second);
+void Walker::replace_ahead(std::size_t count, const std::vector<Piece>& by) {
+  m_ahead.erase(m_ahead.begin(), m_ahead.begin() + static_cast<std::ptrdiff_t>(count));
+  m_ahead.insert(m_ahead.begin(), by.begin(), by.end());
 }
-
-void Walker::drop() { m_ahead.erase(m_ahead.begin()); }
 
 // Tells what the next word is, and goes to the one behind it.
 void Walker::take(Role role, const Keyword* keyword) {
   const Piece piece = m_ahead.front();
-  drop();
+  m_ahead.erase(m_ahead.begin());
   m_here.begin = piece.begin;
   m_here.end = piece.end;
   m_here.role = role;
@@ -62,7 +57,7 @@ void Walker::take(Role role, const Keyword* keyword) {
 Token Walker::next() {
   for (const Piece* piece = ahead(); piece != nullptr; piece = ahead()) {
     if (piece->text != "-") return m_cursor.classify(piece->text);
-    if (!refused(Slot::dash)) take(Role::unknown);
+    if (!lone_dash()) take(Role::unknown);
   }
   return Token::end;
 }
@@ -71,7 +66,7 @@ Token Walker::next() {
 
 void Walker::go() {
   if (m_kind == TextKind::cableText) {
-    options(kCableTextOptions);
+    walk_options(kCableTextOptions);
   } else {
     command();
   }
@@ -107,18 +102,18 @@ void Walker::command() {
     take(find() ? role : Role::unknown);
     return true;
   };
-  if (!named(Slot::head, Role::head, [&] { return find_head() != nullptr; })) return options(kAnyOptions);
-  if (!named(Slot::target, Role::target, [&] { return find_target() != nullptr; })) return options(kAnyOptions);
+  if (!named(Slot::head, Role::head, [&] { return find_head() != nullptr; })) return walk_options(kAnyOptions);
+  if (!named(Slot::target, Role::target, [&] { return find_target() != nullptr; })) return walk_options(kAnyOptions);
   const Target* const target = m_here.target;
-  if (target == nullptr) return options(kAnyOptions);
-  if (target->connections.empty()) return options(*target->options);
+  if (target == nullptr) return walk_options(kAnyOptions);
+  if (target->connections.empty()) return walk_options(*target->options);
   const bool isThere = named(Slot::connection, Role::connection, [&] { return find_connection() != nullptr; });
-  options(isThere && m_here.connection != nullptr ? m_here.connection->options : kAnyOptions);
+  walk_options(isThere && m_here.connection != nullptr ? m_here.connection->options : kAnyOptions);
 }
 
 // --- Options ---
 
-void Walker::options(const Run& run) {
+void Walker::walk_options(const Run& run) {
   m_run = &run;
   if (run.bit == kSoftSimOptions.bit) return single_option();
   for (Token token = next(); token != Token::end; token = next()) {
@@ -126,14 +121,14 @@ void Walker::options(const Run& run) {
     if (token == Token::option) known = find_option(ahead()->text, *m_run, letter_case());
     if (known == nullptr && refused(Slot::option)) continue;
     if (token == Token::option) {
-      option(known);
+      walk_option(known);
     } else {
       take(Role::unknown);
     }
   }
 }
 
-void Walker::option(const Option* option) {
+void Walker::walk_option(const Option* option) {
   m_here.run = m_run;
   m_here.option = option;
   m_here.group = ++m_options;
@@ -208,7 +203,7 @@ void Walker::single_option() {
   for (Token token = next(); token == Token::option; token = next()) {
     const Option* const known = find_option(ahead()->text, *m_run, letter_case());
     if (known == nullptr && refused(Slot::option)) continue;
-    option(known);
+    walk_option(known);
     break;
   }
   while (ahead() != nullptr) take(Role::ignored);

@@ -38,6 +38,16 @@ struct WalkedWord {
 //   a lone dash                it counts as no word, so that what follows stands in its place
 std::vector<WalkedWord> walk(std::string_view text, TextKind kind);
 
+// Where a word stands, is missing or is refused.
+enum class Slot { head, target, connection, option, keyword, value };
+
+// A word of the text, or what is taken to stand there instead.
+struct Piece {
+  std::string_view text;
+  std::size_t begin = 0;  // in the text, in bytes
+  std::size_t end = 0;
+};
+
 // Goes through a command, or through options alone, in the same steps as the readers, and tells what it finds. Whoever
 // derives from it may put other words in the place of those that are refused; it then goes on with these.
 class Walker {
@@ -50,23 +60,15 @@ class Walker {
   void go();
 
  protected:
-  // Where a word stands or is missing.
-  enum class Slot { head, target, connection, option, keyword, value, dash };
-
-  // A word of the text, or what is taken to stand there instead.
-  struct Piece {
-    std::string_view text;
-    std::size_t begin = 0;  // in the text, in bytes
-    std::size_t end = 0;
-  };
-
   // --- What is told, in the order of the text ---
 
   // A word, and how it is spelled: as in the text, if it was not replaced.
   virtual void found(const WalkedWord& word, std::string_view spelled) = 0;
-  // The next word is refused in this slot: it names nothing, or is a lone dash (Slot::dash), or is an option where a
-  // value is due (Slot::value). True if the words ahead were replaced and are to be looked at once more.
+  // The next word is refused in this slot: it names nothing, or is an option where a keyword or a value is due. True if
+  // the words ahead were replaced and are to be looked at once more.
   virtual bool refused(Slot /*slot*/) { return false; }
+  // The same for a lone dash, wherever it stands.
+  virtual bool lone_dash() { return false; }
   // Nothing that could stand in the slot is there: the text ends, or an option follows.
   virtual void missing(Slot /*slot*/) {}
   // The next word is the value of the row. The words ahead may be replaced, but a value must be the first.
@@ -75,11 +77,9 @@ class Walker {
   // --- The words ahead ---
 
   // Null behind the last word.
-  Piece* ahead(std::size_t count = 0);
-  // The first one becomes two: its first bytes, and what is left without as many bytes between them.
-  void split(std::size_t size, std::size_t between);
-  // The first one is not told.
-  void drop();
+  const Piece* ahead(std::size_t count = 0);
+  // Puts others, or none, in the place of the first ones.
+  void replace_ahead(std::size_t count, const std::vector<Piece>& by);
 
   const LetterCase& letter_case() const { return m_cursor.letter_case(); }
   // What holds for the next word.
@@ -96,8 +96,8 @@ class Walker {
   const Target* find_target();
   const Connection* find_connection();
   void command();
-  void options(const Run& run);
-  void option(const Option* option);  // null for an unknown one
+  void walk_options(const Run& run);
+  void walk_option(const Option* option);  // null for an unknown one
   void what_it_takes(const Option& option);
   void own_value(const Option& option, bool anyToken, bool orNone);
   void pairs(const Group& group);

@@ -6,25 +6,25 @@
 #include "SdkDebugDialog/Settings.h"
 
 namespace SdkDebugDialog {
-namespace {
-
-// Levenshtein distance.
-std::size_t distance(std::string_view a, std::string_view b) {
+// The distance of optimal string alignment, row by row.
+std::size_t edit_distance(std::string_view a, std::string_view b) {
+  std::vector<std::size_t> before(b.size() + 1);  // the row before the last one
+  std::vector<std::size_t> last(b.size() + 1);
   std::vector<std::size_t> row(b.size() + 1);
-  std::iota(row.begin(), row.end(), std::size_t{0});
+  std::iota(last.begin(), last.end(), std::size_t{0});
   for (std::size_t i = 1; i <= a.size(); ++i) {
-    std::size_t diagonal = row[0];
     row[0] = i;
     for (std::size_t j = 1; j <= b.size(); ++j) {
-      const std::size_t replaced = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
-      diagonal = row[j];
-      row[j] = std::min({replaced, row[j] + 1, row[j - 1] + 1});
+      const bool isSame = a[i - 1] == b[j - 1];
+      row[j] = std::min({last[j - 1] + (isSame ? 0 : 1), last[j] + 1, row[j - 1] + 1});
+      const bool isSwapped = i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1];
+      if (isSwapped) row[j] = std::min(row[j], before[j - 2] + 1);
     }
+    std::swap(before, last);
+    std::swap(last, row);
   }
-  return row.back();
+  return last.back();
 }
-
-}  // namespace
 
 bool same_word(std::string_view a, std::string_view b) {
   const auto small = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
@@ -61,7 +61,7 @@ std::string_view nearest_name(std::string_view name, const std::vector<std::stri
   for (const std::string_view candidate : candidates) {
     const std::size_t difference = std::max(candidate.size(), name.size()) - std::min(candidate.size(), name.size());
     if (difference >= best) continue;
-    const std::size_t apart = distance(name, candidate);
+    const std::size_t apart = edit_distance(name, candidate);
     if (apart >= best || apart >= candidate.size()) continue;
     best = apart;
     found = candidate;

@@ -13,6 +13,10 @@ namespace SdkDebugDialog {
 // Equal but for the case of ASCII letters.
 bool same_word(std::string_view a, std::string_view b);
 
+// How many edits lead from one word to the other: a letter replaced, added or left out, or two neighbours swapped. The
+// case of ASCII letters counts.
+std::size_t edit_distance(std::string_view a, std::string_view b);
+
 // A blank and the word.
 std::string spaced(std::string_view word);
 

@@ -1,0 +1,191 @@
+#include "findings/effects.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "SdkDebugDialog/Engine.h"
+#include "model/processor_kind.h"
+#include "options/groups.h"
+#include "settings/catalogue.h"
+#include "settings/number_text.h"
+#include "settings/ways.h"
+#include "settings/words.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+std::string name_of(const Said& said) { return quoted(said.row->name.text()); }
+
+// Why what was said does not apply; empty if it does.
+std::string why_no_effect(const Said& said, const State& state) {
+  if (&said.option->group == &kStub && state.processor.connectionType != Engine::STUB) {
+    return "it is for the connection 'stub'";
+  }
+  const Setting* const setting = setting_of(*said.row);
+  return setting != nullptr ? why_not(row_of(*setting), state) : std::string();
+}
+
+void check_given_twice(const Examined& examined, Report& report) {
+  for (const SaidTwice& twice : examined.twice) {
+    const std::string name = quoted(twice.row->name.text());
+    Finding& finding =
+        report.add(Code::givenTwice, twice.first, name + " is given again behind this, so that this one has no effect",
+                   "keep one of them");
+    finding.remarks.push_back({twice.again.begin, twice.again.end, "this one counts"});
+  }
+}
+
+void check_port(const Examined& examined, Report& report) {
+  const Said* const type = examined.said(kCable, "type");
+  const Said* const port = examined.said(kCable, "port");
+  if (type == nullptr || port == nullptr || port->word.begin > type->word.begin) return;
+  const auto is_named = [&](const CableType& cable) {
+    return std::ranges::any_of(cable.names, [&](const Name& name) { return same_word(name.text(), type->text); });
+  };
+  const auto cable = std::ranges::find_if(cable_types(), is_named);
+  if (cable == cable_types().end() || cable->defaultPort.empty() || cable->defaultPort == port->text) return;
+  Finding& finding =
+      report.add(Code::portBeforeType, port->word,
+                 "'type' behind it sets the port to " + quoted(cable->defaultPort) + ", so that this one has no effect",
+                 "write 'port' behind 'type'");
+  finding.remarks.push_back({type->word.begin, type->value.end, "the type brings its own port"});
+  if (port->group == type->group) {
+    Fix move{"move 'port' behind the type", false, {}};
+    move.replacements.push_back({port->word.begin, type->word.begin, ""});
+    move.replacements.push_back({type->value.end, type->value.end, " port " + std::string(port->text)});
+    if (port->value.end < type->word.begin && examined.lasts.end() - examined.lasts.begin() > 0) {
+      const auto between = std::ranges::any_of(examined.lasts, [&](const Said& said) {
+        return said.word.begin > port->word.begin && said.word.begin < type->word.begin;
+      });
+      if (!between) finding.fixes.push_back(std::move(move));
+    }
+  }
+}
+
+// A frequency is checked only at the end of the text.
+void check_frequency(const Examined& examined, const State& state, Report& report) {
+  const CableType& type = cable_type(state.cable.type);
+  const Said* const cable = examined.said(kCable, "type");
+  if (cable == nullptr || type.accepted.empty() || !state.cable.esn.empty()) return;
+  if (!why_not(row_named("frequency"), state).empty()) return;
+  const bool isAccepted = std::ranges::find(type.accepted, state.cable.frequency) != type.accepted.end();
+  const Said* const frequency = examined.said(kCable, "frequency");
+  if (frequency != nullptr && !isAccepted) {
+    add_frequency(type, state.cable.frequency, *frequency, report).severity = Severity::warning;
+  } else if (frequency == nullptr && state.cable.frequency == 0) {
+    report.add(Code::missingFrequency, cable->optionWord, "the cable has no frequency, which then is 0",
+               type.defaultFrequency != 0
+                   ? "write 'frequency " + std::to_string(type.defaultFrequency) + "', or put '-cable' at the end"
+                   : "write 'frequency' and its value in Hz");
+  }
+}
+
+void check_esn(const Examined& examined, const State& state, Report& report) {
+  if (state.cable.esn.empty()) return;
+  for (const char* const name : {"port", "frequency"}) {
+    if (const Said* const said = examined.said(kCable, name)) {
+      report.add(Code::besideEsn, said->word, name_of(*said) + " has no effect beside 'esn', which selects the cable",
+                 "remove one of them");
+    }
+  }
+}
+
+// A FPU in the text counts only without a design.
+void check_fpu(const Subject& subject, const Examined& examined, const State& state, Report& report) {
+  const Said* const fpu = examined.said(kDebugdevice, "fpuType");
+  if (fpu == nullptr || !state.hasDesign) return;
+  const auto word =
+      std::ranges::find_if(fpu->row->words, [&](const Word& w) { return same_word(w.name.text(), fpu->text); });
+  if (word == fpu->row->words.end() || word->value == state.processor.fpuType) return;
+  const std::string has = state.processor.fpuType == kFpuNone     ? "no FPU"
+                          : state.processor.fpuType == kFpuSingle ? "a FPU of single precision"
+                                                                  : "a FPU of double precision";
+  report.add(Code::fpuFromDesign, fpu->value,
+             quoted(subject.processor.name()) + " has " + has + " in the design, which counts",
+             "remove 'fpuType', or see whether the text is for another processor");
+}
+
+std::string_view meaning_of_family(std::uint32_t family) {
+  const auto found = std::ranges::find(targets(), family, &Target::family);
+  return found != targets().end() ? found->meaning : "processor";
+}
+
+// An ARM processor is written as a PowerPC.
+void check_family(const Subject& subject, const Examined& examined, const State& state, Report& report) {
+  const Target* const target = examined.target;
+  if (!state.hasDesign || target == nullptr || target->admits != 0) return;
+  const std::uint32_t family = subject.processor.identity().procFamily;
+  if (target->family == family || (target->family == kFamilyPowerPC && family == kFamilyArm)) return;
+  report.add(Code::otherFamily, examined.targetWord,
+             "the target is for another kind of processor (" + std::string(target->meaning) + ") than " +
+                 quoted(subject.processor.name()) + " (" + std::string(meaning_of_family(family)) + ")",
+             "see whether the text is for another processor");
+}
+
+// Options that set nothing, and settings that do not apply. A whole option is one finding.
+void check_applies(const Examined& examined, const State& state, Report& report) {
+  for (auto first = examined.lasts.begin(); first != examined.lasts.end();) {
+    const auto isOther = [&](const Said& said) { return said.group != first->group; };
+    const auto end = std::find_if(first, examined.lasts.end(), isOther);
+    const std::string option = quoted(first->option->name.text());
+    const std::string why = why_no_effect(*first, state);
+    if (sets_nothing(*first->option)) {
+      report.add(Code::noEffect, first->optionWord, option + " is accepted and has no effect", "remove it");
+    } else if (!why.empty() &&
+               std::all_of(first, end, [&](const Said& said) { return why_no_effect(said, state) == why; })) {
+      report.add(Code::doesNotApply, first->optionWord, option + " has no effect: " + why);
+    } else {
+      for (auto said = first; said != end; ++said) {
+        const std::string reason = why_no_effect(*said, state);
+        if (!reason.empty()) report.add(Code::doesNotApply, said->word, name_of(*said) + " has no effect: " + reason);
+      }
+    }
+    first = end;
+  }
+}
+
+}  // namespace
+
+Finding& add_frequency(const CableType& type, std::uint32_t hz, const Said& frequency, Report& report) {
+  const auto text = [](std::uint32_t value) { return number_text(value, Scale::decimal, "Hz"); };
+  std::string all;
+  for (const std::uint32_t accepted : type.accepted) {
+    all += all.empty() ? "" : ", ";
+    all += std::to_string(accepted);
+  }
+  Finding& finding =
+      report.add(Code::unsupportedFrequency, frequency.value,
+                 "a cable of the type " + quoted(type.names.back().text()) + " does not run at " + text(hz),
+                 "accepted here: " + all);
+  const auto propose = [&](std::uint32_t value) {
+    finding.fixes.push_back(fix("write " + std::to_string(value) + " (" + text(value) + ")", false, frequency.value,
+                                std::to_string(value)));
+  };
+  // A number with a unit tells what was meant.
+  const std::optional<std::int64_t> meant = parse_number(frequency.text, Scale::decimal, "Hz");
+  const auto found = std::ranges::find(type.accepted, meant.value_or(0));
+  if (found != type.accepted.end()) {
+    propose(*found);
+    return finding;
+  }
+  const auto above = std::ranges::upper_bound(type.accepted, hz);
+  if (above != type.accepted.begin()) propose(*std::prev(above));
+  if (above != type.accepted.end()) propose(*above);
+  return finding;
+}
+
+void check_effects(const Subject& subject, const Examined& examined, const State& state, Report& report) {
+  check_given_twice(examined, report);
+  check_port(examined, report);
+  check_frequency(examined, state, report);
+  check_esn(examined, state, report);
+  check_fpu(subject, examined, state, report);
+  check_family(subject, examined, state, report);
+  check_applies(examined, state, report);
+  if (examined.notReached) {
+    report.add(Code::notReached, *examined.notReached, "what follows is not read", "remove it");
+  }
+}
+
+}  // namespace SdkDebugDialog

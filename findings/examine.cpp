@@ -1,0 +1,601 @@
+#include "findings/examine.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "SdkDebugDialog/Engine.h"
+#include "SdkDebugDialog/EngineImp.h"
+#include "findings/effects.h"
+#include "findings/repair.h"
+#include "model/base_address.h"
+#include "model/processor_kind.h"
+#include "options/groups.h"
+#include "options/number.h"
+#include "options/pairs.h"
+#include "options/target.h"
+#include "settings/number_text.h"
+#include "settings/walk.h"
+#include "settings/words.h"
+
+namespace SdkDebugDialog {
+
+const Said* Examined::said(const Group& group, std::string_view name) const {
+  const auto found = std::ranges::find_if(
+      lasts, [&](const Said& said) { return &said.option->group == &group && said.row->name.text() == name; });
+  return found != lasts.end() ? &*found : nullptr;
+}
+
+namespace {
+
+using Takes = Option::Takes;
+
+// In the order of Slot.
+constexpr Code kUnknown[] = {Code::unknownHead,   Code::unknownTarget,  Code::unknownConnection,
+                             Code::unknownOption, Code::unknownKeyword, Code::invalidValue};
+
+bool is_option_word(std::string_view word) {
+  return word.size() > 1 && word[0] == '-' && (word[1] < '0' || word[1] > '9');
+}
+
+Place place_of(const Piece& word) { return {word.begin, word.end}; }
+Place place_of(const WalkedWord& word) { return {word.begin, word.end}; }
+
+std::string name_of(const Keyword& row) { return quoted(row.name.text()); }
+
+// The first word of the form in which the processor's own JTAG pins are written.
+std::string_view own_pins_keyword() {
+  const std::size_t begin = kOwnPinsWritten.find_first_not_of(' ');
+  return kOwnPinsWritten.substr(begin, kOwnPinsWritten.find(' ', begin) - begin);
+}
+
+// Every word of a text, one after the other. A word that is refused is reported. If it is certain enough what was
+// meant, the words behind it are read as the reader reads the text with the fix; else what follows up to the next
+// option is passed over, so that one mistake is one error.
+class Examiner : public Walker {
+ public:
+  Examiner(const Subject& subject, Report& report)
+      : Walker(subject.text, subject.kind),
+        m_subject(subject),
+        m_report(report),
+        m_processor(subject.processor.identity()) {
+    m_imp.hwManager = subject.processor.hardware();
+    m_imp.currentProcessor = &m_processor;
+  }
+
+  Examined examine() {
+    go();
+    check_end_of_cable();
+    std::ranges::sort(m_said.lasts, {}, [](const Said& said) { return said.word.begin; });
+    return std::move(m_said);
+  }
+
+ private:
+  // --- What the walk tells ---
+
+  bool refused(Slot slot) override;
+  bool lone_dash() override;
+  void missing(Slot slot) override;
+  void value_ahead(const Keyword& row) override;
+  void found(const WalkedWord& word, std::string_view spelled) override;
+
+  // --- Words that are refused ---
+
+  Refusal refusal(Slot slot, const Keyword* row = nullptr) const;
+  std::string no_such(const Refusal& refusal, std::string_view word) const;
+  Code code_of(const Refusal& refusal, std::string_view word) const;
+  void apply(Finding& finding, Repair repair, std::size_t words = 1);
+  bool without_mark();
+  bool written_head();
+  bool is_known_elsewhere(const Refusal& at, std::string_view word) const;
+  void report_unknown(const Refusal& refusal);
+
+  // --- Values ---
+
+  bool accepts(const Keyword& row, std::string_view value);
+  bool separator_in_place_of_value(const Keyword& row);
+  void report_value(const Refusal& refusal);
+  void say(const WalkedWord& word, const Keyword& row, const Place& value, std::string_view text);
+
+  void target_known(const WalkedWord& word);
+  void connection_known(const WalkedWord& word);
+  void begin_option(const WalkedWord& word);
+  void not_admitted(const WalkedWord& word, std::uint32_t connection);
+  void missing_value();
+  void check_end_of_cable();
+  void report_frequency(const Said& frequency);
+
+  const Subject& m_subject;
+  Report& m_report;
+
+  // What values are tried out on.
+  Engine m_engine;
+  EngineImp& m_imp = *m_engine.imp;
+  ProcessorInfoImp m_processor;
+  JtagOption m_device;
+
+  bool m_isLost = false;      // nothing certain can be said about the words up to the next option
+  bool m_isAccepted = false;  // the value ahead
+  Place m_lastWord;
+  Place m_keyword;  // the last keyword, or option with a value of its own
+  Place m_option;
+  bool m_endsWithCable = false;     // no option has followed the last "-cable" so far
+  bool m_hasFrequency = false;      // in the last "-cable"
+  bool m_isCableUncertain = false;  // a mistake in a "-cable" was not repaired
+  Examined m_said;
+};
+
+// --- Words that are refused ---
+
+Refusal Examiner::refusal(Slot slot, const Keyword* row) const {
+  Refusal at;
+  at.slot = slot;
+  at.source = source();
+  at.head = head();
+  at.target = here().target;
+  at.run = run();
+  at.option = here().option;
+  at.row = row;
+  at.letterCase = &letter_case();
+  at.names = names_at(at);
+  return at;
+}
+
+std::string Examiner::no_such(const Refusal& at, std::string_view word) const {
+  switch (at.slot) {
+    case Slot::head:
+      return "a command cannot begin with " + quoted(word);
+    case Slot::target:
+      return "no target " + quoted(word);
+    case Slot::connection:
+      return "the target " + quoted(at.target->name.text()) + " has no connection " + quoted(word);
+    case Slot::option:
+      return is_option_word(word) ? "no option " + quoted(word) : quoted(word) + " stands where an option is expected";
+    case Slot::keyword:
+      return quoted(at.option->name.text()) + " has no keyword " + quoted(word);
+    case Slot::value:
+      break;
+  }
+  return name_of(*at.row) + " cannot be " + quoted(word);
+}
+
+Code Examiner::code_of(const Refusal& at, std::string_view word) const {
+  if (at.slot == Slot::option && !is_option_word(word)) return Code::wordWithoutOption;
+  return kUnknown[static_cast<std::size_t>(at.slot)];
+}
+
+// Goes on with what was meant.
+void Examiner::apply(Finding& finding, Repair repair, std::size_t words) {
+  finding.remedy = std::move(repair.remedy);
+  finding.fixes.push_back(std::move(repair.fix));
+  replace_ahead(words, repair.words);
+}
+
+bool Examiner::refused(Slot slot) {
+  const Piece word = *ahead();
+  const bool isOption = is_option_word(word.text);
+  if (slot == Slot::option && isOption) m_isLost = false;
+  if (m_isLost) return false;
+  if (isOption && slot == Slot::keyword) {
+    std::optional<Repair> found = without_dash(keyword_names(here().option->group), word);
+    if (!found) return false;
+    apply(m_report.add(Code::unknownOption, place_of(word), "no option " + quoted(word.text)), std::move(*found));
+    return true;
+  }
+  if (isOption && slot == Slot::value) {
+    const Keyword* const row = here().keyword != nullptr ? here().keyword : value_row(*here().option);
+    std::optional<Repair> found = without_dash(value_names(*row), word);
+    if (!found) return false;
+    apply(m_report.add(Code::missingValue, m_keyword, name_of(*row) + " has no value"), std::move(*found));
+    return true;
+  }
+  if (slot == Slot::head && (without_mark() || written_head())) return true;
+  const Refusal at = refusal(slot);
+  std::optional<Repair> found;
+  if (!is_known_elsewhere(at, word.text)) found = repair(at, word);
+  if (found) {
+    apply(m_report.add(code_of(at, word.text), place_of(word), no_such(at, word.text)), std::move(*found));
+    return true;
+  }
+  report_unknown(at);
+  return false;
+}
+
+bool Examiner::without_mark() {
+  Piece word = *ahead();
+  if (word.begin != m_subject.line.begin || !word.text.starts_with(kByteOrderMark)) return false;
+  Finding& finding = m_report.add(Code::byteOrderMark, place_of(word), "the text begins with a byte-order mark");
+  const Place mark = {word.begin, word.begin + kByteOrderMark.size()};
+  word = {word.text.substr(kByteOrderMark.size()), mark.end, word.end};
+  std::vector<Piece> rest;
+  if (!word.text.empty()) rest.push_back(word);
+  apply(finding, {"store it without one", fix("remove the byte-order mark", true, mark, ""), std::move(rest)});
+  return true;
+}
+
+// "qconnect" means the same as "connect", which a file can have.
+bool Examiner::written_head() {
+  const Head* const known = head();
+  if (known == nullptr) return false;
+  const auto isWritten = [&](const Head& h) { return h.written && h.virtualPlatform == known->virtualPlatform; };
+  const std::string_view name = std::ranges::find_if(heads(), isWritten)->name.text();
+  const Piece word = *ahead();
+  Finding& finding =
+      m_report.add(Code::notInFile, place_of(word), quoted(word.text) + " cannot stand in an option file");
+  apply(finding, {"it means the same as " + quoted(name),
+                  fix("write " + quoted(name), true, place_of(word), std::string(name)),
+                  {{name, word.begin, word.end}}});
+  return true;
+}
+
+// A keyword of another option, or an option of other places: rather misplaced than misspelt.
+bool Examiner::is_known_elsewhere(const Refusal& at, std::string_view word) const {
+  if (at.slot == Slot::keyword) return !options_with_keyword(word, *at.run).empty();
+  return at.slot == Slot::option && is_option_word(word) && !places_of_option(word, *at.run).empty();
+}
+
+// A dash with a blank behind it, in front of an option's name.
+bool Examiner::lone_dash() {
+  if (m_isLost) return false;
+  const Piece dash = *ahead();
+  const Piece* const next = ahead(1);
+  Finding& finding = m_report.add(Code::loneDash, place_of(dash), "a dash stands alone");
+  const Option* const option = next != nullptr && run() != nullptr
+                                   ? find_option(std::string("-").append(next->text), *run(), letter_case())
+                                   : nullptr;
+  if (option == nullptr) {
+    m_isLost = run() == nullptr;
+    finding.remedy = "remove it, or write an option or a value";
+    finding.fixes.push_back(fix("remove the dash", false, place_of(dash), ""));
+    return false;
+  }
+  const std::string_view name = option->name.text();
+  apply(finding,
+        {"did you mean " + quoted(name) + "?",
+         fix("remove the blank behind the dash", true, {dash.end, next->begin}, ""),
+         {{name, dash.begin, next->end}}},
+        2);
+  return true;
+}
+
+// Reports the next word with what can be said about it, and perhaps a guess.
+void Examiner::report_unknown(const Refusal& at) {
+  const std::string_view word = ahead()->text;
+  Finding& finding = m_report.add(code_of(at, word), place_of(*ahead()), no_such(at, word));
+  const auto change_kind = [&](Code code) { finding.kind = &kind_of(code); };
+  const bool isInCable = at.option != nullptr && &at.option->group == &kCable;
+  m_isCableUncertain = m_isCableUncertain || isInCable;
+  m_isLost = true;
+
+  if (at.slot == Slot::target && at.target != nullptr) {
+    change_kind(Code::notInFile);
+    finding.message = quoted(word) + " cannot stand in an option file";
+    finding.remedy = "accepted here: " + listed(at.names, "and");
+    m_isLost = false;
+    return;
+  }
+  if (at.slot == Slot::head && (word.starts_with('#') || word.starts_with("//") || word.starts_with(';'))) {
+    change_kind(Code::comment);
+    finding.message = "a comment stands in the place of the command";
+    finding.remedy = "there are no comments: remove the line";
+    return;
+  }
+  if (at.slot == Slot::keyword && same_word(word, own_pins_keyword())) {
+    change_kind(Code::writtenNotRead);
+    finding.message = "the writer writes " + quoted(kOwnPinsWritten.substr(1)) + ", which the reader refuses";
+    finding.remedy = "write 'jtagport cpu'";
+    return;
+  }
+  if (at.slot == Slot::option) {
+    const auto isJoined = [&](const Option& option) {
+      const Keyword* const row = value_row(option);
+      return (option.runs & at.run->bit) != 0 && row != nullptr && *row->notReadBack != '\0' &&
+             word.size() > option.name.text().size() &&
+             same_word(word.substr(0, option.name.text().size()), option.name.text());
+    };
+    const auto joined = std::ranges::find_if(options(), isJoined);
+    if (joined != options().end()) {
+      change_kind(Code::writtenNotRead);
+      finding.message = "the writer joins the value to " + quoted(joined->name.text()) + ", which the reader refuses";
+      finding.remedy = "write " + std::string(joined->name.text()) + " " + value_in_words(*value_row(*joined));
+      return;
+    }
+  }
+  const bool isElsewhere = is_known_elsewhere(at, word);
+  if (const Names resembling = nearest(word, at.names).names; !isElsewhere && !resembling.empty()) {
+    finding.remedy = "did you mean " + listed(resembling) + "?";
+    finding.fixes.push_back(
+        fix("write " + quoted(resembling.front()), false, place_of(*ahead()), std::string(resembling.front())));
+    m_isLost = at.slot != Slot::keyword;
+    return;
+  }
+  if (at.slot == Slot::keyword && is_one_of(word, head_names(Source::command))) {
+    finding.remedy = "a second command begins here: keep one";
+    return;
+  }
+  if (at.slot == Slot::keyword || at.slot == Slot::option) {
+    if (const Names owners = options_with_keyword(word, *at.run); !owners.empty()) {
+      if (at.slot == Slot::keyword) change_kind(Code::misplacedKeyword);
+      finding.remedy = "it belongs to " + listed(owners);
+      m_isLost = at.slot != Slot::keyword;
+      return;
+    }
+    if (isElsewhere) {
+      change_kind(Code::misplacedOption);
+      finding.message = quoted(word) + " cannot stand here";
+      const bool isBehindSim =
+          at.run == &kHdlSimOptions && find_option(word, kGeneralOptions, letter_case()) != nullptr;
+      finding.remedy = isBehindSim ? "write it before '-sim', which takes all options that follow"
+                                   : "it is an option of " + places_of_option(word, *at.run);
+      return;
+    }
+  }
+  finding.remedy = "accepted here: " + listed(at.names, "and");
+}
+
+void Examiner::missing(Slot slot) {
+  if (m_isLost) return;
+  if (slot == Slot::value) return missing_value();
+  const Place whole = m_lastWord == Place() ? m_subject.line : m_lastWord;
+  const Place place = ahead() != nullptr ? place_of(*ahead()) : whole;
+  const Refusal at = refusal(slot);
+  const std::string accepted = "write " + listed(at.names);
+  if (slot == Slot::head && ahead() == nullptr && m_subject.kind == TextKind::optionFile) {
+    m_report.add(Code::blankFirstLine, place, "the first line has nothing in it but blanks", "remove the line");
+    return;
+  }
+  const char* const what = slot == Slot::head ? "a head" : slot == Slot::target ? "a target" : "a connection";
+  const bool isFirst = m_lastWord == Place() && ahead() == nullptr;
+  m_report.add(
+      Code::incompleteCommand, place,
+      isFirst ? "the command is empty"
+              : std::string(what) + " is missing " +
+                    (ahead() != nullptr ? "before " + quoted(ahead()->text) : "behind " + quoted(m_subject.in(place))),
+      accepted);
+}
+
+void Examiner::missing_value() {
+  const Option& option = *here().option;
+  const Keyword& row = here().keyword != nullptr ? *here().keyword : *value_row(option);
+  const std::string instead = ahead() != nullptr ? "; " + quoted(ahead()->text) + " is an option" : "";
+  if (option.takes == Takes::valueOrNone || option.takes == Takes::tokenOrNone) {
+    m_report.add(Code::skippedOption, m_keyword,
+                 name_of(row) + " has no value, and nothing is stored" +
+                     (ahead() != nullptr ? "; the option " + quoted(ahead()->text) + " is skipped with it" : ""),
+                 "write " + value_in_words(row));
+    return;
+  }
+  m_isCableUncertain = m_isCableUncertain || &option.group == &kCable;
+  Finding& finding = m_report.add(Code::missingValue, m_keyword, name_of(row) + " has no value" + instead,
+                                  "write " + value_in_words(row));
+  if (option.takes == Takes::value && row.kind == Kind::word && *row.notReadBack != '\0') {
+    finding.kind = &kind_of(Code::writtenNotRead);
+    finding.message = "the writer writes " + name_of(row) + " alone, which the reader refuses";
+  }
+}
+
+// --- Values ---
+
+bool Examiner::accepts(const Keyword& row, std::string_view value) {
+  return read_value(row, {row.name.text(), value, letter_case()}, records_of(m_imp, &m_device));
+}
+
+// "frequency = 12000000": the reader takes the separator as the value, and refuses the value as a keyword or an option.
+bool Examiner::separator_in_place_of_value(const Keyword& row) {
+  const Piece separator = *ahead();
+  const Piece* const next = ahead(1);
+  if (!is_separator(separator.text) || next == nullptr || next->text == "-" || is_option_word(next->text)) return false;
+  const bool isPair = here().option->takes == Takes::pairs;
+  if (isPair && is_one_of(next->text, keyword_names(here().option->group))) return false;
+  if (run()->bit == kSoftSimOptions.bit) return false;
+  const Piece value = *next;
+  const bool isAccepted = accepts(row, separator.text);
+  Finding& finding = m_report.add(!isAccepted ? Code::invalidValue
+                                  : isPair    ? Code::unknownKeyword
+                                              : Code::wordWithoutOption,
+                                  place_of(isAccepted ? value : separator),
+                                  isAccepted ? quoted(separator.text) + " is taken as the value of " + name_of(row)
+                                             : name_of(row) + " cannot be " + quoted(separator.text));
+  apply(finding, {"words are separated by blanks, not by " + quoted(separator.text),
+                  fix("remove " + quoted(separator.text), true, {separator.begin, value.begin}, ""),
+                  {}});
+  return true;
+}
+
+void Examiner::value_ahead(const Keyword& row) {
+  m_isAccepted = false;
+  if (m_isLost) return;
+  separator_in_place_of_value(row);
+  for (;;) {
+    const Piece word = *ahead();
+    if (accepts(row, word.text)) break;
+    const Refusal at = refusal(Slot::value, &row);
+    std::optional<Repair> found = at.names.empty() ? std::nullopt : repair(at, word);
+    if (!found) return report_value(at);
+    apply(m_report.add(Code::invalidValue, place_of(word), no_such(at, word.text)), std::move(*found));
+  }
+  m_isAccepted = true;
+  const Piece& word = *ahead();
+  if (is_option_word(word.text)) {
+    m_report.add(Code::skippedOption, place_of(word),
+                 "the option " + quoted(word.text) + " is taken as the value of " + name_of(row),
+                 "write " + value_in_words(row) + " before it");
+  }
+  check_number(row, word.text, place_of(word), m_report);
+  if (row.kind == Kind::text) check_text(word.text, place_of(word), m_report);
+}
+
+void Examiner::report_value(const Refusal& at) {
+  const Keyword& row = *at.row;
+  const Piece word = *ahead();
+  const Place place = place_of(word);
+  m_isCableUncertain = m_isCableUncertain || &at.option->group == &kCable;
+  if (row.kind == Kind::address) {
+    const auto address = static_cast<std::uint32_t>(to_unsigned(word.text));
+    const std::uint32_t below = address - address % kMapBlock;
+    Finding& finding =
+        m_report.add(Code::misalignedAddress, place,
+                     name_of(row) + " must be a multiple of 64 KB (0x10000), and " + quoted(word.text) + " is none",
+                     "write " + address_text(below) + " or " + address_text(below + kMapBlock));
+    for (const std::uint32_t nearby : {below, below + kMapBlock}) {
+      finding.fixes.push_back(fix("write " + address_text(nearby), false, place, address_text(nearby)));
+    }
+    return;
+  }
+  if (at.names.empty()) {
+    const std::string number = std::to_string(static_cast<std::int8_t>(m_subject.processor.identity().cpuNr));
+    Finding& finding =
+        m_report.add(Code::wrongCpuNumber, place,
+                     "the processor has the number " + number + " in the design, not " + quoted(word.text),
+                     "write " + number + ", or see whether the text is for another processor");
+    finding.fixes.push_back(fix("write " + number, false, place, number));
+    return;
+  }
+  const auto is_known = [&](const CableType& type) {
+    return std::ranges::any_of(type.names, [&](const Name& name) { return same_word(name.text(), word.text); });
+  };
+  if (&at.option->group == &kCable && std::ranges::any_of(cable_types(), is_known)) {
+    m_report.add(Code::unsupportedCable, place, "cables of the type " + quoted(word.text) + " are not supported",
+                 "accepted here: " + listed(at.names, "and"));
+    return;
+  }
+  Finding& finding = m_report.add(Code::invalidValue, place, no_such(at, word.text));
+  const Names resembling = nearest(word.text, at.names).names;
+  if (resembling.empty()) {
+    finding.remedy = "accepted here: " + listed(at.names, "and");
+    return;
+  }
+  finding.remedy = "did you mean " + listed(resembling) + "?";
+  finding.fixes.push_back(fix("write " + quoted(resembling.front()), false, place, std::string(resembling.front())));
+}
+
+// --- What is said ---
+
+void Examiner::found(const WalkedWord& word, std::string_view spelled) {
+  m_lastWord = place_of(word);
+  switch (word.role) {
+    case Role::head:
+    case Role::unknown:
+      break;
+    case Role::target:
+      target_known(word);
+      break;
+    case Role::connection:
+      connection_known(word);
+      break;
+    case Role::option:
+      begin_option(word);
+      break;
+    case Role::keyword:
+      m_keyword = place_of(word);
+      break;
+    case Role::value:
+      if (m_isAccepted) say(word, *word.keyword, place_of(word), spelled);
+      break;
+    case Role::ignored:
+      if (word.option != nullptr) break;  // skipped with the option
+      if (!m_said.notReached) m_said.notReached = place_of(word);
+      m_said.notReached->end = word.end;
+      break;
+  }
+  if (word.role == Role::unknown && is_option_word(spelled)) m_endsWithCable = false;
+}
+
+void Examiner::target_known(const WalkedWord& word) {
+  m_isLost = false;
+  m_said.target = word.target;
+  m_said.targetWord = place_of(word);
+  if (word.target->virtualPlatform) not_admitted(word, Engine::VIRTUAL_PLATFORM);
+}
+
+// The debug access port is no processor of a design, which is not asked then.
+void Examiner::connection_known(const WalkedWord& word) {
+  m_said.connection = word.connection;
+  if (word.target->admits == 0) not_admitted(word, word.connection->type);
+}
+
+void Examiner::not_admitted(const WalkedWord& word, std::uint32_t connection) {
+  if (admits(m_imp, connection)) return;
+  Names admitted;
+  for (const Target& target : targets()) {
+    if (target.family != m_processor.procFamily || target.admits != 0 || target.virtualPlatform) continue;
+    for (const Connection& other : target.connections) {
+      if (admits(m_imp, other.type)) admitted.push_back(other.name.text());
+    }
+  }
+  m_report.add(Code::connectionNotAdmitted, place_of(word),
+               "processor " + quoted(m_subject.processor.name()) + " cannot be connected by " +
+                   quoted(m_subject.in(place_of(word))),
+               "accepted here: " + listed(admitted, "and"));
+}
+
+void Examiner::begin_option(const WalkedWord& word) {
+  const Option& option = *word.option;
+  m_isLost = false;
+  m_keyword = place_of(word);
+  m_option = m_keyword;
+  m_endsWithCable = &option.group == &kCable;
+  m_hasFrequency = false;
+  if (&option.group == &kConfigdevice) {
+    m_device = {};
+    m_said.devices.push_back({m_option, {}, {}, {}});
+  }
+  if (option.takes == Takes::nothing || option.takes == Takes::ownRun) say(word, *value_row(option), {}, {});
+}
+
+void Examiner::say(const WalkedWord& word, const Keyword& row, const Place& value, std::string_view text) {
+  const Said said = {&row, word.option, word.group, m_option, m_keyword, value, text};
+  const bool isOfDevice = &word.option->group == &kConfigdevice;
+  const auto before = std::ranges::find(m_said.lasts, &row, &Said::row);
+  if (before == m_said.lasts.end()) {
+    m_said.lasts.push_back(said);
+  } else {
+    const bool isAgain = !row.repeats && (!isOfDevice || before->group == word.group);
+    if (isAgain && m_said.twice.size() <= Report::kMostOfOneKind) {
+      m_said.twice.push_back({before->word, said.word, &row});
+    }
+    *before = said;
+  }
+  const std::string_view name = row.name.text();
+  if (m_endsWithCable && name == "frequency") m_hasFrequency = true;
+  if (!isOfDevice) return;
+  DeviceWords& device = m_said.devices.back();
+  if (name == "devicenr") device.number = value;
+  if (name == "irlength") device.irlength = value;
+  if (name == "idcode") device.idcode = value;
+}
+
+// --- The end of the text ---
+
+void Examiner::check_end_of_cable() {
+  m_said.endsWithCable = m_endsWithCable;
+  if (!m_endsWithCable || m_isLost || m_isCableUncertain || check_cable(m_imp, m_hasFrequency)) return;
+  if (m_hasFrequency && (m_imp.cable->type != Engine::ZARVEK_PLUGIN || !m_imp.cable->modulename.empty())) {
+    return report_frequency(*m_said.said(kCable, "frequency"));
+  }
+  m_report.add(Code::missingModule, m_option, "a plug-in cable needs its module",
+               "write 'modulename' and the name of the module");
+}
+
+void Examiner::report_frequency(const Said& frequency) {
+  const CableType& type = cable_type(m_imp.cable->type);
+  const std::string hz = number_text(m_imp.cable->frequency, Scale::decimal, "Hz");
+  if (type.accepted.empty()) {
+    const bool isNone = type.names.empty();
+    Finding& finding =
+        m_report.add(Code::unsupportedFrequency, frequency.value,
+                     isNone ? "a frequency is given, but no type of cable"
+                            : "a cable of the type " + quoted(type.names.back().text()) + " has no frequency",
+                     isNone ? "write 'type' and the type" : "remove 'frequency'");
+    if (!isNone)
+      finding.fixes.push_back(fix("remove 'frequency'", false, {frequency.word.begin, frequency.value.end}, ""));
+    return;
+  }
+  add_frequency(type, m_imp.cable->frequency, frequency, m_report);
+}
+
+}  // namespace
+
+Examined examine(const Subject& subject, Report& report) { return Examiner(subject, report).examine(); }
+
+}  // namespace SdkDebugDialog

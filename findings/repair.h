@@ -1,0 +1,51 @@
+#pragma once
+
+// What was probably meant by a word that the reader refuses.
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "SdkDebugDialog/Diagnosis.h"
+#include "findings/names.h"
+#include "options/syntax.h"
+#include "settings/walk.h"
+
+namespace SdkDebugDialog {
+
+// The place in the syntax at which a word is refused. What does not hold there is null.
+struct Refusal {
+  Slot slot = Slot::head;
+  Source source = Source::command;
+  const Head* head = nullptr;
+  const Target* target = nullptr;  // of a connection
+  const Run* run = nullptr;        // in which options stand
+  const Option* option = nullptr;  // of a keyword or a value
+  const Keyword* row = nullptr;    // of a value
+  const LetterCase* letterCase = nullptr;
+  Names names = {};  // those that are valid there
+};
+
+// The names that are valid there.
+Names names_at(const Refusal& refusal);
+
+// A safe fix, and the words that then stand in the place of the one refused.
+struct Repair {
+  std::string remedy;
+  Fix fix;
+  std::vector<Piece> words;
+};
+
+// A separator, quotes, a missing blank, a dash too many or too few, or one letter that differs from a single name.
+std::optional<Repair> repair(const Refusal& refusal, const Piece& word);
+
+// A dash in front of a keyword, or of a value that is one of a few words.
+std::optional<Repair> without_dash(const Names& names, const Piece& word);
+
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// Whether all of the word is characters that others separate words with.
+bool is_separator(std::string_view word);
+
+}  // namespace SdkDebugDialog
