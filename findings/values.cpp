@@ -1,11 +1,251 @@
 // Values that are not what they seem.
 
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string>
+#include <type_traits>
+#include <variant>
+
 #include "findings/checks.h"
+#include "options/TokenCursor.h"
+#include "options/number.h"
+#include "settings/number_text.h"
 
 namespace SdkDebugDialog {
+namespace {
 
-void check_number(const Keyword& /*row*/, std::string_view /*value*/, const Place& /*place*/, Report& /*report*/) {}
+constexpr std::string_view kOctal = "01234567";
+constexpr std::string_view kDecimal = "0123456789";
+constexpr std::string_view kHexadecimal = "0123456789abcdefABCDEF";
 
-void check_text(std::string_view /*value*/, const Place& /*place*/, Report& /*report*/) {}
+bool is_made_of(std::string_view text, std::string_view characters) {
+  return text.find_first_not_of(characters) == text.npos;
+}
+
+// --- How the reader reads a number ---
+
+struct NumberRule {
+  bool decimalAlone = false;  // neither "0x" nor a leading zero means anything
+  bool hexadecimal = false;   // as it is written
+  bool isSigned = false;      // negative numbers are as good as others
+  // The numbers that are kept as they are typed.
+  std::int64_t min = 0;
+  std::int64_t max = 0;
+  // What people may type behind it.
+  Scale scale = Scale::none;
+  std::string_view unit = {};
+};
+
+constexpr NumberRule kPort = {.decimalAlone = true, .max = 65535};
+
+// What a value is read as, by its rule.
+struct Value {
+  std::string_view text;
+  std::size_t length = 0;   // of the number at its beginning; 0 if there is none
+  std::int64_t number = 0;  // as typed
+  std::int64_t stored = 0;  // cut to the field
+};
+
+template <class Number>
+constexpr std::int64_t cut(std::uint64_t number) {
+  return static_cast<std::int64_t>(static_cast<Number>(number));
+}
+
+struct NumberField {
+  std::int64_t min = 0;
+  std::int64_t max = 0;
+  std::size_t bytes = 0;
+  std::int64_t (*cut)(std::uint64_t number) = nullptr;
+};
+
+template <class Record, class Number>
+NumberField number_field(Number Record::* /*field*/) {
+  if constexpr (std::is_integral_v<Number>) {
+    using Limits = std::numeric_limits<Number>;
+    return {.min = Limits::min(), .max = Limits::max(), .bytes = sizeof(Number), .cut = cut<Number>};
+  }
+  return {};
+}
+NumberField number_field(std::monostate /*none*/) { return {}; }
+
+NumberRule rule_of(const Keyword& row, const NumberField& field) {
+  NumberRule rule = {.isSigned = row.kind == Kind::signedNumber, .max = field.max, .unit = row.unit};
+  rule.hexadecimal = row.kind == Kind::hexadecimal || row.kind == Kind::address;
+  // A byte is written as a signed number: what the writer writes is right.
+  const bool isWrittenByte = field.bytes == 1 && row.written.holds != nullptr;
+  if (rule.isSigned) rule.min = field.min;
+  if (isWrittenByte) rule.min = std::numeric_limits<std::int8_t>::min();
+  if (rule.unit == "Hz" || rule.unit == "baud") rule.scale = Scale::decimal;
+  if (rule.unit == "bytes" || row.kind == Kind::address) rule.scale = Scale::binary;
+  return rule;
+}
+
+// The length of the number that a text begins with; 0 if there is none.
+std::size_t length_of_number(std::string_view text, bool decimalAlone) {
+  std::size_t at = 0;
+  while (at < text.size() && is_space(text[at])) ++at;
+  if (at < text.size() && (text[at] == '-' || text[at] == '+')) ++at;
+  std::string_view digits = kDecimal;
+  if (!decimalAlone && at < text.size() && text[at] == '0') {
+    const std::string_view rest = text.substr(at + 1);
+    const bool hasPrefix =
+        rest.size() > 1 && (rest[0] == 'x' || rest[0] == 'X') && kHexadecimal.find(rest[1]) != rest.npos;
+    digits = hasPrefix ? kHexadecimal : kOctal;
+    if (hasPrefix) at += 2;
+  }
+  const std::size_t end = std::min(text.find_first_not_of(digits, at), text.size());
+  return end > at ? end : 0;
+}
+
+// --- What is wrong with a number ---
+
+bool fits(const NumberRule& rule, std::int64_t number) { return number >= rule.min && number <= rule.max; }
+
+// With a leading zero, and another number than it seems. The first digit that is not octal ends the reading.
+bool is_octal(const NumberRule& rule, const Value& value) {
+  if (rule.decimalAlone) return false;
+  std::string_view digits = value.text;
+  if (digits.starts_with('-') || digits.starts_with('+')) digits.remove_prefix(1);
+  return digits.starts_with('0') && is_made_of(digits, kDecimal) && to_decimal(value.text) != value.number;
+}
+
+// Hexadecimal digits where "0x" seems to be missing.
+bool lacks_prefix(const NumberRule& rule, const Value& value) {
+  return rule.hexadecimal && is_made_of(value.text, kHexadecimal);
+}
+
+// The number that was probably meant.
+std::optional<std::int64_t> meant_by(const NumberRule& rule, const Value& value) {
+  if (lacks_prefix(rule, value)) return to_signed("0x" + std::string(value.text));
+  if (is_octal(rule, value)) return to_decimal(value.text);
+  return parse_number(value.text, rule.scale, rule.unit);
+}
+
+bool ends_with_unit(const NumberRule& rule, const Value& value) {
+  return !lacks_prefix(rule, value) && !is_made_of(value.text.substr(value.text.size() - 1), kDecimal);
+}
+
+std::string spelled(const NumberRule& rule, std::int64_t number) {
+  return rule.hexadecimal ? address_text(static_cast<std::uint32_t>(number)) : std::to_string(number);
+}
+
+std::string range_remedy(const NumberRule& rule) {
+  const std::int64_t min = rule.isSigned ? rule.min : 0;
+  return "write a number from " + std::to_string(min) + " to " + spelled(rule, rule.max);
+}
+
+std::string message_of(const NumberRule& rule, const Value& value, const char* reason) {
+  return quoted(value.text).append(" is read as ").append(spelled(rule, value.stored)).append(": ").append(reason);
+}
+
+Fix fix_with(const NumberRule& rule, std::int64_t number, bool safe, const Place& place) {
+  const std::string text = spelled(rule, number);
+  return fix("write " + text, safe, place, text);
+}
+
+void report_octal(const NumberRule& rule, const Value& value, const Place& place, Report& report) {
+  Finding& finding = report.add(Code::octalNumber, place, message_of(rule, value, "a leading zero makes it octal"),
+                                range_remedy(rule));
+  if (!fits(rule, value.stored)) return;
+  finding.remedy = "write " + spelled(rule, value.stored);
+  finding.fixes.push_back(fix_with(rule, value.stored, true, place));
+  const std::optional<std::int64_t> meant = meant_by(rule, value);
+  if (!meant || !fits(rule, *meant)) return;
+  finding.remedy.append(", or ").append(spelled(rule, *meant)).append(" if that is meant");
+  finding.fixes.push_back(fix_with(rule, *meant, false, place));
+}
+
+// Something behind the number, or no number at all.
+void report_characters(const NumberRule& rule, const Value& value, const Place& place, Report& report) {
+  const bool isNumber = value.length > 0;
+  const std::optional<std::int64_t> meant = meant_by(rule, value);
+  const bool hasUnit = isNumber && meant && ends_with_unit(rule, value);
+  const Code code = !isNumber ? Code::notANumber : hasUnit ? Code::unitIgnored : Code::trailingCharacters;
+  const char* const reason = !isNumber ? "it is no number" : hasUnit ? "units are ignored" : "the rest is ignored";
+  Finding& finding = report.add(code, place, message_of(rule, value, reason), range_remedy(rule));
+  if (!isNumber && !meant) return;
+  const std::int64_t number = meant.value_or(value.number);
+  if (!fits(rule, number)) return;
+  finding.remedy = "write " + spelled(rule, number);
+  finding.fixes.push_back(fix_with(rule, number, meant == value.stored, place));
+}
+
+void check(const NumberRule& rule, const Value& value, const Place& place, Report& report) {
+  if (is_octal(rule, value)) {
+    report_octal(rule, value, place, report);
+  } else if (value.length == 0 || value.length < value.text.size()) {
+    report_characters(rule, value, place, report);
+  } else if (value.number < 0 && !rule.isSigned && !fits(rule, value.number)) {
+    report.add(Code::negativeNumber, place, message_of(rule, value, "it is negative"), range_remedy(rule));
+  } else if (!fits(rule, value.number)) {
+    report.add(Code::numberTooLarge, place, message_of(rule, value, "it is too large"), range_remedy(rule));
+  }
+}
+
+// --- Host and port ---
+
+void check_address(const Keyword& row, std::string_view value, const Place& place, Report& report) {
+  const std::size_t colon = value.find(':');
+  if (colon == value.npos) {
+    Finding& finding =
+        report.add(Code::addressWithoutPort, place, quoted(value).append(" has no port: ").append(row.meaning),
+                   "write host and port with a colon between them");
+    if (is_made_of(value, kDecimal)) {
+      std::string port = ":";
+      port += value;
+      finding.remedy = "write " + quoted(port);
+      finding.fixes.push_back(fix(finding.remedy, false, place, port));
+    }
+    return;
+  }
+  Value port = {.text = value.substr(colon + 1)};
+  if (port.text.empty()) {
+    report.add(Code::notANumber, {place.begin + colon, place.end}, "the port is missing and read as 0",
+               "write a number from 1 to 65535 behind the colon");
+    return;
+  }
+  port.length = length_of_number(port.text, kPort.decimalAlone);
+  port.number = to_decimal(port.text);
+  port.stored = cut<std::uint32_t>(static_cast<std::uint64_t>(port.number));
+  check(kPort, port, {place.begin + colon + 1, place.end}, report);
+}
+
+bool is_quote(char c) { return c == '"' || c == '\''; }
+
+}  // namespace
+
+void check_number(const Keyword& row, std::string_view value, const Place& place, Report& report) {
+  if (row.kind == Kind::hostAndPort) return check_address(row, value, place, report);
+  if (row.kind == Kind::flag || row.kind == Kind::text || row.kind == Kind::word) return;
+  const NumberField field = std::visit([](auto member) { return number_field(member); }, row.field);
+  if (field.cut == nullptr) return;
+  const NumberRule rule = rule_of(row, field);
+  Value read = {.text = value, .length = length_of_number(value, rule.decimalAlone), .number = to_signed(value)};
+  read.stored = field.cut(rule.isSigned ? static_cast<std::uint64_t>(read.number) : to_unsigned(value));
+  check(rule, read, place, report);
+}
+
+void check_text(std::string_view value, const Place& place, Report& report) {
+  if (value.empty()) return;
+  if (value.ends_with('\\')) {
+    report.add(Code::quotes, place, quoted(value) + " ends here: a backslash does not keep the blank behind it",
+               "use a text without blanks");
+    return;
+  }
+  if (!is_quote(value.front())) return;
+  const bool isClosed = value.size() > 1 && value.back() == value.front();
+  Finding& finding = report.add(
+      Code::quotes, place,
+      quoted(value) + (isClosed ? " keeps its quotes: they are part of the text" : " ends here: quotes join no words"),
+      isClosed ? "write the text without quotes" : "use a text without blanks and quotes");
+  const std::string_view text = value.substr(1, value.size() - (isClosed ? 2 : 1));
+  // What begins with a dash may be an option.
+  if (!text.empty() && !text.starts_with('-')) {
+    finding.fixes.push_back(fix("write " + quoted(text), false, place, std::string(text)));
+  }
+}
 
 }  // namespace SdkDebugDialog
