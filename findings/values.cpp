@@ -117,8 +117,11 @@ bool lacks_prefix(const NumberRule& rule, const Value& value) {
   return rule.hexadecimal && is_made_of(value.text, kHexadecimal);
 }
 
-// The number that was probably meant.
+// The number that was probably meant; people type none that is longer.
+constexpr std::size_t kLongestMeant = 64;
+
 std::optional<std::int64_t> meant_by(const NumberRule& rule, const Value& value) {
+  if (value.text.size() > kLongestMeant) return std::nullopt;
   if (lacks_prefix(rule, value)) return to_signed("0x" + std::string(value.text));
   if (is_octal(rule, value)) return to_decimal(value.text);
   return parse_number(value.text, rule.scale, rule.unit);
