@@ -45,6 +45,14 @@ bool Report::has(const Place& place) const {
                              [&](const Finding& f) { return f.begin == place.begin && f.end == place.end; });
 }
 
+Finding& Report::add_warning(Code code, const Place& place, std::string message, std::string remedy) {
+  const bool hadErrors = m_hasErrors;
+  Finding& finding = add(code, place, std::move(message), std::move(remedy));
+  finding.severity = Severity::warning;
+  m_hasErrors = hadErrors;
+  return finding;
+}
+
 void Report::make_error(Finding& finding) {
   finding.severity = Severity::error;
   m_hasErrors = true;

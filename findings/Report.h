@@ -41,6 +41,9 @@ class Report {
   // The finding can be completed until the next one is added. Its severity is that of its kind.
   Finding& add(Code code, const Place& place, std::string message, std::string remedy = {});
 
+  // For a kind that is an error as a rule.
+  Finding& add_warning(Code code, const Place& place, std::string message, std::string remedy = {});
+
   bool has_errors() const { return m_hasErrors; }
   // Whether something was found at this very place.
   bool has(const Place& place) const;
