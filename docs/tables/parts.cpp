@@ -16,13 +16,16 @@ namespace {
 
 // The name of the part that begins with this line.
 std::optional<std::string> part_of(std::string_view line) {
-  constexpr std::string_view kMark = " printed from the syntax: ";
+  constexpr std::string_view kMarks[] = {" printed from the syntax: ", " printed from the kinds of findings: "};
   constexpr std::string_view kCommentEnd = " -->";
-  const std::size_t mark = line.find(kMark);
-  if (mark == std::string_view::npos) return {};
-  line.remove_prefix(mark + kMark.size());
-  if (line.ends_with(kCommentEnd)) line.remove_suffix(kCommentEnd.size());
-  return std::string(line);
+  for (const std::string_view mark : kMarks) {
+    const std::size_t found = line.find(mark);
+    if (found == std::string_view::npos) continue;
+    line.remove_prefix(found + mark.size());
+    if (line.ends_with(kCommentEnd)) line.remove_suffix(kCommentEnd.size());
+    return std::string(line);
+  }
+  return {};
 }
 
 bool is_end(std::string_view line) { return line == "<!-- end -->" || line == "# end"; }
@@ -67,6 +70,8 @@ std::string print(const std::string& part, const Links& links) {
   if (part == "never written") return print_never_written();
   if (part == "not read back") return print_not_read_back();
   if (part == "all words") return print_dictionary();
+  if (part == "table") return print_finding_table();
+  if (part == "descriptions") return print_finding_descriptions();
   const std::vector<const Option*> options = options_of(part);
   if (options.empty()) throw std::runtime_error("there is no part of this name: " + part);
   return options.front()->takes == Option::Takes::pairs ? print_keywords(*options.front()) : print_options(options);

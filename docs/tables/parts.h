@@ -1,6 +1,6 @@
 #pragma once
 
-// The parts of documents that are printed from the tables of the syntax. A part stands between two lines, which say so
+// The parts of documents that are printed from the tables of the code. A part stands between two lines, which say so
 // in a comment of the document's language; in Markdown
 //
 //   <!-- printed from the syntax: targets -->
@@ -9,12 +9,14 @@
 // The first one names the part: one of a few names, or the options that it describes, and where they may stand:
 //
 //   <!-- printed from the syntax: general: -comm -port -baud -timeout -->
+//
+// Parts about findings are "printed from the kinds of findings".
 
 #include <string>
 
 namespace SdkDebugDialog {
 
-inline constexpr const char* kDocuments[] = {"docs/connect-command.md", "fuzz/command.dict"};
+inline constexpr const char* kDocuments[] = {"docs/connect-command.md", "docs/findings.md", "fuzz/command.dict"};
 
 // The document with all its parts printed anew; the rest stays. Throws std::runtime_error for a part that there is
 // not, for one without an end, and for an option that the index links to and no part describes.

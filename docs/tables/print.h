@@ -1,6 +1,6 @@
 #pragma once
 
-// What the tables of the syntax say, in Markdown; for the fuzzers as a dictionary.
+// What the tables of the syntax, and of the kinds of findings, say, in Markdown; for the fuzzers as a dictionary.
 
 #include <map>
 #include <string>
@@ -22,5 +22,7 @@ std::string print_cable_types();
 std::string print_never_written();
 std::string print_not_read_back();
 std::string print_dictionary();
+std::string print_finding_table();
+std::string print_finding_descriptions();
 
 }  // namespace SdkDebugDialog

@@ -1,8 +1,10 @@
-// The documents say what the tables of the syntax say, and their examples and links are right.
+// The documents say what the tables of the syntax and the kinds of findings say, and their examples and links are
+// right.
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <regex>
@@ -60,6 +62,21 @@ TEST(Documents, PrintAPartBetweenItsLinesAndLeaveTheRest) {
             "alone |\n"
             "# end\n"
             "after\n");
+}
+
+TEST(Documents, PrintTheKindsOfFindings) {
+  const std::string text = with_parts(
+      "<!-- printed from the kinds of findings: table -->\n<!-- end -->\n"
+      "<!-- printed from the kinds of findings: descriptions -->\n<!-- end -->\n");
+  EXPECT_NE(
+      text.find("\n| [`byte-order-mark`](#byte-order-mark) | error | byte-order mark in front of the command |\n"),
+      text.npos);
+  EXPECT_NE(text.find("\n### byte-order-mark\n\nerror: **byte-order mark in front of the command**\n\n"), text.npos);
+  EXPECT_NE(text.find("\nAn option file:\n\n```\n\\xEF\\xBB\\xBFconnect ov odm -debugdevice deviceNr 2\n```\n"),
+            text.npos);
+  EXPECT_NE(text.find("\n```\n\\t\nconnect ov odm -debugdevice deviceNr 2\n```\n"), text.npos);
+  EXPECT_NE(text.find("\n```\nconnect ov odm -debugdevice deviceNr 2\\r\n```\n"), text.npos);
+  EXPECT_NE(text.find("\nThere are no comments in an option file. "), text.npos);
 }
 
 TEST(Documents, RefuseAPartThatThereIsNot) {
@@ -131,21 +148,35 @@ TEST(Documents, HaveAnExampleForEveryTargetAndConnection) {
 
 // --- Links ---
 
+std::set<std::string> headings(const std::string& document) {
+  std::set<std::string> found;
+  for (const std::string& line : lines_of(content(document))) {
+    if (line.starts_with('#')) found.insert(markdown::link_to(line));
+  }
+  return found;
+}
+
 TEST(Documents, LinkToHeadings) {
   EXPECT_EQ(markdown::link_to("### -comm, -port"), "#-comm--port");
   EXPECT_EQ(markdown::link_to("### Virtual platform: `vpconnect ov`"), "#virtual-platform-vpconnect-ov");
 
-  const std::string text = content("docs/connect-command.md");
-  std::set<std::string> headings;
-  for (const std::string& line : lines_of(text)) {
-    if (line.starts_with('#')) headings.insert(markdown::link_to(line));
+  // "](file#heading)", one of them or both; what is elsewhere begins with a scheme.
+  const std::regex link(R"(\]\(([a-zA-Z0-9_./-]*)(#[^)]*)?\))");
+  for (const std::string document :
+       {"README.md", "CONTRIBUTING.md", "docs/connect-command.md", "docs/design-file.md", "docs/findings.md",
+        "docs/glossary.md", "docs/library.md", "docs/performance.md", "docs/qvtcfg.md", "docs/testing.md"}) {
+    SCOPED_TRACE(document);
+    const std::filesystem::path root = PROJECT_SOURCE_DIR;
+    const std::string text = content(document);
+    for (std::sregex_iterator found(text.begin(), text.end(), link), end; found != end; ++found) {
+      const std::string file = (*found)[1];
+      const std::string heading = (*found)[2];
+      const std::filesystem::path target =
+          file.empty() ? std::filesystem::path(document) : std::filesystem::path(document).parent_path() / file;
+      EXPECT_TRUE(exists(root / target)) << found->str();
+      EXPECT_TRUE(heading.empty() || headings(target.string()).contains(heading)) << found->str();
+    }
   }
-  const std::regex link(R"(\]\((#[^)]*)\))");
-  std::size_t count = 0;
-  for (std::sregex_iterator found(text.begin(), text.end(), link), end; found != end; ++found, ++count) {
-    EXPECT_TRUE(headings.contains((*found)[1])) << (*found)[1];
-  }
-  EXPECT_NE(count, 0U);
 }
 
 }  // namespace

@@ -1,0 +1,76 @@
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "SdkDebugDialog/Diagnosis.h"
+#include "docs/tables/markdown.h"
+#include "docs/tables/print.h"
+
+namespace SdkDebugDialog {
+namespace {
+
+const char* name(Severity severity) {
+  switch (severity) {
+    case Severity::error:
+      return "error";
+    case Severity::warning:
+      return "warning";
+    case Severity::note:
+      return "note";
+  }
+  return "";
+}
+
+// The texts have words of the command in single quotes, and no apostrophes.
+std::string with_code(std::string_view text) {
+  std::string out(text);
+  for (char& c : out) {
+    if (c == '\'') c = '`';
+  }
+  return out;
+}
+
+// What would not be seen is spelled, but for line feeds between lines.
+std::string visible(std::string_view text) {
+  if (text.ends_with('\n')) text.remove_suffix(1);
+  std::string out;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (c == '\n' || (byte >= ' ' && byte < 0x7F)) {
+      out += c;
+    } else if (c == '\t' || c == '\r') {
+      out += c == '\t' ? "\\t" : "\\r";
+    } else {
+      char spelled[5];
+      std::snprintf(spelled, sizeof spelled, "\\x%02X", byte);
+      out += spelled;
+    }
+  }
+  return out;
+}
+
+std::string heading(const FindingKind& kind) { return "### " + std::string(kind.code); }
+
+}  // namespace
+
+std::string print_finding_table() {
+  std::vector<markdown::Row> rows;
+  for (const FindingKind& kind : finding_kinds()) {
+    rows.push_back({'[' + markdown::code(kind.code) + "](" + markdown::link_to(heading(kind)) + ')',
+                    name(kind.severity), std::string(kind.title)});
+  }
+  return markdown::table({"code", "severity", "what is wrong"}, rows);
+}
+
+std::string print_finding_descriptions() {
+  std::string text;
+  for (const FindingKind& kind : finding_kinds()) {
+    text += '\n' + heading(kind) + "\n\n" + name(kind.severity) + ": **" + std::string(kind.title) + "**\n\n" +
+            with_code(kind.meaning) + "\n\n" + (kind.exampleKind == TextKind::optionFile ? "An option file:\n\n" : "") +
+            "```\n" + visible(kind.example) + "\n```\n\n" + with_code(kind.advice) + '\n';
+  }
+  return text + '\n';
+}
+
+}  // namespace SdkDebugDialog
