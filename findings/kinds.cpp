@@ -30,7 +30,7 @@ const std::vector<FindingKind>& kinds() {
        .meaning = "The word after the head names the kind of processor, such as 'ov' for a soft processor or 'ppc' "
                   "for a PowerPC. This one is not known, or does not belong to this head: after 'vpconnect' only "
                   "'ov' can stand.",
-       .example = "connect mips hw -debugdevice deviceNr 2",
+       .example = "connect arm9 hw -debugdevice deviceNr 2",
        .advice = "Write one of the targets that the message lists."},
       {.code = "unknown-connection",
        .severity = Severity::error,
@@ -255,8 +255,8 @@ const std::vector<FindingKind>& kinds() {
        .title = "number with something behind it",
        .meaning = "The reader takes the digits at the front of the word and ignores the rest, without a message.",
        .example = "connect ov odm -debugdevice deviceNr 2,",
-       .advice = "Remove what is not a part of the number. A hexadecimal number begins with '0x', and a number has "
-                 "no commas, points or underscores in it."},
+       .advice = "Remove what is not a part of the number. There are no commas, points or underscores in it, and a "
+                 "hexadecimal number begins with '0x'."},
       {.code = "unit-ignored",
        .severity = Severity::warning,
        .title = "unit that is ignored",
@@ -270,7 +270,8 @@ const std::vector<FindingKind>& kinds() {
        .title = "number in octal",
        .meaning = "A number that begins with 0 is octal: '010' is 8, and '08' is 0, since 8 is no octal digit.",
        .example = "connect ov odm -debugdevice deviceNr 010",
-       .advice = "Remove the zeros in front; write '0x' in front if the number is hexadecimal."},
+       .advice = "Write the number without the zero in front: '8' for what is read now, or '10' if that is meant. A "
+                 "hexadecimal number begins with '0x'."},
       {.code = "negative-number",
        .severity = Severity::warning,
        .title = "negative number",
@@ -349,7 +350,7 @@ const std::vector<FindingKind>& kinds() {
        .meaning = "This is accepted and then forgotten: '-quiet', '-noattach', '-writeonly' and '-pfsl' set "
                   "nothing, and neither does an option that none of its keywords follows.",
        .example = "connect ov odm -quiet -debugdevice deviceNr 2",
-       .advice = "It can stay; without it the command means the same."},
+       .advice = "Remove it; without it the command means the same."},
       {.code = "missing-frequency",
        .severity = Severity::warning,
        .title = "cable without a frequency",
