@@ -5,6 +5,7 @@
 #include <boost/filesystem/path.hpp>
 #include <string_view>
 
+#include "util/guarded_file.h"
 #include "util/regular_file.h"
 #include "util/replace_file.h"
 
@@ -50,6 +51,14 @@ std::string read_option_line(const std::string& processor) {
 
 bool write_option_file(const std::string& processor, const std::string& text) {
   return replace_file(option_path(processor), text);
+}
+
+Expected<void> replace_option_file(const std::string& path, std::string_view expected, std::string_view text) {
+  const FileContent content = {.exists = true, .bytes = std::string(expected), .error = {}};
+  const ReplaceResult replaced = replace_file_if_unchanged(path, content, text);
+  if (replaced.result == Replaced::done) return {};
+  if (replaced.result == Replaced::failed) return Error{ErrorCode::file, path + ": " + replaced.error, {}};
+  return Error{ErrorCode::changedMeanwhile, path + ": the file has changed since it was read; read it again", {}};
 }
 
 }  // namespace SdkDebugDialog

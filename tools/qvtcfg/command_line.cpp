@@ -111,6 +111,27 @@ void take_diff(CLI::App& app, Arguments& a) {
   app.add_option("B", a.diff_with, "The same; without it, the defaults of A come first")->type_name("");
 }
 
+void take_check(CLI::App& app, Arguments& a) {
+  app.add_option("TEXT", a.operands,
+                 "What to check: the option file of a processor of the design, a file, the option files of a folder, "
+                 "or - for standard input; without it, the option files of the working folder")
+      ->type_name("");
+  app.add_option("--as", a.text_kind,
+                 "What standard input or a file of another name holds: command (as a rule from standard input), file "
+                 "(an option file, as a rule in a file) or cable (the options of cable and chain)")
+      ->type_name("KIND")
+      ->check(CLI::IsMember({"command", "file", "cable"}));
+  app.add_option("--format", a.format, "How to answer: text, short (a line for each finding), json or sarif")
+      ->type_name("FORMAT")
+      ->check(CLI::IsMember({"text", "short", "json", "sarif"}));
+  app.add_flag("--strict", a.strict, "Exit with 3 for warnings as well");
+  CLI::Option* const fix = app.add_flag("--fix", a.fix, "Make the fixes that are safe, in the files");
+  app.add_flag("--dry-run", a.dry_run, "Show what --fix would change and store nothing")->needs(fix);
+  app.add_option("--explain", a.explain, "Explain the findings with this code; all codes without it")
+      ->type_name("CODE")
+      ->expected(0, 1);
+}
+
 void take_cable_parse(CLI::App& app, Arguments& a) {
   take_text(app, a, "The options of cable and chain, in quotes; - for standard input");
   take_changed(app, a);
@@ -138,6 +159,12 @@ std::string program_help() {
          "5 diff found a difference, or --dry-run --exit-code that something would change\n\n"
          "A design is a JSON file: docs/design-file.md describes it, and the schema design-file.schema.json is\n"
          "installed in share/SdkDebugDialog.";
+}
+
+std::string check_help() {
+  return "A word that is both a processor and a file is the processor. The processor of an option file is told by the\n"
+         "file's name, qvt_NAME.opt, when there is a design.\n\n"
+         "Exit codes: 0 nothing found or warnings only, 3 errors, 4 a file cannot be read or written";
 }
 
 // --- The table of subcommands ---
@@ -175,6 +202,8 @@ constexpr Command kCommands[] = {
      run_unset},
     {"copy", "Copy the settings of a processor to others", "qvtcfg copy cpu0 cpu1 cpu2 --dry-run", take_copy, run_copy},
     {"diff", "Compare settings", "qvtcfg diff cpu0 'connect ov sim'", take_diff, run_diff},
+    {"check", "Find what is wrong with option files and connect commands", "qvtcfg check --strict", take_check,
+     run_check, check_help},
     {"cables", "List the cables that are known", "qvtcfg --json cables", take_nothing, run_cables},
     {"cable", "Read and write the options of cable and chain, without a design",
      "qvtcfg cable format --type zarvek_platformusb", take_nothing, nullptr, nullptr, kCableCommands,

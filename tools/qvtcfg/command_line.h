@@ -34,6 +34,11 @@ struct Arguments {
   bool dry_run = false;
   bool exit_code = false;
   bool force = false;
+  std::optional<std::string> text_kind;  // command, file or cable
+  std::string format = "text";           // of check
+  bool strict = false;
+  bool fix = false;
+  std::optional<std::string> explain;  // the code of a finding; empty: all
 
   // A path relative to the working directory (-C), as seen from the directory where qvtcfg was started.
   std::string seen_from_outside(const std::string& path) const;
@@ -48,9 +53,13 @@ ExitCode run_set(const Arguments& arguments, Output& out);
 ExitCode run_unset(const Arguments& arguments, Output& out);
 ExitCode run_copy(const Arguments& arguments, Output& out);
 ExitCode run_diff(const Arguments& arguments, Output& out);
+ExitCode run_check(const Arguments& arguments, Output& out);
 ExitCode run_cables(const Arguments& arguments, Output& out);
 ExitCode run_cable_parse(const Arguments& arguments, Output& out);
 ExitCode run_cable_format(const Arguments& arguments, Output& out);
+
+// Of check: explains a finding, or lists all codes for "all" and an empty text.
+ExitCode explain_finding(const std::string& code, bool json, Output& out);
 
 using Run = ExitCode (*)(const Arguments&, Output&);
 

@@ -1,5 +1,6 @@
 #include "output.h"
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -13,19 +14,33 @@
 namespace qvtcfg {
 namespace {
 
-bool colours_wanted() {
+bool colours_wanted(int descriptor) {
   const char* const none = std::getenv("NO_COLOR");
   const char* const terminal = std::getenv("TERM");
-  return isatty(STDOUT_FILENO) != 0 && (none == nullptr || *none == '\0') && terminal != nullptr &&
+  return isatty(descriptor) != 0 && (none == nullptr || *none == '\0') && terminal != nullptr &&
          std::strcmp(terminal, "dumb") != 0;
 }
 
 // In the order of Style.
-constexpr const char* kEscapes[] = {"\033[1m", "\033[1m", "\033[2m", "\033[31m", "\033[32m"};
+constexpr const char* kEscapes[] = {"\033[1m",    "\033[1m",    "\033[2m",    "\033[31m", "\033[32m",
+                                    "\033[1;31m", "\033[1;35m", "\033[1;36m", "\033[34m"};
+
+std::size_t columns_of(int descriptor) {
+  constexpr std::size_t kNarrowest = 40;
+  winsize size = {};
+  const bool known = ioctl(descriptor, TIOCGWINSZ, &size) == 0 && size.ws_col != 0;
+  return known ? std::max<std::size_t>(size.ws_col, kNarrowest) : Look().columns;
+}
 
 }  // namespace
 
-Output::Output() : m_colour(colours_wanted()) {}
+Look look_of(int descriptor) { return {colours_wanted(descriptor), columns_of(descriptor)}; }
+
+std::string Look::styled(Style style, const std::string& text) const {
+  return colour ? kEscapes[static_cast<int>(style)] + text + "\033[0m" : text;
+}
+
+Output::Output() : m_look(look_of(STDOUT_FILENO)) {}
 
 void Output::line(std::string_view text) {
   m_text += text;
@@ -46,10 +61,6 @@ void Output::table(const std::vector<std::vector<std::string>>& rows) {
     text += row.back();
     line(&row == &rows.front() ? styled(Style::kHeading, text) : text);
   }
-}
-
-std::string Output::styled(Style style, const std::string& text) const {
-  return m_colour ? kEscapes[static_cast<int>(style)] + text + "\033[0m" : text;
 }
 
 void Output::flush() {

@@ -11,11 +11,22 @@ namespace qvtcfg {
 
 using Json = nlohmann::ordered_json;
 
-enum class Style { kHeading, kSet, kDefault, kRemoved, kAdded };
+enum class Style { kHeading, kSet, kDefault, kRemoved, kAdded, kError, kWarning, kNote, kGutter };
+
+// How a stream shows text.
+struct Look {
+  bool colour = false;
+  std::size_t columns = 100;
+
+  // The text with the escape sequences of the style, if colours are used.
+  std::string styled(Style style, const std::string& text) const;
+};
+
+// Colours are used only on a terminal, and not with NO_COLOR or TERM=dumb.
+Look look_of(int descriptor);
 
 class Output {
  public:
-  // Uses colours only on a terminal, and not with NO_COLOR or TERM=dumb.
   Output();
 
   void line(std::string_view text);
@@ -24,14 +35,14 @@ class Output {
   // Columns as wide as their widest cell; the first row is the heading.
   void table(const std::vector<std::vector<std::string>>& rows);
 
-  // The text with the escape sequences of the style, if colours are used.
-  std::string styled(Style style, const std::string& text) const;
+  const Look& look() const { return m_look; }
+  std::string styled(Style style, const std::string& text) const { return m_look.styled(style, text); }
 
   // Writes the buffer; throws Failure on an error.
   void flush();
 
  private:
-  bool m_colour;
+  Look m_look;
   std::string m_text;
 };
 

@@ -153,19 +153,6 @@ bool is_given(const Plan& plan, const Difference& difference) {
   return plan.given.empty() || std::ranges::find(plan.given, difference.setting) != plan.given.end();
 }
 
-// A line of the difference: the sign, then the words, with every run of changed words in brackets.
-std::string marked(const char* sign, const std::vector<MarkedWord>& words, Style style, const Output& out) {
-  std::vector<std::string> runs = {sign};
-  for (auto word = words.begin(); word != words.end();) {
-    std::vector<std::string> run;
-    const bool changed = word->changed;
-    for (; word != words.end() && word->changed == changed; ++word) run.push_back(visible(word->word));
-    const std::string text = join(run, " ");
-    runs.push_back(changed ? out.styled(style, "[" + text + "]") : text);
-  }
-  return join(runs, " ");
-}
-
 void print_lines(const Target& target, Output& out) {
   const std::string before = command_in(target.file.content.value_or(""));
   const std::string after = target.command();
@@ -175,9 +162,7 @@ void print_lines(const Target& target, Output& out) {
   } else if (before.empty()) {
     out.line("+ " + out.styled(Style::kAdded, visible(after)));
   } else {
-    const WordDiff diff = word_diff(before, after);
-    out.line(marked("-", diff.before, Style::kRemoved, out));
-    out.line(marked("+", diff.after, Style::kAdded, out));
+    print_word_diff(before, after, out);
   }
 }
 

@@ -23,7 +23,8 @@ constexpr Lead kLeads[] = {
     {0xF0, 0xF0, 4, 0x90, 0xBF}, {0xF1, 0xF3, 4, 0x80, 0xBF}, {0xF4, 0xF4, 4, 0x80, 0x8F},
 };
 
-// The length in bytes of the printable character at the start of the text; 0 when there is none.
+}  // namespace
+
 std::size_t character_length(std::string_view text) {
   const unsigned char lead = byte_at(text, 0);
   if (lead < 0x80) return lead >= 0x20 && lead != 0x7F ? 1 : 0;
@@ -37,8 +38,6 @@ std::size_t character_length(std::string_view text) {
   }
   return row->length;
 }
-
-}  // namespace
 
 std::string visible(std::string_view text) {
   std::string out;

@@ -13,6 +13,9 @@ namespace qvtcfg {
 
 inline constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
 
+// The length in bytes of the printable character at the start of the text; 0 when there is none.
+std::size_t character_length(std::string_view text);
+
 // The text with control bytes and invalid UTF-8 escaped as \xNN.
 std::string visible(std::string_view text);
 

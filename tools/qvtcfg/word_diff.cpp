@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "output.h"
 #include "text.h"
 
 namespace qvtcfg {
@@ -26,6 +27,19 @@ Lengths common_lengths(const std::vector<MarkedWord>& a, const std::vector<Marke
   return common;
 }
 
+// A line of the difference: the sign, then the words, with every run of changed words in brackets.
+std::string marked(const char* sign, const std::vector<MarkedWord>& words, Style style, const Output& out) {
+  std::vector<std::string> runs = {sign};
+  for (auto word = words.begin(); word != words.end();) {
+    std::vector<std::string> run;
+    const bool changed = word->changed;
+    for (; word != words.end() && word->changed == changed; ++word) run.push_back(visible(word->word));
+    const std::string text = join(run, " ");
+    runs.push_back(changed ? out.styled(style, "[" + text + "]") : text);
+  }
+  return join(runs, " ");
+}
+
 }  // namespace
 
 WordDiff word_diff(const std::string& before, const std::string& after) {
@@ -41,6 +55,12 @@ WordDiff word_diff(const std::string& before, const std::string& after) {
     }
   }
   return diff;
+}
+
+void print_word_diff(const std::string& before, const std::string& after, Output& out) {
+  const WordDiff diff = word_diff(before, after);
+  out.line(marked("-", diff.before, Style::kRemoved, out));
+  out.line(marked("+", diff.after, Style::kAdded, out));
 }
 
 }  // namespace qvtcfg

@@ -1,0 +1,63 @@
+// qvtcfg check
+
+#include <algorithm>
+
+#include "check_subjects.h"
+#include "check_texts.h"
+#include "command_line.h"
+#include "failure.h"
+#include "report.h"
+#include "session.h"
+#include "text.h"
+
+namespace qvtcfg {
+namespace {
+
+constexpr const char* kSeeHelp = "; see 'qvtcfg check --help'";
+
+void require_sense(const Arguments& arguments) {
+  const bool standard_input = std::ranges::find(arguments.operands, "-") != arguments.operands.end();
+  if (arguments.fix && standard_input) {
+    throw Failure(kUsage, std::string("--fix: standard input cannot be changed; name files") + kSeeHelp);
+  }
+}
+
+Report checked(const Arguments& arguments) {
+  const auto design = load_design_if_any(arguments);
+  Subjects subjects = find_subjects(arguments, design);
+  Report report;
+  report.texts = std::move(subjects.texts);
+  report.defaults = std::move(subjects.defaults);
+  report.dry_run = arguments.dry_run;
+  check_texts(report.texts, design);
+  if (arguments.fix) fix_texts(report.texts, design, arguments.dry_run);
+  compare_texts(report.texts);
+  return report;
+}
+
+void print(const Report& report, const std::string& format, Output& out) {
+  if (format == "text") {
+    print_text(report, out);
+  } else if (format == "short") {
+    print_short(report, out);
+  } else {
+    out.json(format == "json" ? report_json(report) : sarif(report));
+  }
+}
+
+}  // namespace
+
+ExitCode run_check(const Arguments& arguments, Output& out) {
+  if (arguments.explain) return explain_finding(*arguments.explain, arguments.json, out);
+  require_sense(arguments);
+  const Report report = checked(arguments);
+  for (const Checked& text : report.texts) {
+    if (!text.error.empty()) complain(text.subject.shown + ": " + text.error);
+  }
+  print(report, arguments.json ? "json" : arguments.format, out);
+  const Totals totals = report.totals();
+  if (totals.unreadable != 0) return kFile;
+  return totals.errors != 0 || (arguments.strict && totals.warnings != 0) ? kNotUnderstood : kDone;
+}
+
+}  // namespace qvtcfg

@@ -1,0 +1,143 @@
+#include "check_subjects.h"
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <memory>
+#include <string_view>
+
+#include "session.h"
+#include "text.h"
+
+namespace qvtcfg {
+namespace {
+
+using SdkDebugDialog::Design;
+using SdkDebugDialog::TextKind;
+
+constexpr std::string_view kPrefix = "qvt_";
+constexpr std::string_view kSuffix = ".opt";
+
+std::string_view file_name(std::string_view path) { return path.substr(path.rfind('/') + 1); }
+
+bool is_option_file_name(std::string_view name) {
+  return name.size() > kPrefix.size() + kSuffix.size() && name.starts_with(kPrefix) && name.ends_with(kSuffix);
+}
+
+std::string processor_of(std::string_view path) {
+  std::string_view name = file_name(path);
+  if (!is_option_file_name(name)) return "";
+  name.remove_prefix(kPrefix.size());
+  name.remove_suffix(kSuffix.size());
+  return std::string(name);
+}
+
+TextKind kind_of(const std::optional<std::string>& given, TextKind otherwise) {
+  if (!given) return otherwise;
+  if (*given == "command") return TextKind::command;
+  return *given == "cable" ? TextKind::cableText : TextKind::optionFile;
+}
+
+// The option files in a folder; with the folder's own name in front.
+std::vector<std::string> option_files_in(const std::string& folder) {
+  std::vector<std::string> paths;
+  const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
+  if (!stream) return paths;
+  const std::string start = folder == "." ? "" : folder.ends_with('/') ? folder : folder + "/";
+  while (const dirent* const entry = readdir(stream.get())) {
+    if (is_option_file_name(entry->d_name)) paths.push_back(start + entry->d_name);
+  }
+  return paths;
+}
+
+class Finder {
+ public:
+  Finder(const Arguments& arguments, const std::optional<Design>& design) : m_arguments(arguments), m_design(design) {}
+
+  void add_working_directory() {
+    for (const std::string& path : option_files_in("etc")) add_file(path);
+  }
+
+  void add(const std::string& operand) {
+    if (operand == "-") {
+      add_text({"", "<stdin>", kind_of(m_arguments.text_kind, TextKind::command), ""}, "");
+    } else if (m_design && m_design->find(operand)) {
+      add_processor(operand);
+    } else {
+      add_path(operand);
+    }
+  }
+
+  Subjects found() && {
+    std::vector<Checked>& texts = m_found.texts;
+    const auto shown = [](const Checked& checked) -> const std::string& { return checked.subject.shown; };
+    std::ranges::stable_sort(texts, {}, shown);
+    texts.erase(std::ranges::unique(texts, {}, shown).begin(), texts.end());
+    std::ranges::sort(m_found.defaults);
+    m_found.defaults.erase(std::ranges::unique(m_found.defaults).begin(), m_found.defaults.end());
+    return std::move(m_found);
+  }
+
+ private:
+  void add_text(Subject subject, std::string error) {
+    Checked& checked = m_found.texts.emplace_back();
+    checked.subject = std::move(subject);
+    checked.error = std::move(error);
+  }
+
+  void add_file(const std::string& path, const std::string& error = "") {
+    const std::string processor = processor_of(path);
+    const TextKind kind =
+        processor.empty() ? kind_of(m_arguments.text_kind, TextKind::optionFile) : TextKind::optionFile;
+    add_text({path, m_arguments.seen_from_outside(path), kind, m_design ? processor : ""}, error);
+  }
+
+  void add_processor(const std::string& name) {
+    const std::string path = std::string("etc/").append(kPrefix).append(name).append(kSuffix);
+    struct stat status = {};
+    if (lstat(path.c_str(), &status) != 0 && errno == ENOENT) {
+      m_found.defaults.push_back(name);
+    } else {
+      add_file(path);
+    }
+  }
+
+  void add_path(const std::string& operand) {
+    struct stat status = {};
+    if (stat(operand.c_str(), &status) != 0) {
+      std::string error = std::strerror(errno);
+      const bool name = m_design && errno == ENOENT && operand.find('/') == std::string::npos;
+      if (name) error = "no such file; " + m_design->find(operand).error().message;
+      add_file(operand, error);
+    } else if (S_ISDIR(status.st_mode)) {
+      add_folder(operand);
+    } else {
+      add_file(operand);
+    }
+  }
+
+  void add_folder(const std::string& folder) {
+    std::vector<std::string> paths = option_files_in(folder);
+    if (paths.empty()) paths = option_files_in(folder + (folder.ends_with('/') ? "etc" : "/etc"));
+    if (paths.empty()) add_file(folder, "no option file qvt_NAME.opt is in this folder or in etc below it");
+    for (const std::string& path : paths) add_file(path);
+  }
+
+  const Arguments& m_arguments;
+  const std::optional<Design>& m_design;
+  Subjects m_found;
+};
+
+}  // namespace
+
+Subjects find_subjects(const Arguments& arguments, const std::optional<Design>& design) {
+  Finder finder(arguments, design);
+  if (arguments.operands.empty()) finder.add_working_directory();
+  for (const std::string& operand : arguments.operands) finder.add(operand);
+  return std::move(finder).found();
+}
+
+}  // namespace qvtcfg

@@ -1,0 +1,23 @@
+#pragma once
+
+// Which texts qvtcfg check checks.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "SdkDebugDialog/Configuration.h"
+#include "checked.h"
+#include "command_line.h"
+
+namespace qvtcfg {
+
+struct Subjects {
+  std::vector<Checked> texts;         // sorted by what is shown, each once; with an error for what cannot be found
+  std::vector<std::string> defaults;  // processors without an option file
+};
+
+// Those that the operands name; without operands, the option files of the working directory.
+Subjects find_subjects(const Arguments& arguments, const std::optional<SdkDebugDialog::Design>& design);
+
+}  // namespace qvtcfg

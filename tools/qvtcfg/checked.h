@@ -1,0 +1,75 @@
+#pragma once
+
+// What qvtcfg check has found.
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "SdkDebugDialog/Configuration.h"
+#include "SdkDebugDialog/Diagnosis.h"
+#include "lines.h"
+
+namespace qvtcfg {
+
+// A text to be checked.
+struct Subject {
+  std::string path;   // of the file, relative to the working directory; empty for standard input
+  std::string shown;  // the same for output
+  SdkDebugDialog::TextKind kind = SdkDebugDialog::TextKind::optionFile;
+  std::string processor;  // that the file's name tells; empty if it tells none, or if there is no design
+};
+
+// A finding, and the text in which the places of its remarks are.
+struct Located {
+  SdkDebugDialog::Finding finding;
+  std::optional<std::size_t> remarks_in;  // the index of another text; not set: the same one
+};
+
+struct Checked {
+  Subject subject;
+  std::string text;
+  bool cut = false;   // the file is larger: its first bytes were checked
+  std::string error;  // why the file cannot be read, or not be written
+  std::vector<Located> findings;
+  // What an option file means that is understood, to be compared with others.
+  std::optional<SdkDebugDialog::Configuration> configuration;
+  std::vector<SdkDebugDialog::Finding> fixed;  // those whose safe fixes are applied, with places in the text before
+  std::string before;                          // that text
+
+  // The lines of the text; made when they are needed.
+  const Lines& lines() const {
+    if (!m_lines) m_lines = std::make_unique<Lines>(text);
+    return *m_lines;
+  }
+
+ private:
+  mutable std::unique_ptr<Lines> m_lines;
+};
+
+struct Totals {
+  std::size_t files = 0;
+  std::size_t errors = 0;
+  std::size_t warnings = 0;
+  std::size_t notes = 0;
+  std::size_t files_with = 0;  // files in which something was found
+  std::size_t fixable = 0;     // findings that --fix puts right
+  std::size_t fixed = 0;       // findings that it has put right
+  std::size_t unreadable = 0;
+};
+
+// The answer of a check.
+struct Report {
+  std::vector<Checked> texts;         // sorted by what is shown
+  std::vector<std::string> defaults;  // processors without an option file
+  bool dry_run = false;
+
+  Totals totals() const;
+};
+
+// Of a file, no more is read.
+inline constexpr std::size_t kMostBytes = std::size_t{16} << 20;
+
+}  // namespace qvtcfg

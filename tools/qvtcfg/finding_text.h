@@ -1,0 +1,38 @@
+#pragma once
+
+// A finding as a compiler shows it:
+//
+//   etc/qvt_cpu0.opt:1:16: error: no option '-cabel'; did you mean '-cable'? [unknown-option]
+//     1 | connect ov odm -cabel type zarvek_platformusb
+//       |                ^^^^^^
+//       = fix: write '-cable'
+//     + | connect ov odm -cable type zarvek_platformusb
+
+#include <string>
+#include <string_view>
+
+#include "SdkDebugDialog/Diagnosis.h"
+#include "lines.h"
+#include "output.h"
+
+namespace qvtcfg {
+
+// A text in which something was found.
+struct Source {
+  std::string_view name;  // the path of a file, for example
+  const Lines* lines = nullptr;
+};
+
+std::string_view severity_name(SdkDebugDialog::Severity severity);
+
+// The message with the remedy.
+std::string whole_message(const SdkDebugDialog::Finding& finding);
+
+// NAME:LINE:COLUMN: SEVERITY: MESSAGE; REMEDY [CODE]
+std::string finding_line(const SdkDebugDialog::Finding& finding, const Source& source, const Look& look = {});
+
+// The line, then those with the place, the remarks and the fixes. The places of the remarks are in a text of their own.
+std::string finding_text(const SdkDebugDialog::Finding& finding, const Source& source, const Source& remarks,
+                         const Look& look);
+
+}  // namespace qvtcfg
