@@ -54,12 +54,14 @@ class Tool : public testing::Test {
   std::filesystem::path m_folder;  // contains design.json, a copy of large.json, and an empty etc/
 };
 
-// An error message: a line that begins with "qvtcfg: " and contains the text. Only a note and the losses may follow.
+// An error message: a line that begins with "qvtcfg: " and contains the text. Only errors with their places, a note and
+// the losses may follow.
 MATCHER_P(IsComplaint, text, "") {
   if (!arg.starts_with("qvtcfg: ") || !arg.ends_with("\n") || arg.find(text) == std::string::npos) return false;
   for (std::size_t end = arg.find('\n'); end + 1 < arg.size(); end = arg.find('\n', end + 1)) {
     const std::string_view rest = std::string_view(arg).substr(end + 1);
-    if (!rest.starts_with("qvtcfg: note: ") && !rest.starts_with("  ")) return false;
+    const bool finding = rest.substr(0, rest.find('\n')).find(": error: ") != std::string_view::npos;
+    if (!finding && !rest.starts_with("qvtcfg: note: ") && !rest.starts_with("  ")) return false;
   }
   return true;
 }

@@ -54,10 +54,10 @@ std::vector<GivenChange> changes_of(const CableArguments& given) {
 ExitCode run_cable_parse(const Arguments& arguments, Output& out) {
   const GivenText given = given_text(arguments.text, "the text given");
   require_text(given);
-  Configuration configuration =
-      require(Configuration::read({}, given.text, TextKind::cableText), given.source,
-              "; expected the options -cable, -configdevice, -debugdevice and -bscan with their keywords and values; "
-              "'qvtcfg cable format' prints such a text");
+  Configuration configuration = require(
+      Configuration::read({}, given.text, TextKind::cableText), TextRead{given.source, given.text, TextKind::cableText},
+      "; expected the options -cable, -configdevice, -debugdevice and -bscan with their keywords and values; "
+      "'qvtcfg cable format' prints such a text");
   find_debug_device(configuration);
   const Choice choice{.changed_only = arguments.changed_only, .all = arguments.all, .cable_text_only = true};
   if (arguments.json) {

@@ -150,7 +150,7 @@ void check_texts(std::vector<Checked>& texts, const std::optional<Design>& desig
 
 void fix_texts(std::vector<Checked>& texts, const std::optional<Design>& design, bool dry_run) {
   for (Checked& checked : texts) {
-    if (checked.cut || std::ranges::none_of(checked.findings, has_safe_fix)) continue;
+    if (!checked.can_be_fixed() || std::ranges::none_of(checked.findings, has_safe_fix)) continue;
     std::vector<Finding> fixable;
     for (const Located& located : checked.findings) {
       if (has_safe_fix(located)) fixable.push_back(located.finding);

@@ -39,6 +39,9 @@ struct Checked {
   std::vector<SdkDebugDialog::Finding> fixed;  // those whose safe fixes are applied, with places in the text before
   std::string before;                          // that text
 
+  // Standard input and a part of a file cannot be replaced.
+  bool can_be_fixed() const { return !subject.path.empty() && !cut; }
+
   // The lines of the text; made when they are needed.
   const Lines& lines() const {
     if (!m_lines) m_lines = std::make_unique<Lines>(text);

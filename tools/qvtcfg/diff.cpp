@@ -18,6 +18,7 @@ using SdkDebugDialog::Configuration;
 using SdkDebugDialog::Design;
 using SdkDebugDialog::Difference;
 using SdkDebugDialog::Processor;
+using SdkDebugDialog::TextKind;
 
 // A processor's option file, another option file, or a command.
 struct Side {
@@ -57,13 +58,15 @@ Processor processor_of(const Side& side, const Side& other, const std::optional<
   if (!side.processor.name().empty()) return side.processor;
   if (!other.processor.name().empty()) return other.processor;
   if (!design) return {};
-  const std::string command = side.file ? command_in(side.file->content.value_or("")) : side.command.text;
-  return require(design->identify(command), side.name);
+  if (!side.file) return require(design->identify(side.command.text), TextRead{side.name, side.command.text});
+  const std::string content = side.file->content.value_or("");
+  return require(design->identify(command_in(content)), TextRead{side.name, content, TextKind::optionFile});
 }
 
 Configuration configuration_of(const Side& side, const Processor& processor) {
   if (side.file) return open_configuration(processor, *side.file);
-  return require(Configuration::read(processor, side.command.text), side.name);
+  return require(Configuration::read(processor, side.command.text),
+                 TextRead{side.name, side.command.text, TextKind::command, processor});
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "SdkDebugDialog/Configuration.h"
+#include "SdkDebugDialog/Diagnosis.h"
 #include "SdkDebugDialog/Expected.h"
 
 namespace qvtcfg {
@@ -21,6 +22,14 @@ enum ExitCode : int {
   kNotUnderstood = 3,  // a connect command or option text is not understood
   kFile = 4,           // error on a file, a folder or standard output
   kDiffers = 5,        // diff found a difference; something would change
+};
+
+// A text that is read, for the errors in it.
+struct TextRead {
+  std::string name;  // where it comes from
+  std::string text;
+  SdkDebugDialog::TextKind kind = SdkDebugDialog::TextKind::command;
+  SdkDebugDialog::Processor processor = {};
 };
 
 // what() names the subject, the error and what to do. It is printed as one line after "qvtcfg: ".
@@ -37,19 +46,28 @@ class Failure : public std::runtime_error {
   Failure(const SdkDebugDialog::Error& error, const std::string& subject, const std::string& advice = "",
           std::string_view name = {});
 
+  // The same for a text that was read; its name is the subject. When the text is not understood, all its errors are
+  // shown.
+  Failure(const SdkDebugDialog::Error& error, TextRead text, const std::string& advice, std::string_view name);
+
   ExitCode code() const { return m_code; }
   const std::string& engine_text() const { return m_engine_text; }
   const std::vector<SdkDebugDialog::Loss>& losses() const { return m_losses; }
+  const TextRead& text() const { return m_text; }
+  // The errors of the text.
+  const std::vector<SdkDebugDialog::Finding>& findings() const { return m_findings; }
 
  private:
   ExitCode m_code;
   std::string m_engine_text;
   std::vector<SdkDebugDialog::Loss> m_losses;
+  TextRead m_text;
+  std::vector<SdkDebugDialog::Finding> m_findings;
 };
 
-// The value, or its error as Failure.
-template <class Value>
-Value require(SdkDebugDialog::Expected<Value> expected, const std::string& subject, const std::string& advice = "",
+// The value, or its error as Failure. The subject is a name or the text that was read.
+template <class Value, class Subject>
+Value require(SdkDebugDialog::Expected<Value> expected, const Subject& subject, const std::string& advice = "",
               std::string_view name = {}) {
   if (!expected) throw Failure(expected.error(), subject, advice, name);
   if constexpr (!std::is_void_v<Value>) return std::move(*expected);

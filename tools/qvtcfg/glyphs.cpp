@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
 
 #include "text.h"
 
@@ -17,9 +16,6 @@ struct Range {
   std::uint32_t first, last;
 };
 
-// Characters that a terminal shows in no column, or that change the order of others.
-constexpr Range kFormats[] = {{0xAD, 0xAD},     {0x061C, 0x061C}, {0x180E, 0x180E}, {0x200B, 0x200F},
-                              {0x2028, 0x202E}, {0x2060, 0x206F}, {0xFEFF, 0xFEFF}, {0xFFF9, 0xFFFB}};
 // Marks that join the character before them.
 constexpr Range kMarks[] = {{0x0300, 0x036F}, {0x0483, 0x0489}, {0x0591, 0x05BD}, {0x064B, 0x065F}, {0x1AB0, 0x1AFF},
                             {0x1DC0, 0x1DFF}, {0x20D0, 0x20FF}, {0xFE00, 0xFE0F}, {0xFE20, 0xFE2F}};
@@ -31,13 +27,6 @@ constexpr Range kWide[] = {{0x1100, 0x115F},   {0x2E80, 0x303E},   {0x3041, 0x33
 template <std::size_t count>
 bool is_in(const Range (&ranges)[count], std::uint32_t character) {
   return std::ranges::any_of(ranges, [&](const Range& r) { return r.first <= character && character <= r.last; });
-}
-
-std::uint32_t code_point(std::string_view character) {
-  constexpr unsigned char kLeadBits[] = {0, 0x7F, 0x1F, 0x0F, 0x07};
-  std::uint32_t value = static_cast<unsigned char>(character[0]) & kLeadBits[character.size()];
-  for (const char c : character.substr(1)) value = value << 6U | (static_cast<unsigned char>(c) & 0x3FU);
-  return value;
 }
 
 Glyph spelled(std::string shown, std::size_t bytes) {
@@ -70,12 +59,8 @@ Glyph first_glyph(std::string_view text) {
   if (bytes == 0) return spelled_byte(text[0]);
   std::string character(text.substr(0, bytes));
   if (bytes == 1) return {std::move(character), 1, 1, false};
+  if (is_unseen(character)) return spelled(visible(character), bytes);
   const std::uint32_t value = code_point(character);
-  if (is_in(kFormats, value)) {
-    char code[11];
-    std::snprintf(code, sizeof code, "\\u%04x", value);
-    return spelled(code, bytes);
-  }
   return {std::move(character), bytes, is_in(kMarks, value) ? 0U : is_in(kWide, value) ? 2U : 1U, false};
 }
 

@@ -9,9 +9,11 @@
 
 #include "command_line.h"
 #include "failure.h"
+#include "finding_text.h"
 #include "output.h"
 #include "platform/ComMsgMgr.h"
 #include "print.h"
+#include "report.h"
 #include "text.h"
 
 namespace qvtcfg {
@@ -53,13 +55,30 @@ void print_json(const Failure& failure) {
   Json error = {
       {"code", failure.code()}, {"message", one_line(failure.what())}, {"losses", losses_json(failure.losses())}};
   if (!failure.engine_text().empty()) error["note"] = one_line(failure.engine_text());
+  if (!failure.findings().empty()) {
+    const Lines lines(failure.text().text);
+    Json& findings = error["findings"] = Json::array();
+    for (const auto& finding : failure.findings()) {
+      findings.push_back(finding_json(finding, lines, failure.text().name, lines));
+    }
+  }
   Output out;
   out.json({{"error", std::move(error)}});
   out.flush();
 }
 
+void print_findings(const Failure& failure) {
+  const Lines lines(failure.text().text);
+  const Source source{failure.text().name, &lines};
+  const Look look = look_of(STDERR_FILENO);
+  for (const auto& finding : failure.findings()) {
+    std::fputs(finding_text(finding, source, source, look).c_str(), stderr);
+  }
+}
+
 ExitCode report(const Failure& failure, bool json) {
   complain(failure.what());
+  print_findings(failure);
   if (!failure.engine_text().empty()) complain("note: the engine says: " + one_line(failure.engine_text()));
   for (const auto& loss : failure.losses()) {
     std::fprintf(stderr, "  %s: %s\n", one_line(loss.what).c_str(), one_line(loss.why).c_str());

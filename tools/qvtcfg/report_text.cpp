@@ -91,7 +91,7 @@ Totals Report::totals() const {
       ++(finding.severity == Severity::error     ? totals.errors
          : finding.severity == Severity::warning ? totals.warnings
                                                  : totals.notes);
-      if (std::ranges::any_of(finding.fixes, &Fix::safe)) ++totals.fixable;
+      if (checked.can_be_fixed() && std::ranges::any_of(finding.fixes, &Fix::safe)) ++totals.fixable;
     }
   }
   return totals;

@@ -24,6 +24,7 @@ using SdkDebugDialog::kLongestLine;
 using SdkDebugDialog::Loss;
 using SdkDebugDialog::OnLoss;
 using SdkDebugDialog::Processor;
+using SdkDebugDialog::TextKind;
 
 constexpr const char* kDefaultDesign = "design.json";
 
@@ -82,7 +83,10 @@ Configuration open_configuration(const Processor& processor, const OptionFile& f
   if (!configuration && configuration.error().code == ErrorCode::file) {
     advice = "; it contains the settings of the processor: make it readable first";
   }
-  if (!configuration) throw Failure(configuration.error(), file.shown, advice, file.path);
+  if (!configuration) {
+    const TextRead text{file.shown, file.content.value_or(""), TextKind::optionFile, processor};
+    throw Failure(configuration.error(), text, advice, file.path);
+  }
   if (line.size() > kLongestLine) {
     complain("warning: " + file.shown + ": the command is longer than " + std::to_string(kLongestLine) +
              " characters, and the rest is not read");

@@ -56,8 +56,10 @@ std::string advice_for(const Processor& processor) {
 // suit the processor that it tells.
 Configuration read_command(const Processor& processor, const GivenText& given, const Arguments& arguments) {
   auto configuration = Configuration::read(processor, given.text);
-  if (!configuration && !arguments.processor && !arguments.write) configuration = Configuration::read({}, given.text);
-  return require(configuration, given.source, advice_for(processor));
+  const bool alone = !configuration && !arguments.processor && !arguments.write;
+  if (alone) configuration = Configuration::read({}, given.text);
+  const TextRead text{given.source, given.text, TextKind::command, alone ? Processor() : processor};
+  return require(configuration, text, advice_for(processor));
 }
 
 // What is stored, as it is read back; as it was given if it is not read back.
@@ -69,7 +71,7 @@ Configuration stored(const Configuration& given, const Edit& edit) {
 Processor processor_of(const Arguments& arguments, const std::optional<Design>& design, const GivenText& command) {
   if (arguments.processor) return find_processor(*design, *arguments.processor);
   if (!design) return {};
-  return require(design->identify(command.text), command.source, advice_for({}));
+  return require(design->identify(command.text), TextRead{command.source, command.text}, advice_for({}));
 }
 
 void require_processor(const Processor& processor, bool has_design) {

@@ -23,6 +23,13 @@ constexpr Lead kLeads[] = {
     {0xF0, 0xF0, 4, 0x90, 0xBF}, {0xF1, 0xF3, 4, 0x80, 0xBF}, {0xF4, 0xF4, 4, 0x80, 0x8F},
 };
 
+struct Range {
+  std::uint32_t first, last;
+};
+
+constexpr Range kUnseen[] = {{0xAD, 0xAD},     {0x061C, 0x061C}, {0x180E, 0x180E}, {0x200B, 0x200F},
+                             {0x2028, 0x202E}, {0x2060, 0x206F}, {0xFEFF, 0xFEFF}, {0xFFF9, 0xFFFB}};
+
 }  // namespace
 
 std::size_t character_length(std::string_view text) {
@@ -39,11 +46,27 @@ std::size_t character_length(std::string_view text) {
   return row->length;
 }
 
+std::uint32_t code_point(std::string_view character) {
+  constexpr unsigned char kLeadBits[] = {0, 0x7F, 0x1F, 0x0F, 0x07};
+  std::uint32_t value = static_cast<unsigned char>(character[0]) & kLeadBits[character.size()];
+  for (const char c : character.substr(1)) value = value << 6U | (static_cast<unsigned char>(c) & 0x3FU);
+  return value;
+}
+
+bool is_unseen(std::string_view character) {
+  const std::uint32_t value = code_point(character);
+  return std::ranges::any_of(kUnseen, [&](const Range& r) { return r.first <= value && value <= r.last; });
+}
+
 std::string visible(std::string_view text) {
   std::string out;
   while (!text.empty()) {
     std::size_t length = character_length(text);
-    if (length > 0) {
+    if (length > 1 && is_unseen(text.substr(0, length))) {
+      char spelled[7];
+      std::snprintf(spelled, sizeof spelled, "\\u%04x", code_point(text.substr(0, length)) & 0xFFFFU);
+      out += spelled;
+    } else if (length > 0) {
       out += text.substr(0, length);
     } else {
       char spelled[5];

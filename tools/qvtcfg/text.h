@@ -16,7 +16,14 @@ inline constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
 // The length in bytes of the printable character at the start of the text; 0 when there is none.
 std::size_t character_length(std::string_view text);
 
-// The text with control bytes and invalid UTF-8 escaped as \xNN.
+// The code of a character.
+std::uint32_t code_point(std::string_view character);
+
+// Whether a terminal shows nothing for a character, or shows others in another order for it: a byte-order mark, a mark
+// for the direction of writing.
+bool is_unseen(std::string_view character);
+
+// The text with control bytes and invalid UTF-8 escaped as \xNN, and unseen characters as \uNNNN.
 std::string visible(std::string_view text);
 
 // The text on one line for a message: runs of white space replaced by one blank, escaped by visible(), and truncated to
