@@ -19,7 +19,7 @@ Subject::Subject(std::string_view t, TextKind k, const Processor& p)
 Finding& Report::add(Code code, const Place& place, std::string message, std::string remedy) {
   const FindingKind& kind = kind_of(code);
   const std::size_t count = ++m_counts[static_cast<std::size_t>(code)];
-  m_hasErrors = m_hasErrors || kind.severity == Severity::error;
+  if (kind.severity == Severity::error) ++m_errors;
   Finding finding;
   finding.kind = &kind;
   finding.severity = kind.severity;
@@ -45,17 +45,10 @@ bool Report::has(const Place& place) const {
                              [&](const Finding& f) { return f.begin == place.begin && f.end == place.end; });
 }
 
-Finding& Report::add_warning(Code code, const Place& place, std::string message, std::string remedy) {
-  const bool hadErrors = m_hasErrors;
-  Finding& finding = add(code, place, std::move(message), std::move(remedy));
-  finding.severity = Severity::warning;
-  m_hasErrors = hadErrors;
-  return finding;
-}
-
-void Report::make_error(Finding& finding) {
-  finding.severity = Severity::error;
-  m_hasErrors = true;
+void Report::set_severity(Finding& finding, Severity severity) {
+  if (finding.severity == Severity::error) --m_errors;
+  if (severity == Severity::error) ++m_errors;
+  finding.severity = severity;
 }
 
 std::vector<Finding> Report::findings() && {

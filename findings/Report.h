@@ -41,14 +41,11 @@ class Report {
   // The finding can be completed until the next one is added. Its severity is that of its kind.
   Finding& add(Code code, const Place& place, std::string message, std::string remedy = {});
 
-  // For a kind that is an error as a rule.
-  Finding& add_warning(Code code, const Place& place, std::string message, std::string remedy = {});
-
-  bool has_errors() const { return m_hasErrors; }
+  std::size_t errors() const { return m_errors; }
   // Whether something was found at this very place.
   bool has(const Place& place) const;
-  // For a finding whose severity was changed to an error.
-  void make_error(Finding& finding);
+  // For a finding whose severity is not that of its kind.
+  void set_severity(Finding& finding, Severity severity);
 
   // In the order of their places.
   std::vector<Finding> findings() &&;
@@ -57,7 +54,7 @@ class Report {
   std::vector<Finding> m_findings;
   std::array<std::size_t, static_cast<std::size_t>(Code::tooMany) + 1> m_counts{};
   Finding m_unlisted;
-  bool m_hasErrors = false;
+  std::size_t m_errors = 0;
 };
 
 // A fix that replaces one place.

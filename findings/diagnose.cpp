@@ -16,18 +16,47 @@ namespace SdkDebugDialog {
 
 namespace {
 
+// Whether the reader does not see the end of the line.
+bool is_cut(const Subject& subject) {
+  if (subject.kind != TextKind::optionFile || subject.line.end - subject.line.begin < kLongestLine) return false;
+  return subject.line.end < subject.text.size() && subject.text[subject.line.end] != '\n';
+}
+
 // Where the reader does not see the end of a line, every byte more or less changes what it sees.
 bool would_be_cut(const Subject& subject, const std::vector<Finding>& findings) {
   if (subject.kind != TextKind::optionFile) return false;
   std::size_t size = subject.line.end - subject.line.begin;
-  const bool isCut = size == kLongestLine;
   for (const Finding& finding : findings) {
     for (const Fix& fix : finding.fixes) {
       if (!fix.safe) continue;
       for (const Replacement& r : fix.replacements) size += r.text.size();
     }
   }
-  return isCut || size > kLongestLine;
+  return size > kLongestLine || is_cut(subject);
+}
+
+// An error at the very end of a line that is cut comes from the cut. It is then the one finding about the cut.
+void blame_cut(const Subject& subject, std::vector<Finding>& findings) {
+  const std::string_view line = subject.in(subject.line);
+  const std::size_t end = subject.line.begin + line.find_last_not_of(" \t\n\v\f\r") + 1;
+  const auto isAtEnd = [&](const Finding& f) { return f.severity == Severity::error && f.end == end; };
+  const auto first = std::ranges::find_if(findings, isAtEnd);
+  if (first == findings.end()) return;
+  Finding blamed = *first;
+  blamed.kind = &kind_of(Code::lineTooLong);
+  blamed.message = "the line is cut here, behind " + std::to_string(kLongestLine) + " bytes";
+  blamed.remedy = "write a shorter command";
+  blamed.fixes.clear();
+  const auto position = first - findings.begin();
+  std::erase_if(findings, [&](const Finding& f) { return isAtEnd(f) || f.kind == blamed.kind; });
+  findings.insert(findings.begin() + position, std::move(blamed));
+}
+
+void check_whole(const Subject& subject, const Examined& examined, const State& state, Report& report) {
+  check_rewriting(subject, examined, state, report);
+  const Said* const device = examined.said(kDebugdevice, "deviceNr");
+  check_chain(state.chain, examined.devices, state.processor.debugDevice,
+              device != nullptr ? std::optional(device->value) : std::nullopt, report);
 }
 
 }  // namespace
@@ -38,17 +67,16 @@ std::vector<Finding> diagnose(std::string_view text, TextKind kind, const Proces
   // An option file with nothing in it stands for the defaults.
   if (kind != TextKind::optionFile || subject.line.begin != subject.line.end) {
     const Examined examined = examine(subject, report);
-    if (!report.has_errors()) {
+    if (report.errors() == 0) {
       const State state = read_state(processor, text, kind).state;
       check_effects(subject, examined, state, report);
-      check_rewriting(subject, examined, state, report);
-      const Said* const device = examined.said(kDebugdevice, "deviceNr");
-      check_chain(state.chain, examined.devices, state.processor.debugDevice,
-                  device != nullptr ? std::optional(device->value) : std::nullopt, report);
+      // The end of a line that is cut means something else than it says.
+      if (!is_cut(subject)) check_whole(subject, examined, state, report);
     }
   }
   if (kind == TextKind::optionFile) check_file(subject, report);
   std::vector<Finding> findings = std::move(report).findings();
+  if (is_cut(subject)) blame_cut(subject, findings);
   if (would_be_cut(subject, findings)) {
     for (Finding& finding : findings) {
       for (Fix& fix : finding.fixes) fix.safe = false;

@@ -28,6 +28,7 @@ std::string why_no_effect(const Said& said, const State& state) {
 
 void check_given_twice(const Examined& examined, Report& report) {
   for (const SaidTwice& twice : examined.twice) {
+    if (sets_nothing(*twice.option)) continue;
     const std::string name = quoted(twice.row->name.text());
     Finding& finding =
         report.add(Code::givenTwice, twice.first, name + " is given again behind this, so that this one has no effect",
@@ -71,9 +72,10 @@ void check_frequency(const Examined& examined, const State& state, Report& repor
   if (!why_not(row_named("frequency"), state).empty()) return;
   const bool isAccepted = std::ranges::find(type.accepted, state.cable.frequency) != type.accepted.end();
   const Said* const frequency = examined.said(kCable, "frequency");
-  if (frequency != nullptr && !isAccepted) {
-    add_frequency(type, state.cable.frequency, *frequency, report).severity = Severity::warning;
-  } else if (frequency == nullptr && state.cable.frequency == 0) {
+  if (frequency != nullptr && (isAccepted || report.has(frequency->value))) return;
+  if (frequency != nullptr) {
+    report.set_severity(add_frequency(type, state.cable.frequency, *frequency, report), Severity::warning);
+  } else if (state.cable.frequency == 0) {
     report.add(Code::missingFrequency, cable->optionWord, "the cable has no frequency, which then is 0",
                type.defaultFrequency != 0
                    ? "write 'frequency " + std::to_string(type.defaultFrequency) + "', or put '-cable' at the end"
@@ -91,7 +93,7 @@ void check_esn(const Examined& examined, const State& state, Report& report) {
   }
 }
 
-// A FPU in the text counts only without a design.
+// An FPU in the text counts only without a design.
 void check_fpu(const Subject& subject, const Examined& examined, const State& state, Report& report) {
   const Said* const fpu = examined.said(kDebugdevice, "fpuType");
   if (fpu == nullptr || !state.hasDesign) return;
@@ -99,8 +101,8 @@ void check_fpu(const Subject& subject, const Examined& examined, const State& st
       std::ranges::find_if(fpu->row->words, [&](const Word& w) { return same_word(w.name.text(), fpu->text); });
   if (word == fpu->row->words.end() || word->value == state.processor.fpuType) return;
   const std::string has = state.processor.fpuType == kFpuNone     ? "no FPU"
-                          : state.processor.fpuType == kFpuSingle ? "a FPU of single precision"
-                                                                  : "a FPU of double precision";
+                          : state.processor.fpuType == kFpuSingle ? "an FPU of single precision"
+                                                                  : "an FPU of double precision";
   report.add(Code::fpuFromDesign, fpu->value,
              quoted(subject.processor.name()) + " has " + has + " in the design, which counts",
              "remove 'fpuType', or see whether the text is for another processor");
@@ -124,6 +126,7 @@ void check_family(const Subject& subject, const Examined& examined, const State&
 }
 
 // Options that set nothing, and settings that do not apply. A whole option is one finding.
+constexpr const char* kRemove = "remove it, or change what it depends on";
 void check_applies(const Examined& examined, const State& state, Report& report) {
   for (auto first = examined.lasts.begin(); first != examined.lasts.end();) {
     const auto isOther = [&](const Said& said) { return said.group != first->group; };
@@ -134,7 +137,7 @@ void check_applies(const Examined& examined, const State& state, Report& report)
       report.add(Code::noEffect, first->optionWord, option + " is accepted and has no effect", "remove it");
     } else if (!why.empty() &&
                std::all_of(first, end, [&](const Said& said) { return why_no_effect(said, state) == why; })) {
-      report.add(Code::doesNotApply, first->optionWord, option + " has no effect: " + why);
+      report.add(Code::doesNotApply, first->optionWord, option + " has no effect: " + why, kRemove);
     } else {
       for (auto said = first; said != end; ++said) {
         const std::string reason = why_no_effect(*said, state);
@@ -162,8 +165,10 @@ Finding& add_frequency(const CableType& type, std::uint32_t hz, const Said& freq
     finding.fixes.push_back(fix("write " + std::to_string(value) + " (" + text(value) + ")", false, frequency.value,
                                 std::to_string(value)));
   };
-  // A number with a unit tells what was meant.
-  const std::optional<std::int64_t> meant = parse_number(frequency.text, Scale::decimal, "Hz");
+  // A number with a unit, or with separators of thousands, tells what was meant.
+  std::string typed(frequency.text);
+  std::erase_if(typed, [](char c) { return c == ',' || c == '\'' || c == '"'; });
+  const std::optional<std::int64_t> meant = parse_number(typed, Scale::decimal, "Hz");
   const auto found = std::ranges::find(type.accepted, meant.value_or(0));
   if (found != type.accepted.end()) {
     propose(*found);

@@ -74,9 +74,9 @@ class Examiner : public Walker {
   // --- What the walk tells ---
 
   bool refused(Slot slot) override;
-  bool lone_dash() override;
+  bool lone_dash(bool isValueDue) override;
   void missing(Slot slot) override;
-  void value_ahead(const Keyword& row) override;
+  void value_ahead() override;
   void found(const WalkedWord& word, std::string_view spelled) override;
 
   // --- Words that are refused ---
@@ -85,10 +85,14 @@ class Examiner : public Walker {
   std::string no_such(const Refusal& refusal, std::string_view word) const;
   Code code_of(const Refusal& refusal, std::string_view word) const;
   void apply(Finding& finding, Repair repair, std::size_t words = 1);
+  bool begins_option(const Piece& word);
   bool without_mark();
   bool written_head();
+  bool with_head();
   bool is_known_elsewhere(const Refusal& at, std::string_view word) const;
   void report_unknown(const Refusal& refusal);
+  Finding& report_dash(const Piece& dash);
+  bool unit_apart(Finding& finding) const;
 
   // --- Values ---
 
@@ -117,10 +121,13 @@ class Examiner : public Walker {
   bool m_isLost = false;      // nothing certain can be said about the words up to the next option
   bool m_isAccepted = false;  // the value ahead
   Place m_lastWord;
+  const Keyword* m_lastRow = nullptr;  // of the last value
+  std::string_view m_lastValue;
   Place m_keyword;  // the last keyword, or option with a value of its own
   Place m_option;
   bool m_endsWithCable = false;     // no option has followed the last "-cable" so far
   bool m_hasFrequency = false;      // in the last "-cable"
+  std::size_t m_errorsBefore = 0;   // before the last option
   bool m_isCableUncertain = false;  // a mistake in a "-cable" was not repaired
   Examined m_said;
 };
@@ -175,7 +182,13 @@ bool Examiner::refused(Slot slot) {
   const Piece word = *ahead();
   const bool isOption = is_option_word(word.text);
   if (slot == Slot::option && isOption) m_isLost = false;
-  if (m_isLost) return false;
+  if (m_isLost) return slot == Slot::option && begins_option(word);
+  if (slot == Slot::keyword && ahead(1) != nullptr && ahead(1)->text == "-") {
+    // The reader takes both words before it looks at the first one.
+    m_isLost = true;
+    report_dash(*ahead(1));
+    return false;
+  }
   if (isOption && slot == Slot::keyword) {
     std::optional<Repair> found = without_dash(keyword_names(here().option->group), word);
     if (!found) return false;
@@ -183,13 +196,12 @@ bool Examiner::refused(Slot slot) {
     return true;
   }
   if (isOption && slot == Slot::value) {
-    const Keyword* const row = here().keyword != nullptr ? here().keyword : value_row(*here().option);
-    std::optional<Repair> found = without_dash(value_names(*row), word);
+    std::optional<Repair> found = without_dash(value_names(*row()), word);
     if (!found) return false;
-    apply(m_report.add(Code::missingValue, m_keyword, name_of(*row) + " has no value"), std::move(*found));
+    apply(m_report.add(Code::missingValue, m_keyword, name_of(*row()) + " has no value"), std::move(*found));
     return true;
   }
-  if (slot == Slot::head && (without_mark() || written_head())) return true;
+  if (slot == Slot::head && (without_mark() || written_head() || with_head())) return true;
   const Refusal at = refusal(slot);
   std::optional<Repair> found;
   if (!is_known_elsewhere(at, word.text)) found = repair(at, word);
@@ -201,15 +213,31 @@ bool Examiner::refused(Slot slot) {
   return false;
 }
 
+// Behind words that nothing is known about, an option without its dash is noticed all the same.
+bool Examiner::begins_option(const Piece& word) {
+  const Refusal at = refusal(Slot::option);
+  std::optional<Repair> found = with_one_dash(at, word);
+  if (!found) return false;
+  m_isLost = false;
+  apply(m_report.add(code_of(at, word.text), place_of(word), no_such(at, word.text)), std::move(*found));
+  return true;
+}
+
 bool Examiner::without_mark() {
   Piece word = *ahead();
   if (word.begin != m_subject.line.begin || !word.text.starts_with(kByteOrderMark)) return false;
   Finding& finding = m_report.add(Code::byteOrderMark, place_of(word), "the text begins with a byte-order mark");
-  const Place mark = {word.begin, word.begin + kByteOrderMark.size()};
-  word = {word.text.substr(kByteOrderMark.size()), mark.end, word.end};
+  Place mark = {word.begin, word.begin};
+  while (m_subject.text.substr(mark.end).starts_with(kByteOrderMark)) mark.end += kByteOrderMark.size();
+  const std::string_view behind = word.text.substr(mark.end - mark.begin);
+  const auto spaces = static_cast<std::size_t>(std::ranges::find_if_not(behind, is_space) - behind.begin());
+  word = {behind.substr(spaces), mark.end + spaces, word.end};
   std::vector<Piece> rest;
   if (!word.text.empty()) rest.push_back(word);
-  apply(finding, {"store it without one", fix("remove the byte-order mark", true, mark, ""), std::move(rest)});
+  // Without it, a line of blanks may be another line's turn.
+  const std::string_view line = m_subject.in({mark.end, m_subject.line.end});
+  const bool isSafe = std::ranges::find_if_not(line, is_space) != line.end();
+  apply(finding, {"store it without one", fix("remove the byte-order mark", isSafe, mark, ""), std::move(rest)});
   return true;
 }
 
@@ -228,34 +256,49 @@ bool Examiner::written_head() {
   return true;
 }
 
+// A target alone: the head is missing.
+bool Examiner::with_head() {
+  const Piece word = *ahead();
+  const Head& connect = heads().front();
+  if (!is_one_of(word.text, target_names(source(), &connect))) return false;
+  const std::string name(connect.name.text());
+  Finding& finding = m_report.add(Code::incompleteCommand, place_of(word),
+                                  "the head is missing before the target " + quoted(word.text));
+  const Place before = {word.begin, word.begin};
+  apply(finding, {"write " + quoted(name) + " before it",
+                  fix("write " + quoted(name), false, before, name + " "),
+                  {{connect.name.text(), word.begin, word.begin}, word}});
+  return true;
+}
+
 // A keyword of another option, or an option of other places: rather misplaced than misspelt.
 bool Examiner::is_known_elsewhere(const Refusal& at, std::string_view word) const {
   if (at.slot == Slot::keyword) return !options_with_keyword(word, *at.run).empty();
   return at.slot == Slot::option && is_option_word(word) && !places_of_option(word, *at.run).empty();
 }
 
-// A dash with a blank behind it, in front of an option's name.
-bool Examiner::lone_dash() {
-  if (m_isLost) return false;
+// A dash with a blank behind it, in front of an option's name; or any other dash that stands alone.
+bool Examiner::lone_dash(bool isValueDue) {
   const Piece dash = *ahead();
   const Piece* const next = ahead(1);
-  Finding& finding = m_report.add(Code::loneDash, place_of(dash), "a dash stands alone");
-  const Option* const option = next != nullptr && run() != nullptr
-                                   ? find_option(std::string("-").append(next->text), *run(), letter_case())
-                                   : nullptr;
+  const Option* option = nullptr;
+  if (next != nullptr && run() != nullptr && !isValueDue) {
+    option = find_option(std::string("-").append(next->text), *run(), letter_case());
+  }
   if (option == nullptr) {
-    m_isLost = run() == nullptr;
-    finding.remedy = "remove it, or write an option or a value";
-    finding.fixes.push_back(fix("remove the dash", false, place_of(dash), ""));
+    if (!m_isLost) report_dash(dash);
+    m_isLost = m_isLost || run() == nullptr;
     return false;
   }
   const std::string_view name = option->name.text();
-  apply(finding,
-        {"did you mean " + quoted(name) + "?",
-         fix("remove the blank behind the dash", true, {dash.end, next->begin}, ""),
-         {{name, dash.begin, next->end}}},
-        2);
+  const Fix joined = fix("remove the blank behind the dash", true, {dash.end, next->begin}, "");
+  apply(report_dash(dash), {"did you mean " + quoted(name) + "?", joined, {{name, dash.begin, next->end}}}, 2);
   return true;
+}
+
+Finding& Examiner::report_dash(const Piece& dash) {
+  return m_report.add(Code::loneDash, place_of(dash), "a dash stands alone",
+                      "remove it, or write an option or a value");
 }
 
 // Reports the next word with what can be said about it, and perhaps a guess.
@@ -274,18 +317,27 @@ void Examiner::report_unknown(const Refusal& at) {
     m_isLost = false;
     return;
   }
-  if (at.slot == Slot::head && (word.starts_with('#') || word.starts_with("//") || word.starts_with(';'))) {
+  if (word.starts_with('#') || word.starts_with("//")) {
     change_kind(Code::comment);
-    finding.message = "a comment stands in the place of the command";
-    finding.remedy = "there are no comments: remove the line";
+    finding.message = "there are no comments in a command";
+    finding.remedy = at.slot == Slot::head ? "remove the line" : "remove the comment";
+    return;
+  }
+  if (word == "\\") {
+    finding.remedy = "a command cannot go on in another line: write it in one";
     return;
   }
   if (at.slot == Slot::keyword && same_word(word, own_pins_keyword())) {
     change_kind(Code::writtenNotRead);
     finding.message = "the writer writes " + quoted(kOwnPinsWritten.substr(1)) + ", which the reader refuses";
     finding.remedy = "write 'jtagport cpu'";
+    const Piece* const value = ahead(1);
+    if (value != nullptr) {
+      finding.fixes.push_back(fix("write 'jtagport cpu'", false, {ahead()->begin, value->end}, "jtagport cpu"));
+    }
     return;
   }
+  if (unit_apart(finding)) return;
   if (at.slot == Slot::option) {
     const auto isJoined = [&](const Option& option) {
       const Keyword* const row = value_row(option);
@@ -309,7 +361,8 @@ void Examiner::report_unknown(const Refusal& at) {
     m_isLost = at.slot != Slot::keyword;
     return;
   }
-  if (at.slot == Slot::keyword && is_one_of(word, head_names(Source::command))) {
+  if (at.slot == Slot::keyword &&
+      (is_one_of(word, head_names(Source::command)) || is_one_of(word, target_names(Source::command, nullptr)))) {
     finding.remedy = "a second command begins here: keep one";
     return;
   }
@@ -333,8 +386,24 @@ void Examiner::report_unknown(const Refusal& at) {
   finding.remedy = "accepted here: " + listed(at.names, "and");
 }
 
+// "12 MHz": the unit is no keyword and no option.
+bool Examiner::unit_apart(Finding& finding) const {
+  if (m_lastRow == nullptr || m_subject.in(m_lastWord) != m_lastValue) return false;
+  const Keyword& row = *m_lastRow;
+  const Scale scale = row.kind == Kind::address ? Scale::binary : Scale::decimal;
+  std::string both(m_lastValue);
+  both.append(m_subject.in({finding.begin, finding.end}));
+  const std::optional<std::int64_t> number = parse_number(both, scale, row.unit);
+  if (!number || *row.unit == '\0') return false;
+  const std::string text = std::to_string(*number);
+  finding.remedy = "numbers have no unit: write " + text;
+  finding.fixes.push_back(fix("write " + text, false, {m_lastWord.begin, finding.end}, text));
+  return true;
+}
+
 void Examiner::missing(Slot slot) {
-  if (m_isLost) return;
+  // A dash in the place of the value has been reported.
+  if (m_isLost || (slot == Slot::value && m_subject.in(m_lastWord) == "-")) return;
   if (slot == Slot::value) return missing_value();
   const Place whole = m_lastWord == Place() ? m_subject.line : m_lastWord;
   const Place place = ahead() != nullptr ? place_of(*ahead()) : whole;
@@ -356,7 +425,7 @@ void Examiner::missing(Slot slot) {
 
 void Examiner::missing_value() {
   const Option& option = *here().option;
-  const Keyword& row = here().keyword != nullptr ? *here().keyword : *value_row(option);
+  const Keyword& row = *Walker::row();
   const std::string instead = ahead() != nullptr ? "; " + quoted(ahead()->text) + " is an option" : "";
   if (option.takes == Takes::valueOrNone || option.takes == Takes::tokenOrNone) {
     m_report.add(Code::skippedOption, m_keyword,
@@ -402,10 +471,11 @@ bool Examiner::separator_in_place_of_value(const Keyword& row) {
   return true;
 }
 
-void Examiner::value_ahead(const Keyword& row) {
+void Examiner::value_ahead() {
+  const Keyword& row = *Walker::row();
   m_isAccepted = false;
   if (m_isLost) return;
-  separator_in_place_of_value(row);
+  while (separator_in_place_of_value(row)) continue;
   for (;;) {
     const Piece word = *ahead();
     if (accepts(row, word.text)) break;
@@ -536,6 +606,7 @@ void Examiner::begin_option(const WalkedWord& word) {
   m_option = m_keyword;
   m_endsWithCable = &option.group == &kCable;
   m_hasFrequency = false;
+  m_errorsBefore = m_report.errors();
   if (&option.group == &kConfigdevice) {
     m_device = {};
     m_said.devices.push_back({m_option, {}, {}, {}});
@@ -552,10 +623,12 @@ void Examiner::say(const WalkedWord& word, const Keyword& row, const Place& valu
   } else {
     const bool isAgain = !row.repeats && (!isOfDevice || before->group == word.group);
     if (isAgain && m_said.twice.size() <= Report::kMostOfOneKind) {
-      m_said.twice.push_back({before->word, said.word, &row});
+      m_said.twice.push_back({before->word, said.word, &row, word.option});
     }
     *before = said;
   }
+  m_lastRow = &row;
+  m_lastValue = text;
   const std::string_view name = row.name.text();
   if (m_endsWithCable && name == "frequency") m_hasFrequency = true;
   if (!isOfDevice) return;
@@ -570,10 +643,14 @@ void Examiner::say(const WalkedWord& word, const Keyword& row, const Place& valu
 void Examiner::check_end_of_cable() {
   m_said.endsWithCable = m_endsWithCable;
   if (!m_endsWithCable || m_isLost || m_isCableUncertain || check_cable(m_imp, m_hasFrequency)) return;
+  // An error that the reader came to before comes first here as well.
+  const bool isFirst = m_report.errors() == m_errorsBefore;
   if (m_hasFrequency && (m_imp.cable->type != Engine::ZARVEK_PLUGIN || !m_imp.cable->modulename.empty())) {
-    return report_frequency(*m_said.said(kCable, "frequency"));
+    Said frequency = *m_said.said(kCable, "frequency");
+    if (!isFirst) frequency.value = m_lastWord;
+    return report_frequency(frequency);
   }
-  m_report.add(Code::missingModule, m_option, "a plug-in cable needs its module",
+  m_report.add(Code::missingModule, isFirst ? m_option : m_lastWord, "a plug-in cable needs its module",
                "write 'modulename' and the name of the module");
 }
 

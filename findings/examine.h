@@ -29,6 +29,7 @@ struct SaidTwice {
   Place first;
   Place again;
   const Keyword* row = nullptr;
+  const Option* option = nullptr;
 };
 
 // What is said in a text.

@@ -100,8 +100,9 @@ bool check_bytes(const Subject& subject, Report& report) {
   if (found.marks > 0) {
     std::string message = "a byte-order mark stands inside the file";
     if (found.marks > 1) message.append("; there are ").append(std::to_string(found.marks));
-    report.add_warning(Code::byteOrderMark, {found.firstMark, found.firstMark + kByteOrderMark.size()},
-                       std::move(message), "remove it");
+    Finding& finding = report.add(Code::byteOrderMark, {found.firstMark, found.firstMark + kByteOrderMark.size()},
+                                  std::move(message), "remove it");
+    report.set_severity(finding, Severity::warning);
   }
   return true;
 }

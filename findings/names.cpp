@@ -1,6 +1,8 @@
 #include "findings/names.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 #include "settings/words.h"
 
@@ -16,11 +18,12 @@ bool takes_pairs(const Option& option) { return option.takes == Option::Takes::p
 bool is_cable_type(const Keyword& row) { return &row == kCable.keywords.data(); }
 
 // The texts of a command in which options of the run may stand.
-std::string places_of(const Run& run) {
-  std::string places;
+std::vector<std::string> places_of(const Run& run) {
+  std::vector<std::string> places;
   const auto add_place = [&](std::string_view target, std::string_view connection) {
-    if (!places.empty()) places += ", ";
-    places.append("'").append(target).append(connection.empty() ? "" : " ").append(connection).append("'");
+    std::string place("'");
+    place.append(target).append(connection.empty() ? "" : " ").append(connection).append("'");
+    places.push_back(std::move(place));
   };
   for (const Target& target : targets()) {
     if (target.options == &run) add_place(target.name.text(), {});
@@ -28,8 +31,10 @@ std::string places_of(const Run& run) {
       if (&connection.options == &run) add_place(target.name.text(), connection.name.text());
     }
   }
-  if (places.empty()) places = run.where;
-  std::ranges::replace(places, '`', '\'');
+  if (places.empty()) {
+    places.emplace_back(run.where);
+    std::ranges::replace(places.front(), '`', '\'');
+  }
   return places;
 }
 
@@ -112,16 +117,18 @@ Names options_with_keyword(std::string_view keyword, const Run& run) {
 }
 
 std::string places_of_option(std::string_view name, const Run& run) {
-  std::string places;
+  std::vector<std::string> places;
   for (const Run* const other : kRuns) {
     const bool isThere = std::ranges::any_of(options(), [&](const Option& option) {
       return (option.runs & other->bit) != 0 && same_word(name, option.name.text());
     });
     if (!isThere || other == &run || other == &kCableTextOptions) continue;
-    if (!places.empty()) places += ", ";
-    places += places_of(*other);
+    std::ranges::move(places_of(*other), std::back_inserter(places));
   }
-  return places;
+  if (places.size() < 2) return joined(places, "");
+  const std::string last = std::move(places.back());
+  places.pop_back();
+  return joined(places, ", ") + " and " + last;
 }
 
 }  // namespace SdkDebugDialog

@@ -13,7 +13,8 @@ namespace {
 
 using Takes = Option::Takes;
 
-constexpr std::string_view kSeparators = "=:,;";
+// What others separate words with; the last three are spaces that are no blanks: U+00A0, U+202F and U+3000.
+constexpr std::string_view kSeparators[] = {"=", ":", ",", ";", "\xC2\xA0", "\xE2\x80\xAF", "\xE3\x80\x80"};
 // What word processors make of a dash: U+2010 to U+2015, and the minus sign.
 constexpr std::string_view kOtherDashes[] = {"\xE2\x80\x90", "\xE2\x80\x91", "\xE2\x80\x92", "\xE2\x80\x93",
                                              "\xE2\x80\x94", "\xE2\x80\x95", "\xE2\x88\x92"};
@@ -61,21 +62,35 @@ std::optional<Repair> without_quotes(const Refusal& refusal, const Piece& word) 
   return Repair{"there are no quotes in a command", std::move(fix), {inside}};
 }
 
+// The first separators in a row of the text; empty, at its end, if there are none.
+std::string_view first_separators(std::string_view text) {
+  const auto size_at = [&](std::size_t at) {
+    const auto* const found = std::ranges::find_if(
+        kSeparators, [&](std::string_view separator) { return text.substr(at).starts_with(separator); });
+    return found != std::end(kSeparators) ? found->size() : 0;
+  };
+  std::size_t begin = 0;
+  while (begin < text.size() && size_at(begin) == 0) ++begin;
+  std::size_t end = begin;
+  while (end < text.size() && size_at(end) != 0) end += size_at(end);
+  return text.substr(begin, end - begin);
+}
+
 // "type=", "=type" and "type=zarvek_tcf".
 std::optional<Repair> without_separator(const Refusal& refusal, const Piece& word) {
-  const std::size_t begin = word.text.find_first_of(kSeparators);
-  if (begin == std::string_view::npos) return std::nullopt;
-  const std::size_t end = std::min(word.text.find_first_not_of(kSeparators, begin), word.text.size());
-  const Piece separator = part(word, begin, end - begin);
+  const std::string_view found = first_separators(word.text);
+  if (found.empty()) return std::nullopt;
+  const auto begin = static_cast<std::size_t>(found.data() - word.text.data());
+  const Piece separator = part(word, begin, found.size());
   const Piece front = part(word, 0, begin);
-  const Piece rest = part(word, end);
+  const Piece rest = part(word, begin + found.size());
   const Piece& name = front.text.empty() ? rest : front;
   if (!is_one_of(name.text, refusal.names) && !nearest(name.text, refusal.names).isOneEdit) return std::nullopt;
   const bool isBetween = !front.text.empty() && !rest.text.empty();
   Repair repair;
-  repair.remedy = "words are separated by blanks, not by " + quoted(separator.text);
-  repair.fix = safe_fix(isBetween ? "write a blank for " + quoted(separator.text) : "remove " + quoted(separator.text),
-                        separator.begin, separator.end, isBetween ? " " : "");
+  repair.remedy = not_a_blank(separator.text);
+  repair.fix =
+      safe_fix(isBetween ? "write a blank instead" : "remove it", separator.begin, separator.end, isBetween ? " " : "");
   if (!front.text.empty()) repair.words.push_back(front);
   if (!rest.text.empty()) repair.words.push_back(rest);
   return repair;
@@ -164,7 +179,8 @@ Dashes dashes_of(std::string_view word) {
   }
 }
 
-// An option with two dashes, with none, or with one that a word processor has changed.
+}  // namespace
+
 std::optional<Repair> with_one_dash(const Refusal& refusal, const Piece& word) {
   if (refusal.slot != Slot::option && refusal.slot != Slot::keyword) return std::nullopt;
   const Dashes dashes = dashes_of(word.text);
@@ -182,6 +198,8 @@ std::optional<Repair> with_one_dash(const Refusal& refusal, const Piece& word) {
       did_you_mean(name), safe_fix(title, word.begin, word.begin + dashes.bytes, "-"), {{name, word.begin, word.end}}};
 }
 
+namespace {
+
 // --- Letters ---
 
 std::optional<Repair> with_other_letter(const Refusal& refusal, const Piece& word) {
@@ -195,7 +213,12 @@ std::optional<Repair> with_other_letter(const Refusal& refusal, const Piece& wor
 
 }  // namespace
 
-bool is_separator(std::string_view word) { return word.find_first_not_of(kSeparators) == std::string_view::npos; }
+bool is_separator(std::string_view word) { return first_separators(word) == word; }
+
+std::string not_a_blank(std::string_view separator) {
+  const bool isSpace = static_cast<unsigned char>(separator.front()) >= 0x80;
+  return "words are separated by blanks, not by " + (isSpace ? "a no-break or wide space" : quoted(separator));
+}
 
 Names names_at(const Refusal& refusal) {
   switch (refusal.slot) {

@@ -40,12 +40,16 @@ struct Repair {
 // A separator, quotes, a missing blank, a dash too many or too few, or one letter that differs from a single name.
 std::optional<Repair> repair(const Refusal& refusal, const Piece& word);
 
+// An option with two dashes, with none, or with one that a word processor has changed.
+std::optional<Repair> with_one_dash(const Refusal& refusal, const Piece& word);
+
 // A dash in front of a keyword, or of a value that is one of a few words.
 std::optional<Repair> without_dash(const Names& names, const Piece& word);
 
 inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-// Whether all of the word is characters that others separate words with.
+// Whether all of the word is characters that others separate words with, and the remedy.
 bool is_separator(std::string_view word);
+std::string not_a_blank(std::string_view separator);
 
 }  // namespace SdkDebugDialog

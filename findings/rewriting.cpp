@@ -13,7 +13,10 @@
 namespace SdkDebugDialog {
 namespace {
 
-void check_lost(const Examined& examined, const State& state, const State& readBack, Report& report) {
+constexpr const char* kKeep = "keep the text, or change it in place";
+
+void check_lost(const Subject& subject, const Examined& examined, const State& state, const State& readBack,
+                Report& report) {
   for (const SettingRow* const row : differing(readBack, state)) {
     for (const Said& said : examined.lasts) {
       const Setting* const setting = setting_of(*said.row);
@@ -21,20 +24,21 @@ void check_lost(const Examined& examined, const State& state, const State& readB
       const bool isSetting = setting != nullptr && &told_by(*row->setting) == setting;
       // Of a device most is written; what is never written is lost.
       if (isDevice ? said.row->written.holds != nullptr : !isSetting) continue;
-      if (report.has(said.word) || report.has(said.optionWord)) continue;
-      report.add(Code::lostWhenWritten, said.word,
-                 quoted(said.row->name.text()) + " is lost when the command is written anew: " +
-                     (isDevice ? std::string(said.row->written.words) : why_not_written(*row, state)));
+      if (report.has(said.word) || report.has(said.optionWord) || report.has(said.value)) continue;
+      const Place place = {said.word.begin, std::max(said.word.end, said.value.end)};
+      Finding& finding = report.add(Code::lostWhenWritten, place,
+                                    quoted(subject.in(place)) + " is lost if the command is written anew", kKeep);
+      const std::string why = isDevice ? std::string(said.row->written.words) : why_not_written(*row, state);
+      finding.remarks.push_back({0, 0, "the reason: " + why});
     }
   }
 }
 
-// Where a program would look for the reason.
-Place place_of_not_read(const Examined& examined) {
-  for (const Said& said : examined.lasts) {
-    if (*said.row->notReadBack != '\0') return said.word;
-  }
-  return examined.targetWord;
+// What is known not to be read back, if it is said; null otherwise.
+const Said* not_read_back(const Examined& examined) {
+  const auto found =
+      std::ranges::find_if(examined.lasts, [](const Said& said) { return *said.row->notReadBack != '\0'; });
+  return found != examined.lasts.end() ? &*found : nullptr;
 }
 
 }  // namespace
@@ -44,18 +48,24 @@ void check_rewriting(const Subject& subject, const Examined& examined, const Sta
   if (!written) {
     const Said* const type = examined.said(kCable, "type");
     const bool isCable = type != nullptr && cable_type(state.cable.type).notWritten != nullptr;
-    report.add(Code::cannotBeWritten, isCable ? type->value : examined.targetWord, written.error().message);
+    report.add(Code::cannotBeWritten, isCable ? type->value : examined.targetWord, written.error().message, kKeep);
     return;
   }
   if (*written == subject.in(subject.line)) return;
   const Reading reading = read_state(subject.processor, *written, subject.kind);
-  if (reading.understood) check_lost(examined, state, reading.state, report);
-  const bool isCut = subject.kind == TextKind::optionFile && written->size() > kLongestLine;
-  if (!isCut && reading.understood) return;
-  report.add(Code::notReadBack, place_of_not_read(examined),
-             isCut ? "written anew, the command has " + std::to_string(written->size()) + " bytes, and " +
-                         std::to_string(kLongestLine) + " are read"
-                   : "written anew, the command is not read back: " + not_understood(reading, *written).message);
+  if (reading.understood) check_lost(subject, examined, state, reading.state, report);
+  if (subject.kind == TextKind::optionFile && written->size() > kLongestLine) {
+    report.add(Code::notReadBack, examined.targetWord,
+               "written anew, the command has " + std::to_string(written->size()) + " bytes, and " +
+                   std::to_string(kLongestLine) + " are read",
+               kKeep);
+  } else if (!reading.understood) {
+    const Said* const said = not_read_back(examined);
+    std::string why = said != nullptr ? std::string(": ") + said->row->notReadBack : std::string();
+    std::ranges::replace(why, '`', '\'');
+    report.add(Code::notReadBack, said != nullptr ? said->word : examined.targetWord,
+               "written anew, the command is not read back" + why, kKeep);
+  }
 }
 
 }  // namespace SdkDebugDialog

@@ -54,10 +54,10 @@ void Walker::take(Role role, const Keyword* keyword) {
 }
 
 // The kind of the next word. The readers refuse a lone dash wherever they come to it.
-Token Walker::next() {
+Token Walker::next(bool isValueDue) {
   for (const Piece* piece = ahead(); piece != nullptr; piece = ahead()) {
     if (piece->text != "-") return m_cursor.classify(piece->text);
-    if (!lone_dash()) take(Role::unknown);
+    if (!lone_dash(isValueDue)) take(Role::unknown);
   }
   return Token::end;
 }
@@ -164,13 +164,13 @@ void Walker::what_it_takes(const Option& option) {
 }
 
 void Walker::own_value(const Option& option, bool anyToken, bool orNone) {
-  const Keyword* const row = value_row(option);
+  m_row = value_row(option);
   const auto is_value = [&](Token token) { return token == Token::value || (anyToken && token == Token::option); };
-  Token token = next();
-  while (!is_value(token) && token == Token::option && !orNone && refused(Slot::value)) token = next();
+  Token token = next(true);
+  while (!is_value(token) && token == Token::option && !orNone && refused(Slot::value)) token = next(true);
   if (is_value(token)) {
-    value_ahead(*row);
-    return take(Role::value, row);
+    value_ahead();
+    return take(Role::value, m_row);
   }
   missing(Slot::value);
   // The reader skips an option that stands in place of the value.
@@ -184,17 +184,18 @@ void Walker::pairs(const Group& group) {
       if (find_option(word, *m_run, letter_case()) == nullptr && refused(Slot::keyword)) continue;
       return;
     }
-    const Keyword* const row = find_name(group.keywords, word, letter_case());
-    if (row == nullptr && refused(Slot::keyword)) continue;
-    take(row != nullptr ? Role::keyword : Role::unknown, row);
-    Token value = next();
-    while (row != nullptr && value == Token::option && refused(Slot::value)) value = next();
+    m_row = find_name(group.keywords, word, letter_case());
+    const bool isKnown = m_row != nullptr;
+    if (!isKnown && refused(Slot::keyword)) continue;
+    take(isKnown ? Role::keyword : Role::unknown, m_row);
+    Token value = next(true);
+    while (isKnown && value == Token::option && refused(Slot::value)) value = next(true);
     if (value != Token::value) {
-      if (row != nullptr) missing(Slot::value);
+      if (isKnown) missing(Slot::value);
       continue;
     }
-    if (row != nullptr) value_ahead(*row);
-    take(row != nullptr ? Role::value : Role::unknown, row);
+    if (isKnown) value_ahead();
+    take(isKnown ? Role::value : Role::unknown, m_row);
   }
 }
 

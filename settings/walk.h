@@ -68,11 +68,11 @@ class Walker {
   // the words ahead were replaced and are to be looked at once more.
   virtual bool refused(Slot /*slot*/) { return false; }
   // The same for a lone dash, wherever it stands.
-  virtual bool lone_dash() { return false; }
+  virtual bool lone_dash(bool /*isValueDue*/) { return false; }
   // Nothing that could stand in the slot is there: the text ends, or an option follows.
   virtual void missing(Slot /*slot*/) {}
-  // The next word is the value of the row. The words ahead may be replaced, but a value must be the first.
-  virtual void value_ahead(const Keyword& /*row*/) {}
+  // The next word is the value of row(). The words ahead may be replaced, but a value must be the first.
+  virtual void value_ahead() {}
 
   // --- The words ahead ---
 
@@ -88,9 +88,11 @@ class Walker {
   // Whether the head told which targets may follow, and which ones then.
   const Head* head() const { return m_head; }
   const Run* run() const { return m_run; }
+  // Of a value that is due, or was due last.
+  const Keyword* row() const { return m_row; }
 
  private:
-  Token next();
+  Token next(bool isValueDue = false);
   bool is_allowed(bool inFile) const { return m_source == Source::command || inFile; }
   const Head* find_head();
   const Target* find_target();
@@ -111,6 +113,7 @@ class Walker {
   std::vector<Piece> m_ahead;
   const Head* m_head = nullptr;
   const Run* m_run = nullptr;
+  const Keyword* m_row = nullptr;
   WalkedWord m_here;
   std::size_t m_options = 0;
 };

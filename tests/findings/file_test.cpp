@@ -22,7 +22,7 @@ std::vector<Finding> findings_of(std::string_view content) {
   const Subject subject(content, TextKind::optionFile, none);
   Report report;
   check_file(subject, report);
-  EXPECT_FALSE(report.has_errors());
+  EXPECT_EQ(report.errors(), 0U);
   return std::move(report).findings();
 }
 
