@@ -140,7 +140,7 @@ std::string range_remedy(const NumberRule& rule) {
   return "write a number from " + std::to_string(min) + " to " + spelled(rule, rule.max);
 }
 
-std::string message_of(const NumberRule& rule, const Value& value, const char* reason) {
+std::string message_of(const NumberRule& rule, const Value& value, const std::string& reason) {
   return quoted(value.text).append(" is read as ").append(spelled(rule, value.stored)).append(": ").append(reason);
 }
 
@@ -176,15 +176,23 @@ void report_characters(const NumberRule& rule, const Value& value, const Place& 
   finding.fixes.push_back(fix_with(rule, number, meant == value.stored, place));
 }
 
+// A number that the field does not take, or takes as another one.
+void report_range(const NumberRule& rule, const Value& value, const Place& place, Report& report) {
+  const bool isNegative = value.number < 0 && !rule.isSigned;
+  const std::string reason = isNegative ? "is negative" : "is too large";
+  report.add(isNegative ? Code::negativeNumber : Code::numberTooLarge, place,
+             value.stored == value.number ? quoted(value.text).append(" ").append(reason)
+                                          : message_of(rule, value, "it " + reason),
+             range_remedy(rule));
+}
+
 void check(const NumberRule& rule, const Value& value, const Place& place, Report& report) {
   if (is_octal(rule, value)) {
     report_octal(rule, value, place, report);
   } else if (value.length == 0 || value.length < value.text.size()) {
     report_characters(rule, value, place, report);
-  } else if (value.number < 0 && !rule.isSigned && !fits(rule, value.number)) {
-    report.add(Code::negativeNumber, place, message_of(rule, value, "it is negative"), range_remedy(rule));
   } else if (!fits(rule, value.number)) {
-    report.add(Code::numberTooLarge, place, message_of(rule, value, "it is too large"), range_remedy(rule));
+    report_range(rule, value, place, report);
   }
 }
 

@@ -161,10 +161,8 @@ TEST(Values, NegativeNumbers) {
        "negative-number: '-5' is read as 4294967291: it is negative; write a number from 0 to 4294967295"},
       {kDebugdevice, "romemStartAdr", "-1",
        "negative-number: '-1' is read as 0xffffffff: it is negative; write a number from 0 to 0xffffffff"},
-      {kStub, "-baud", "-5",
-       "negative-number: '-5' is read as -5: it is negative; write a number from 0 to 2147483647"},
-      {kConfigdevice, "isfpga", "-1",
-       "negative-number: '-1' is read as -1: it is negative; write a number from 0 to 127"},
+      {kStub, "-baud", "-5", "negative-number: '-5' is negative; write a number from 0 to 2147483647"},
+      {kConfigdevice, "isfpga", "-1", "negative-number: '-1' is negative; write a number from 0 to 127"},
       {kDebugdevice, "cpunr", "-129",
        "negative-number: '-129' is read as 127: it is negative; write a number from 0 to 255"},
   });
@@ -214,7 +212,7 @@ TEST(Values, HostAndPort) {
       {kPpcSim, "-ipcport", "host:-5",
        "negative-number: '-5' is read as 4294967291: it is negative; write a number from 0 to 65535 @-5"},
       {kVirtualPlatform, "-ipcport", "host:70000",
-       "number-too-large: '70000' is read as 70000: it is too large; write a number from 0 to 65535 @70000"},
+       "number-too-large: '70000' is too large; write a number from 0 to 65535 @70000"},
   });
 }
 
@@ -310,7 +308,8 @@ TEST(Values, AreToldExactlyWhereTheReaderTakesThemForAnother) {
       const bool isHexadecimal = row->kind == Kind::hexadecimal || row->kind == Kind::address;
       const std::string spelled =
           isHexadecimal ? address_text(static_cast<std::uint32_t>(*stored)) : std::to_string(*stored);
-      EXPECT_NE(findings[0].message.find(" is read as " + spelled + ":"), std::string::npos)
+      const std::string told = seen == stored ? "" : " is read as " + spelled + ":";
+      EXPECT_NE(findings[0].message.find(told), std::string::npos)
           << row->name.text() << " " << findings[0].message << " " << spelled;
       for (std::size_t i = 0; i < findings[0].fixes.size(); ++i) {
         const Fix& fix = findings[0].fixes[i];
