@@ -36,14 +36,12 @@ Finding& Report::add(Code code, const Place& place, std::string message, std::st
     }
     return m_unlisted = Finding();
   }
+  m_places.emplace(place.begin, place.end);
   m_findings.push_back(std::move(finding));
   return m_findings.back();
 }
 
-bool Report::has(const Place& place) const {
-  return std::ranges::any_of(m_findings,
-                             [&](const Finding& f) { return f.begin == place.begin && f.end == place.end; });
-}
+bool Report::has(const Place& place) const { return m_places.contains({place.begin, place.end}); }
 
 void Report::set_severity(Finding& finding, Severity severity) {
   if (finding.severity == Severity::error) --m_errors;

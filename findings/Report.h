@@ -4,8 +4,10 @@
 
 #include <array>
 #include <cstddef>
+#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "SdkDebugDialog/Diagnosis.h"
@@ -52,6 +54,7 @@ class Report {
 
  private:
   std::vector<Finding> m_findings;
+  std::set<std::pair<std::size_t, std::size_t>> m_places;  // of the findings
   std::array<std::size_t, static_cast<std::size_t>(Code::tooMany) + 1> m_counts{};
   Finding m_unlisted;
   std::size_t m_errors = 0;

@@ -1,5 +1,6 @@
 // What is wrong with the JTAG chain.
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -14,23 +15,28 @@
 namespace SdkDebugDialog {
 namespace {
 
-// A device that says something about itself; "-configdevice jtagport cpu" adds one that does not.
+// A device that says something about itself; "-configdevice jtagport cpu" adds one that does not. What is wrong with a
+// word is told already: no more is made of its value.
 struct Device {
   const JtagOption& values;
   const DeviceWords& words;
+  bool isNumberSure;
+  bool isIrlengthSure;
+  bool isIdcodeSure;
 
   Place number_place() const { return words.number.value_or(words.option); }
   Place irlength_place() const { return words.irlength.value_or(words.option); }
-  Place idcode_place() const { return words.idcode.value_or(words.option); }
 };
 
 using Devices = std::vector<Device>;
 
-Devices described(std::span<const JtagOption> chain, std::span<const DeviceWords> words) {
+Devices described(std::span<const JtagOption> chain, std::span<const DeviceWords> words, const Report& report) {
+  const auto isSure = [&](const std::optional<Place>& word) { return !word || !report.has(*word); };
   Devices devices;
   for (std::size_t i = 0; i < chain.size(); ++i) {
     const DeviceWords& w = words[i];
-    if (w.number || w.irlength || w.idcode) devices.push_back({chain[i], w});
+    if (!w.number && !w.irlength && !w.idcode) continue;
+    devices.push_back({chain[i], w, isSure(w.number), isSure(w.irlength), isSure(w.idcode)});
   }
   return devices;
 }
@@ -52,7 +58,7 @@ constexpr int kShortestRegister = 2;
 
 void check_idcode(const Device& d, Report& report) {
   const std::uint32_t idcode = d.values.idcode;
-  if (is_idcode(idcode)) return;
+  if (is_idcode(idcode) || !d.isIdcodeSure) return;
   constexpr const char* kRemedy = "write the IDCODE that the manufacturer of the device states";
   if (!d.words.idcode) {
     report.add(Code::invalidIdcode, d.words.option, "the device has no IDCODE, which is then 0", kRemedy);
@@ -65,7 +71,7 @@ void check_idcode(const Device& d, Report& report) {
 
 void check_irlength(const Device& d, Report& report) {
   const int length = d.values.irlength;
-  if (length >= kShortestRegister) return;
+  if (length >= kShortestRegister || !d.isIrlengthSure) return;
   constexpr const char* kRemedy = "write the length that the manufacturer of the device states, in bits";
   if (!d.words.irlength) {
     report.add(Code::shortInstructionRegister, d.words.option,
@@ -81,6 +87,7 @@ void check_lengths(const Devices& devices, Report& report) {
   constexpr std::uint32_t kWithoutVersion = 0x0FFFFFFFU;
   std::unordered_map<std::uint32_t, const Device*> firsts;
   for (const Device& d : devices) {
+    if (!d.isIdcodeSure || !d.isIrlengthSure) continue;
     if (!is_idcode(d.values.idcode) || d.values.irlength < kShortestRegister) continue;
     const Device& first = *firsts.emplace(d.values.idcode & kWithoutVersion, &d).first->second;
     if (d.values.irlength == first.values.irlength) continue;
@@ -106,10 +113,11 @@ class Numbers {
   std::array<const Device*, 256> m_devices{};
 };
 
-// Notes the devices by their numbers; false if a number repeats.
+// Notes the devices by their numbers, if they are sure; false if a number repeats.
 bool check_distinct(const Devices& devices, Numbers& numbers, Report& report) {
   bool areDistinct = true;
   for (const Device& d : devices) {
+    if (!d.isNumberSure) continue;
     const Device*& first = numbers.of(d.values.devicenr);
     if (first == nullptr) {
       first = &d;
@@ -160,7 +168,7 @@ void check_gaps(const Devices& devices, Report& report) {
 
 void check_chain(std::span<const JtagOption> chain, std::span<const DeviceWords> words, int debugDevice,
                  const std::optional<Place>& debugDeviceWord, Report& report) {
-  const Devices devices = described(chain, words);
+  const Devices devices = described(chain, words, report);
   for (const Device& d : devices) {
     check_idcode(d, report);
     check_irlength(d, report);
@@ -168,9 +176,12 @@ void check_chain(std::span<const JtagOption> chain, std::span<const DeviceWords>
   check_lengths(devices, report);
   Numbers numbers;
   const bool areDistinct = check_distinct(devices, numbers, report);
-  // Of numbers that repeat or are not ascending, gaps tell nothing more.
-  if (check_order(devices, numbers, report) && areDistinct) check_gaps(devices, report);
-  if (devices.empty() || debugDevice == 0 || !debugDeviceWord || numbers.of(debugDevice) != nullptr) return;
+  const bool areOrdered = check_order(devices, numbers, report);
+  // Where a number is not sure, none can be missed; and gaps follow where numbers repeat or are not ascending.
+  if (!std::ranges::all_of(devices, &Device::isNumberSure)) return;
+  if (areDistinct && areOrdered) check_gaps(devices, report);
+  if (devices.empty() || debugDevice == 0 || !debugDeviceWord || report.has(*debugDeviceWord)) return;
+  if (numbers.of(debugDevice) != nullptr) return;
   report.add(Code::noSuchDevice, *debugDeviceWord,
              "no device of the JTAG chain has the number " + std::to_string(debugDevice),
              "write the number of the device that holds the processor");

@@ -50,8 +50,11 @@ struct Chain {
 
 constexpr Place kDebugDevice = {9000, 9001};
 
-std::vector<Finding> findings_of(const Chain& chain, int debugDevice = 0, std::optional<Place> word = {}) {
+// Findings that are not of the chain are added first: at these words.
+std::vector<Finding> findings_of(const Chain& chain, int debugDevice = 0, std::optional<Place> word = {},
+                                 const std::vector<std::size_t>& told = {}) {
   Report report;
+  for (const std::size_t begin : told) report.add(Code::notANumber, {begin, begin + 1}, "told", "a remedy");
   check_chain(chain.chain, chain.words, debugDevice, word, report);
   return std::move(report).findings();
 }
@@ -150,6 +153,22 @@ TEST(Chain, OneIdcodeWithTwoLengths) {
             "203 invalid-idcode: 0x00000000 is no IDCODE: its last bit must be 1\n");
   EXPECT_EQ(shown(findings_of({{{.number = 1}, {.number = 2, .irlength = {}}}})),
             "200 short-instruction-register: the device has no instruction register length, which is then 0\n");
+}
+
+// No more is made of a value that is no number.
+TEST(Chain, ValuesThatAreWrongInThemselves) {
+  const auto expectNothingMore = [](const std::vector<Device>& devices, const std::vector<std::size_t>& told) {
+    const std::vector<Finding> findings = findings_of(devices, 3, kDebugDevice, told);
+    EXPECT_EQ(findings.size(), told.size()) << shown(findings);
+  };
+  expectNothingMore({{.number = 1}, {.number = 2}, {.number = 3, .irlength = 0}}, {302});
+  expectNothingMore({{.number = 1}, {.number = 2}, {.number = 3, .irlength = 44}}, {302});
+  expectNothingMore({{.number = 1}, {.number = 2}, {.number = 3, .idcode = 0}}, {303});
+  expectNothingMore({{.number = 1}, {.number = 0}, {.number = 3}}, {201});
+  expectNothingMore({{.number = 1}, {.number = 1}, {.number = 5}}, {201});
+  expectNothingMore({{.number = 1}, {.number = 2}}, {9000});
+  // What is wrong with the others is told.
+  EXPECT_EQ(findings_of({{{.number = 2}, {.number = 0}, {.number = 1}}}, 0, {}, {201}).size(), 2U);
 }
 
 // "-configdevice jtagport cpu" adds a device that says nothing about itself.
