@@ -247,12 +247,14 @@ void check_text(std::string_view value, const Place& place, Report& report) {
     return;
   }
   if (!is_quote(value.front())) return;
-  const bool isClosed = value.size() > 1 && value.back() == value.front();
-  Finding& finding = report.add(
-      Code::quotes, place,
-      quoted(value) + (isClosed ? " keeps its quotes: they are part of the text" : " ends here: quotes join no words"),
-      isClosed ? "write the text without quotes" : "use a text without blanks and quotes");
-  const std::string_view text = value.substr(1, value.size() - (isClosed ? 2 : 1));
+  if (value.size() == 1 || value.back() != value.front()) {
+    report.add(Code::quotes, place, quoted(value) + " ends here: quotes join no words",
+               "use a text without blanks and quotes");
+    return;
+  }
+  Finding& finding = report.add(Code::quotes, place, quoted(value) + " keeps its quotes: they are part of the text",
+                                "write the text without quotes");
+  const std::string_view text = value.substr(1, value.size() - 2);
   // What begins with a dash may be an option.
   if (!text.empty() && !text.starts_with('-')) {
     finding.fixes.push_back(fix("write " + quoted(text), false, place, std::string(text)));

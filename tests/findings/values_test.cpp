@@ -339,8 +339,8 @@ TEST(Values, Quotes) {
   expectText("'USB21'",
              "quotes: ''USB21'' keeps its quotes: they are part of the text; write the text without quotes "
              "?USB21");
-  expectText("\"my", "quotes: '\"my' ends here: quotes join no words; use a text without blanks and quotes ?my");
-  expectText("\"a'", "quotes: '\"a'' ends here: quotes join no words; use a text without blanks and quotes ?a'");
+  expectText("\"my", "quotes: '\"my' ends here: quotes join no words; use a text without blanks and quotes");
+  expectText("\"a'", "quotes: '\"a'' ends here: quotes join no words; use a text without blanks and quotes");
   expectText("my\\",
              "quotes: 'my\\' ends here: a backslash does not keep the blank behind it; use a text without "
              "blanks");
