@@ -121,6 +121,7 @@ class Examiner : public Walker {
   bool m_isLost = false;      // nothing certain can be said about the words up to the next option
   bool m_isAccepted = false;  // the value ahead
   Place m_lastWord;
+  Role m_lastRole = Role::unknown;
   const Keyword* m_lastRow = nullptr;  // of the last value
   std::string_view m_lastValue;
   Place m_keyword;  // the last keyword, or option with a value of its own
@@ -190,6 +191,8 @@ bool Examiner::refused(Slot slot) {
     return false;
   }
   if (isOption && slot == Slot::keyword) {
+    // Behind a keyword that is not known it would become the value.
+    if (m_lastRole == Role::unknown) return false;
     std::optional<Repair> found = without_dash(keyword_names(here().option->group), word);
     if (!found) return false;
     apply(m_report.add(Code::unknownOption, place_of(word), "no option " + quoted(word.text)), std::move(*found));
@@ -287,7 +290,7 @@ bool Examiner::lone_dash(bool isValueDue) {
   }
   if (option == nullptr) {
     if (!m_isLost) report_dash(dash);
-    m_isLost = m_isLost || run() == nullptr;
+    m_isLost = true;
     return false;
   }
   const std::string_view name = option->name.text();
@@ -402,8 +405,7 @@ bool Examiner::unit_apart(Finding& finding) const {
 }
 
 void Examiner::missing(Slot slot) {
-  // A dash in the place of the value has been reported.
-  if (m_isLost || (slot == Slot::value && m_subject.in(m_lastWord) == "-")) return;
+  if (m_isLost) return;
   if (slot == Slot::value) return missing_value();
   const Place whole = m_lastWord == Place() ? m_subject.line : m_lastWord;
   const Place place = ahead() != nullptr ? place_of(*ahead()) : whole;
@@ -543,6 +545,7 @@ void Examiner::report_value(const Refusal& at) {
 
 void Examiner::found(const WalkedWord& word, std::string_view spelled) {
   m_lastWord = place_of(word);
+  m_lastRole = word.role;
   switch (word.role) {
     case Role::head:
     case Role::unknown:

@@ -32,10 +32,16 @@ bool is_plain_number(std::string_view text) {
   return !digits.empty() && digits.find_first_not_of(allowed) == std::string_view::npos;
 }
 
-// The part of a word from a byte on.
+// A part of a word, as it would be read as a word of its own: without white space around it.
 Piece part(const Piece& word, std::size_t from, std::size_t size = std::string_view::npos) {
-  const std::string_view text = word.text.substr(from, size);
-  return {text, word.begin + from, word.begin + from + text.size()};
+  std::string_view text = word.text.substr(from, size);
+  std::size_t begin = word.begin + from;
+  while (!text.empty() && is_space(text.front())) {
+    text.remove_prefix(1);
+    ++begin;
+  }
+  while (!text.empty() && is_space(text.back())) text.remove_suffix(1);
+  return {text, begin, begin + text.size()};
 }
 
 Fix safe_fix(std::string title, std::size_t begin, std::size_t end, std::string text) {
