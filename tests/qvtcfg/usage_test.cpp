@@ -76,7 +76,8 @@ TEST_F(Usage, MistakesAreExplainedInOneLine) {
     const char* why;
   } kMistakes[] = {
       {{},
-       "a command is missing: one of processors, show, command, read, set, unset, copy, diff, cables, cable; see "
+       "a command is missing: one of processors, show, command, read, set, unset, copy, diff, explain, check, cables, "
+       "cable; see "
        "'qvtcfg --help'"},
       {{"cabels"}, "unknown command 'cabels' (did you mean 'cables'?); see 'qvtcfg --help'"},
       {{"--jsn", "cables"}, "unknown option '--jsn'; see 'qvtcfg cables --help'"},

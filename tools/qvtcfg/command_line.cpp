@@ -111,6 +111,12 @@ void take_diff(CLI::App& app, Arguments& a) {
   app.add_option("B", a.diff_with, "The same; without it, the defaults of A come first")->type_name("");
 }
 
+void take_explain(CLI::App& app, Arguments& a) {
+  take_processor(app, a);
+  app.add_option("SETTING", a.setting, "One setting, in detail")->type_name("");
+  take_all_settings(app, a);
+}
+
 void take_check(CLI::App& app, Arguments& a) {
   app.add_option("TEXT", a.operands,
                  "What to check: the option file of a processor of the design, a file, the option files of a folder, "
@@ -202,6 +208,8 @@ constexpr Command kCommands[] = {
      run_unset},
     {"copy", "Copy the settings of a processor to others", "qvtcfg copy cpu0 cpu1 cpu2 --dry-run", take_copy, run_copy},
     {"diff", "Compare settings", "qvtcfg diff cpu0 'connect ov sim'", take_diff, run_diff},
+    {"explain", "Tell where each setting comes from, and whether a new command has it", "qvtcfg explain cpu0 frequency",
+     take_explain, run_explain},
     {"check", "Find what is wrong with option files and connect commands", "qvtcfg check --strict", take_check,
      run_check, check_help},
     {"cables", "List the cables that are known", "qvtcfg --json cables", take_nothing, run_cables},

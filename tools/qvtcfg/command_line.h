@@ -24,6 +24,7 @@ struct Arguments {
   std::optional<std::string> design;  // path of the design file; not set: the default path
   bool json = false;
   std::optional<std::string> processor;
+  std::optional<std::string> setting;    // for explain
   std::vector<std::string> operands;     // processors and changes for set and unset; the last processors of copy
   std::string text;                      // for read and cable parse; the first argument of diff
   std::optional<std::string> diff_with;  // its second one
@@ -53,6 +54,7 @@ ExitCode run_set(const Arguments& arguments, Output& out);
 ExitCode run_unset(const Arguments& arguments, Output& out);
 ExitCode run_copy(const Arguments& arguments, Output& out);
 ExitCode run_diff(const Arguments& arguments, Output& out);
+ExitCode run_explain(const Arguments& arguments, Output& out);
 ExitCode run_check(const Arguments& arguments, Output& out);
 ExitCode run_cables(const Arguments& arguments, Output& out);
 ExitCode run_cable_parse(const Arguments& arguments, Output& out);

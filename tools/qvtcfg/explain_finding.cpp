@@ -65,9 +65,7 @@ void print_kind(const FindingKind& kind, Output& out) {
     const Source source{"example", &lines};
     out.line("");
     if (const Finding* const finding = own_finding(findings, kind)) {
-      std::string text = finding_text(*finding, source, source, out.look());
-      text.pop_back();
-      out.line(text);
+      out.text(finding_text(*finding, source, source, out.look()));
     } else {
       out.line("Example: " + visible(kind.example));
     }

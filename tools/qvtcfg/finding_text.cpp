@@ -136,15 +136,6 @@ Mark mark_in(std::string_view line, std::size_t line_begin, std::size_t begin, s
   return {begin - line_begin, std::min(end - line_begin, line.size()), below, style};
 }
 
-// The line of a remark that is elsewhere.
-std::string remark_snippet(const Remark& remark, const Source& source, const Look& look) {
-  const Position at = source.lines->position(remark.begin);
-  const std::string_view line = source.lines->line(at.line);
-  const Mark mark = mark_in(line, source.lines->begin(at.line), remark.begin, remark.end, '-', Style::kNote);
-  const Window window = window_around(line, mark.begin, mark.end, room(look));
-  return lines_of(std::to_string(at.line), shown_line(line, window, {mark}, look), look);
-}
-
 // --- Fixes ---
 
 // The lines that a fix changes, as they are then.
@@ -219,6 +210,14 @@ std::string finding_line(const Finding& finding, const Source& source, const Loo
          std::string(finding.kind->code) + ']';
 }
 
+std::string marked_line(const Source& source, std::size_t begin, std::size_t end, const Look& look) {
+  const Position at = source.lines->position(begin);
+  const std::string_view line = source.lines->line(at.line);
+  const Mark mark = mark_in(line, source.lines->begin(at.line), begin, end, '-', Style::kNote);
+  const Window window = window_around(line, mark.begin, mark.end, room(look));
+  return lines_of(std::to_string(at.line), shown_line(line, window, {mark}, look), look);
+}
+
 std::string finding_text(const Finding& finding, const Source& source, const Source& remarks, const Look& look) {
   const Lines& lines = *source.lines;
   const std::size_t number = lines.position(finding.begin).line;
@@ -240,7 +239,7 @@ std::string finding_text(const Finding& finding, const Source& source, const Sou
     out += gutter("", '=', look) + look.styled(Style::kNote, "note:") + ' ';
     if (has_place(remark)) out += location(remarks, remarks.lines->position(remark.begin));
     out += visible(remark.message) + '\n';
-    if (has_place(remark) && !is_shown(remark)) out += remark_snippet(remark, remarks, look);
+    if (has_place(remark) && !is_shown(remark)) out += marked_line(remarks, remark.begin, remark.end, look);
   }
   for (const Fix& fix : finding.fixes) out += fix_text(fix, source, look);
   return out;

@@ -31,6 +31,9 @@ std::string whole_message(const SdkDebugDialog::Finding& finding);
 // NAME:LINE:COLUMN: SEVERITY: MESSAGE; REMEDY [CODE]
 std::string finding_line(const SdkDebugDialog::Finding& finding, const Source& source, const Look& look = {});
 
+// The line of the place, and marks below it.
+std::string marked_line(const Source& source, std::size_t begin, std::size_t end, const Look& look);
+
 // The line, then those with the place, the remarks and the fixes. The places of the remarks are in a text of their own.
 std::string finding_text(const SdkDebugDialog::Finding& finding, const Source& source, const Source& remarks,
                          const Look& look);

@@ -30,6 +30,8 @@ class Output {
   Output();
 
   void line(std::string_view text);
+  // Whole lines.
+  void text(std::string_view lines) { m_text += lines; }
   void json(const Json& value);
 
   // Columns as wide as their widest cell; the first row is the heading.
