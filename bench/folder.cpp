@@ -36,6 +36,19 @@ const std::filesystem::path& work_folder() {
   return folder.path;
 }
 
+std::filesystem::path many_option_files(std::size_t count) {
+  const std::filesystem::path folder = work_folder() / ("files_" + std::to_string(count));
+  std::filesystem::create_directories(folder / "etc");
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::string number = std::to_string(i);
+    std::ofstream(folder / ("etc/qvt_cpu_" + number + ".opt"))
+        << "connect ov odm -cable type zarvek_platformusb port USB" << number
+        << " frequency 12000000 -configdevice devicenr 1 partname dv3 irlength 6 idcode 0x1d23093 isfpga 1 "
+           "-debugdevice deviceNr 1 cpunr 1";
+  }
+  return folder;
+}
+
 std::filesystem::path example_design(const std::string& name) {
   return std::filesystem::path(PROJECT_SOURCE_DIR) / "examples/designs" / name;
 }

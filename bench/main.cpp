@@ -26,6 +26,7 @@ int main(int argc, char** argv) {
   bench::add_lookup();
   bench::add_selection();
   bench::add_process();
+  bench::add_many_files();
   bench::add_large_design();
   bench::Collector times;
   benchmark::RunSpecifiedBenchmarks(&times);

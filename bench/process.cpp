@@ -1,5 +1,6 @@
 // The whole process "qvtcfg command". With a design of usual size, compared with an empty program that links the
-// library; with a very large one, compared with a program that only parses the file.
+// library; with a very large one, compared with a program that only parses the file. And "qvtcfg check" with many
+// option files, compared with a program that only reads them.
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -66,6 +67,16 @@ void add_process() {
   expect(output(ours) == hardware_text() + "\n", work, kOurs);
   add_program(work, kOurs, ours);
   add_program(work, "empty program", {EMPTY_PROGRAM});
+}
+
+void add_many_files() {
+  constexpr std::size_t kFiles = 10000;
+  const Work work = {"qvtcfg check, 10,000"};
+  const std::filesystem::path folder = many_option_files(kFiles);
+  const Words ours = {QVTCFG, "-C", folder, "check"};
+  expect(output(ours) == std::to_string(kFiles) + " files: nothing found\n", work, kOurs);
+  add_program(work, kOurs, ours);
+  add_program(work, "cat", {"/bin/sh", "-c", "cat '" + folder.string() + "'/etc/*.opt"});
 }
 
 void add_large_design() {

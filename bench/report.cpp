@@ -35,6 +35,7 @@ constexpr Goal kGoals[] = {
     {"discovery", "the same questions", 2, 100, 10000},
     {"look-up in 100,000", "std::unordered_map", 4},
     {"qvtcfg command", "empty program", 2},
+    {"qvtcfg check, 10,000", "cat", 3},
     {"qvtcfg command, 100,000", "nlohmann::json document", 0.5},
 };
 constexpr double kHighestExponent = 1.1;

@@ -66,6 +66,7 @@ void add_discovery();
 void add_lookup();
 void add_selection();
 void add_process();
+void add_many_files();
 void add_large_design();
 
 }  // namespace bench
