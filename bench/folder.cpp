@@ -43,7 +43,7 @@ std::filesystem::path many_option_files(std::size_t count) {
     const std::string number = std::to_string(i);
     std::ofstream(folder / ("etc/qvt_cpu_" + number + ".opt"))
         << "connect ov odm -cable type zarvek_platformusb port USB" << number
-        << " frequency 12000000 -configdevice devicenr 1 partname dv3 irlength 6 idcode 0x1d23093 isfpga 1 "
+        << " frequency 12000000 -configdevice devicenr 1 partname dv3 irlength 6 idcode 0x1d23093 "
            "-debugdevice deviceNr 1 cpunr 1";
   }
   return folder;

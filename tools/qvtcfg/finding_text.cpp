@@ -234,7 +234,8 @@ std::string finding_text(const Finding& finding, const Source& source, const Sou
     }
   }
   std::string out = finding_line(finding, source, look) + '\n';
-  if (!lines.text().empty()) out += lines_of(std::to_string(number), shown_line(line, window, marks, look), look);
+  const bool of_file = finding.end == 0;
+  if (!of_file) out += lines_of(std::to_string(number), shown_line(line, window, marks, look), look);
   for (const Remark& remark : finding.remarks) {
     out += gutter("", '=', look) + look.styled(Style::kNote, "note:") + ' ';
     if (has_place(remark)) out += location(remarks, remarks.lines->position(remark.begin));

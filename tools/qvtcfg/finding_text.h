@@ -35,6 +35,7 @@ std::string finding_line(const SdkDebugDialog::Finding& finding, const Source& s
 std::string marked_line(const Source& source, std::size_t begin, std::size_t end, const Look& look);
 
 // The line, then those with the place, the remarks and the fixes. The places of the remarks are in a text of their own.
+// A finding with an empty place at the beginning is about the whole text: no line is shown for it.
 std::string finding_text(const SdkDebugDialog::Finding& finding, const Source& source, const Source& remarks,
                          const Look& look);
 

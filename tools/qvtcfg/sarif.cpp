@@ -1,6 +1,5 @@
 // The answer of qvtcfg check in the Static Analysis Results Interchange Format, SARIF 2.1.0.
 
-#include <algorithm>
 #include <string_view>
 
 #include "finding_text.h"
@@ -44,24 +43,11 @@ Json artifact_location(const Subject& subject) {
   return {{"uri", path}, {"uriBaseId", kBase}};
 }
 
-// Columns count characters; a byte that belongs to none counts as one.
-std::size_t column(const Lines& lines, std::size_t offset) {
-  const std::size_t begin = lines.begin(lines.position(offset).line);
-  std::string_view before = lines.text().substr(begin, offset - begin);
-  std::size_t count = 1;
-  for (; !before.empty(); ++count) {
-    before.remove_prefix(std::max<std::size_t>(1, character_length(before)));
-  }
-  return count;
-}
-
 Json region(std::size_t begin, std::size_t end, const Lines& lines) {
-  return {{"startLine", lines.position(begin).line},
-          {"startColumn", column(lines, begin)},
-          {"endLine", lines.position(end).line},
-          {"endColumn", column(lines, end)},
-          {"byteOffset", begin},
-          {"byteLength", end - begin}};
+  const Position first = lines.position_in_characters(begin);
+  const Position last = lines.position_in_characters(end);
+  return {{"startLine", first.line},  {"startColumn", first.column}, {"endLine", last.line},
+          {"endColumn", last.column}, {"byteOffset", begin},         {"byteLength", end - begin}};
 }
 
 Json location(const Checked& checked, std::size_t begin, std::size_t end) {
