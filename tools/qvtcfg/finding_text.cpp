@@ -91,7 +91,7 @@ ShownLine shown_line(std::string_view line, const Window& window, const std::vec
       blanks += columns;
       return;
     }
-    below.add(std::string(blanks, ' '), std::nullopt);
+    if (blanks > 0) below.add(std::string(blanks, ' '), std::nullopt);
     below.add(std::string(columns, mark->below), mark->style);
     blanks = 0;
     any = true;
@@ -153,7 +153,7 @@ Changed changed_by(const Fix& fix, const Lines& lines) {
   const std::size_t last = std::min(fix.replacements.back().end, first + kNear);
   std::size_t from = std::max(lines.begin(lines.position(first).line), first - std::min(first, kNear));
   while (from < first && (static_cast<unsigned char>(text[from]) & 0xC0U) == 0x80) ++from;
-  const std::size_t end = std::min({text.find('\n', last), text.size(), last + kNear});
+  const std::size_t end = last + std::min(text.substr(last, kNear).find('\n'), text.substr(last, kNear).size());
   Changed changed;
   for (const Replacement& replacement : fix.replacements) {
     if (replacement.begin > end || replacement.begin < from) break;

@@ -40,8 +40,8 @@ Position Lines::position_in_characters(std::size_t offset) const {
 }
 
 std::string_view Lines::line(std::size_t line) const {
-  const std::string_view rest = m_text.substr(begin(line));
-  return rest.substr(0, rest.find('\n'));
+  const std::size_t end = line < m_begins.size() ? m_begins[line] - 1 : m_text.size();
+  return m_text.substr(begin(line), end - begin(line));
 }
 
 }  // namespace qvtcfg
