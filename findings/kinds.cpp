@@ -186,18 +186,22 @@ const std::vector<FindingKind>& kinds() {
        .meaning = "The first 1,023 bytes of the command are read, about a dozen devices of a chain. The rest is "
                   "ignored, and nothing says so. Where the line is cut in the middle of something, it may be "
                   "refused or mean something else.",
-       .example = "connect ppc hw -configdevice devicenr 1 partname fpga irlength 10 idcode 0x0a001093 "
-                  "-configdevice devicenr 2 partname fpga irlength 10 idcode 0x0a001093 -configdevice devicenr 3 "
-                  "partname fpga irlength 10 idcode 0x0a001093 -configdevice devicenr 4 partname fpga irlength 10 "
-                  "idcode 0x0a001093 -configdevice devicenr 5 partname fpga irlength 10 idcode 0x0a001093 "
-                  "-configdevice devicenr 6 partname fpga irlength 10 idcode 0x0a001093 -configdevice devicenr 7 "
-                  "partname fpga irlength 10 idcode 0x0a001093 -configdevice devicenr 8 partname fpga irlength 10 "
-                  "idcode 0x0a001093 -configdevice devicenr 9 partname fpga irlength 10 idcode 0x0a001093 "
-                  "-configdevice devicenr 10 partname fpga irlength 10 idcode 0x0a001093 -configdevice devicenr 11 "
-                  "partname fpga irlength 10 idcode 0x0a001093 -configdevice devicenr 12 partname fpga irlength 10 "
-                  "idcode 0x0a001093 -configdevice devicenr 13 partname fpga irlength 10 idcode 0x0a001093 "
-                  "-configdevice devicenr 14 partname fpga irlength 10 idcode 0x0a001093 -configdevice devicenr 15 "
-                  "partname fpga irlength 10 idcode 0x0a001093 -debugdevice deviceNr 1",
+       .example = "connect ppc hw"
+                  " -configdevice devicenr 1 partname fpga_01 irlength 10 idcode 0x0a001093"
+                  " -configdevice devicenr 2 partname fpga_02 irlength 10 idcode 0x0a001093"
+                  " -configdevice devicenr 3 partname fpga_03 irlength 10 idcode 0x0a001093"
+                  " -configdevice devicenr 4 partname fpga_04 irlength 10 idcode 0x0a001093"
+                  " -configdevice devicenr 5 partname fpga_05 irlength 10 idcode 0x0a001093"
+                  " -configdevice devicenr 6 partname fpga_06 irlength 10 idcode 0x0a001093"
+                  " -configdevice devicenr 7 partname fpga_07 irlength 10 idcode 0x0a001093"
+                  " -configdevice devicenr 8 partname fpga_08 irlength 10 idcode 0x0a001093"
+                  " -configdevice devicenr 9 partname fpga_09 irlength 10 idcode 0x0a001093"
+                  " -configdevice devicenr 10 partname fpga_10 irlength 10 idcode 0x0a001093"
+                  " -configdevice devicenr 11 partname fpga_11 irlength 10 idcode 0x0a001093"
+                  " -configdevice devicenr 12 partname fpga_12 irlength 10 idcode 0x0a001093"
+                  " -configdevice devicenr 13 partname fpga_13 irlength 10 idcode 0x0a001093"
+                  " -configdevice devicenr 14 partname cpu irlength 10 idcode 0x0a001093"
+                  " -debugdevice deviceNr 14",
        .exampleKind = TextKind::optionFile,
        .advice = "Shorten the command: drop options that have no effect and values that are the defaults, and "
                  "shorten the part names."},
@@ -275,8 +279,8 @@ const std::vector<FindingKind>& kinds() {
       {.code = "negative-number",
        .severity = Severity::warning,
        .title = "negative number",
-       .meaning = "Numbers are not negative, but for 'nCpu'. A negative one is stored as a large positive number: "
-                  "'-1' in 32 bits is 4294967295.",
+       .meaning = "Numbers are not negative, but for 'nCpu'. Most of them are stored without a sign, so that '-1' "
+                  "becomes 4294967295.",
        .example = "connect ov stub -comm serial -port /dev/ttyUSB0 -baud 115200 -timeout -1",
        .advice = "Write the number that is meant."},
       {.code = "number-too-large",

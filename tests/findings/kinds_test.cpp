@@ -4,8 +4,12 @@
 
 #include <algorithm>
 #include <set>
+#include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
+#include "platform/DesignFile.h"
 #include "settings/engine_text.h"
 
 namespace {
@@ -57,21 +61,55 @@ TEST(FindingKinds, AreDescribed) {
 
 // --- Examples ---
 
-// A text alone does not show them: they need a design, another text, or more than a line.
-bool needs_more_than_a_text(const FindingKind& kind) {
-  constexpr Code kCodes[] = {
-      Code::connectionNotAdmitted, Code::wrongCpuNumber, Code::fpuFromDesign,
-      Code::noSuchProcessor,       Code::otherFamily,    Code::sharedCableChain,
-      Code::sharedCableFrequency,  Code::sameProcessor,  Code::tooMany,
+// The processor of the bundled design that an example is for; empty if it needs none.
+std::string_view processor_of(const FindingKind& kind) {
+  constexpr std::pair<Code, const char*> kProcessors[] = {
+      {Code::connectionNotAdmitted, "ovrin_1"},
+      {Code::wrongCpuNumber, "ovrin_1"},
+      {Code::fpuFromDesign, "ppc405_0"},
+      {Code::otherFamily, "ovrin_1"},
   };
-  return std::ranges::any_of(kCodes, [&](Code code) { return &kind == &kind_of(code); });
+  for (const auto& [code, processor] : kProcessors) {
+    if (&kind == &kind_of(code)) return processor;
+  }
+  return "";
 }
 
-TEST(FindingKinds, HaveExamplesThatTheReaderRefusesIfTheyAreErrors) {
-  for (const FindingKind& kind : finding_kinds()) {
-    const bool refused = kind.severity == Severity::error && !needs_more_than_a_text(kind);
-    EXPECT_EQ(read_state({}, kind.example, kind.exampleKind).understood, !refused) << kind.code << ": " << kind.example;
-  }
+// A text alone does not show them.
+bool is_of_one_text(const FindingKind& kind) {
+  constexpr Code kOthers[] = {Code::noSuchProcessor, Code::sharedCableChain, Code::sharedCableFrequency,
+                              Code::sameProcessor, Code::tooMany};
+  return std::ranges::none_of(kOthers, [&](Code code) { return &kind == &kind_of(code); });
 }
+
+class FindingExamples : public testing::TestWithParam<FindingKind> {
+ protected:
+  const FindingKind& kind = *find_finding_kind(GetParam().code);
+  DesignFile hardware = DesignFile::load(PROJECT_SOURCE_DIR "/examples/designs/large.json");
+  Design design{hardware};
+  Processor processor = processor_of(kind).empty() ? Processor() : design.find(processor_of(kind)).value();
+};
+
+TEST_P(FindingExamples, AreRefusedIfTheyAreErrors) {
+  const bool refused = kind.severity == Severity::error && is_of_one_text(kind);
+  EXPECT_EQ(read_state(processor, kind.example, kind.exampleKind).understood, !refused) << kind.example;
+}
+
+TEST_P(FindingExamples, HaveTheFindingAndTellWhatToDo) {
+  const std::vector<Finding> findings = diagnose(kind.example, kind.exampleKind, processor);
+  const auto found = std::ranges::find(findings, &kind, &Finding::kind);
+  ASSERT_EQ(found != findings.end(), is_of_one_text(kind)) << kind.example;
+  if (found == findings.end()) return;
+  EXPECT_EQ(found->severity, kind.severity);
+  EXPECT_FALSE(found->message.empty());
+  EXPECT_TRUE(found->severity != Severity::error || !found->remedy.empty() || !found->fixes.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FindingExamples, testing::ValuesIn(finding_kinds()),
+                         [](const testing::TestParamInfo<FindingKind>& example) {
+                           std::string name(example.param.code);
+                           std::ranges::replace(name, '-', '_');
+                           return name;
+                         });
 
 }  // namespace
