@@ -5,7 +5,7 @@ jobs=$(nproc 2>/dev/null || echo 2)
 
 # packages_of STEP: what it needs.
 packages_of() {
-  echo "$build_packages git libgtest-dev libgmock-dev librapidcheck-dev strace"
+  echo "$build_packages git make libgtest-dev libgmock-dev librapidcheck-dev strace"
   case $1 in
     format) echo clang-format ;;
     lint | contrast)
