@@ -208,8 +208,9 @@ const std::vector<FindingKind>& kinds() {
       {.code = "carriage-return",
        .severity = Severity::warning,
        .title = "carriage return",
-       .meaning = "The file has the line ends of Windows (CR LF), or a carriage return within a line. The reader "
-                  "takes it for a blank; other programs take it for a part of the last word.",
+       .meaning =
+           "The file has the line ends of Windows (CR LF), or a carriage return within a line. The reader drops one at "
+           "the end of a word, and keeps one within a word as a part of it; other programs keep it in any case.",
        .example = "connect ov odm -debugdevice deviceNr 2\r\n",
        .exampleKind = TextKind::optionFile,
        .advice = "Save the file with the line ends of Unix (LF)."},
@@ -280,7 +281,7 @@ const std::vector<FindingKind>& kinds() {
        .severity = Severity::warning,
        .title = "negative number",
        .meaning = "Numbers are not negative, but for 'nCpu'. Most of them are stored without a sign, so that '-1' "
-                  "becomes 4294967295.",
+                  "becomes 4294967295; '-timeout' hands a negative number to the debugger as it is.",
        .example = "connect ov stub -comm serial -port /dev/ttyUSB0 -baud 115200 -timeout -1",
        .advice = "Write the number that is meant."},
       {.code = "number-too-large",
