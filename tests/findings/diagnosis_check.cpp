@@ -69,7 +69,7 @@ std::string range(const TextPlace& place) { return std::to_string(place.begin) +
 // Finds the word that a reader rejects: the one that the reader read last, but for
 //
 //   a keyword or option without its value    that keyword or option; the reader read the option behind it as well
-//   an unknown keyword                       the keyword; the reader read its value as well
+//   an unknown keyword                       the keyword; the reader read its value, or a lone dash, as well
 //   a check of the cable at the end          the last frequency in the last "-cable"; "-cable" for what is missing
 //   a text that ends too early               its last word; all of a text without words
 //
@@ -91,7 +91,7 @@ class Refusal {
     const auto count = static_cast<std::size_t>(std::ranges::count_if(m_words, isRead));
     if (count == 0) return {0, m_line.size()};
     const Word& last = m_words[count - 1];
-    if (last.isLoneDash) return last.place;
+    if (last.isLoneDash) return behind_unknown_keyword(count - 1) ? m_words[count - 2].place : last.place;
     if (count == m_words.size()) {
       if (const auto cable = last_cable(); cable && ends_well(m_line)) return failed_check(*cable);
     }
@@ -146,11 +146,21 @@ class Refusal {
   }
 
   bool is_keyword(std::size_t word) {
+    // Mostly the error text tells.
+    read(std::string(m_line));
+    const std::string unknown = "UNKNOWN Parameter '" + std::string(this->word(word)) + "' for ";
+    if (m_error.starts_with(unknown) && m_error.find(" option '-", unknown.size() - 1) != std::string::npos)
+      return false;
     const std::string text = std::string(up_to(word + 1)) + " ";
     // One of them is accepted by every keyword.
     const auto values = {"0",     "zarvek_parallel3", "cpu", "sp", "ppc405", "m", "1", "2", "3", "jtag",
                          "USER1", "cycle_approximate"};
     return std::ranges::any_of(values, [&](const char* value) { return ends_well(text + value); });
+  }
+
+  bool behind_unknown_keyword(std::size_t word) {
+    const std::size_t first = m_kind == TextKind::cableText ? 2 : 4;
+    return word >= first && !m_words[word - 1].isOption && !ends_well(up_to(word)) && !is_keyword(word - 1);
   }
 
   // The last option, if it is "-cable".
@@ -236,6 +246,14 @@ std::string fault_of(const std::vector<Finding>& findings, std::string_view text
   return "";
 }
 
+TextPlace place_of_refusal(ByHand& hand, const DiagnosisCase& c) {
+  const bool inFile = c.kind == TextKind::optionFile;
+  const std::string line = inFile ? first_line(c.text) : c.text;
+  const std::size_t begin = inFile ? std::min(c.text.find_first_not_of('\n'), c.text.size()) : 0;
+  const TextPlace place = Refusal(hand, line, c.kind).place();
+  return {place.begin + begin, place.end + begin};
+}
+
 bool has_safe_fix(const Finding& finding) { return std::ranges::any_of(finding.fixes, &Fix::safe); }
 
 bool is_error(const Finding& finding) { return finding.severity == Severity::error; }
@@ -247,14 +265,9 @@ Processor DiagnosisBench::processor(std::string_view name) const {
 }
 
 std::optional<TextPlace> DiagnosisBench::rejected(const DiagnosisCase& c) {
+  if (ByHand(m_hardware, c.processor).read(c.text, c.kind)) return {};
   ByHand hand(m_hardware, c.processor);
-  if (hand.read(c.text, c.kind)) return {};
-  const bool inFile = c.kind == TextKind::optionFile;
-  const std::string line = inFile ? first_line(c.text) : c.text;
-  const std::size_t begin = inFile ? std::min(c.text.find_first_not_of('\n'), c.text.size()) : 0;
-  ByHand fresh(m_hardware, c.processor);
-  const TextPlace place = Refusal(fresh, line, c.kind).place();
-  return TextPlace{place.begin + begin, place.end + begin};
+  return place_of_refusal(hand, c);
 }
 
 std::string DiagnosisBench::fault(const DiagnosisCase& c) try {
@@ -262,40 +275,38 @@ std::string DiagnosisBench::fault(const DiagnosisCase& c) try {
   m_hardware.asked = false;
   const std::vector<Finding> findings = diagnose(c.text, c.kind, processor);
   const std::string fixed = with_fixes(c.text, findings);
-  const std::vector<Finding> again = diagnose(fixed, c.kind, processor);
+  const std::vector<Finding> again = fixed == c.text ? findings : diagnose(fixed, c.kind, processor);
   if (m_hardware.asked) return "the hardware description was asked";
-  const std::string told = list(findings);
-  if (std::string fault = fault_of(findings, c.text); !fault.empty()) return fault + told;
+  const auto told = [&](const std::string& fault) {
+    const std::string change =
+        fixed == c.text ? "" : "\n  fixed " + shown(DiagnosisCase{c.processor, c.kind, fixed}) + list(again);
+    return fault + list(findings) + change;
+  };
+  if (std::string fault = fault_of(findings, c.text); !fault.empty()) return told(fault);
   m_figures.findings += findings.size();
 
   ByHand before(m_hardware, c.processor);
   const bool isRead = before.read(c.text, c.kind);
   ++(isRead ? m_figures.read : m_figures.refused);
   const auto error = std::ranges::find_if(findings, is_error);
-  if (isRead && error != findings.end()) return "an error in a text that is read" + told;
-  if (!isRead && error == findings.end()) return "no error in a text that is refused" + told;
-  if (const auto place = rejected(c); place && *place != TextPlace{error->begin, error->end}) {
-    return "refused at " + range(*place) + told;
+  if (isRead && error != findings.end()) return told("an error in a text that is read");
+  if (!isRead && error == findings.end()) return told("no error in a text that is refused");
+  if (!isRead) {
+    ByHand hand(m_hardware, c.processor);
+    const TextPlace place = place_of_refusal(hand, c);
+    if (place != TextPlace{error->begin, error->end}) return told("refused at " + range(place));
   }
 
-  const std::string change =
-      fixed == c.text ? "" : "\n  fixed " + shown(DiagnosisCase{c.processor, c.kind, fixed}) + list(again);
-  const auto errorWithoutFix =
-      std::ranges::any_of(findings, [](const Finding& f) { return is_error(f) && !has_safe_fix(f); });
-  if (!errorWithoutFix && fixed != c.text) {
-    ByHand after(m_hardware, c.processor);
-    if (!after.read(fixed, c.kind)) return "not read after the safe fixes" + told + change;
-    ++(isRead ? m_figures.improved : m_figures.fixed);
-    if (isRead) {
-      std::string names;
-      for (const std::string_view name : differing(before.state(), after.state())) names.append(" ").append(name);
-      if (!names.empty()) return "changed by safe fixes:" + names + told + change;
-    }
-  } else if (!errorWithoutFix && !isRead) {
-    return "safe fixes that change nothing" + told;
-  }
-  if (with_fixes(fixed, again) != fixed) return "not the same the second time" + told + change;
-  return "";
+  if (with_fixes(fixed, again) != fixed) return told("not the same the second time");
+  if (std::ranges::any_of(findings, [](const Finding& f) { return is_error(f) && !has_safe_fix(f); })) return "";
+  if (fixed == c.text) return isRead ? "" : told("safe fixes that change nothing");
+  ByHand after(m_hardware, c.processor);
+  if (!after.read(fixed, c.kind)) return told("not read after the safe fixes");
+  ++(isRead ? m_figures.improved : m_figures.fixed);
+  if (!isRead) return "";
+  std::string names;
+  for (const std::string_view name : differing(before.state(), after.state())) names.append(" ").append(name);
+  return names.empty() ? "" : told("changed by safe fixes:" + names);
 } catch (const std::exception& error) {
   return std::string("an exception: ") + error.what();
 }

@@ -170,15 +170,15 @@ TEST(Mistakes, GiveOneErrorForEachOptionThatHasOne) {
     some.resize(random.between(1, some.size()));
     std::string text = random.chance(70) ? "connect ov odm" : "connect ppc hw";
     std::size_t mistakes = 0;
-    bool isValueDue = false;
+    bool isAfterMistake = false;
     for (Option& option : some) {
       std::string after;
       const Mistake mistake = random.pick(kMistakes);
-      // Without its dash, the option would be the value.
-      const bool isIndependent = !isValueDue || (mistake != no_dash && mistake != lone_dash);
-      const bool isMade = isIndependent && random.chance(40) && mistake(random, option, after);
-      if (isMade) ++mistakes;
-      isValueDue = isMade && mistake == no_value;
+      // Without its dash, the option would belong to the one before it, which must be right and have no such keyword.
+      const bool losesDash = mistake == no_dash || mistake == lone_dash;
+      const bool isIndependent = !losesDash || (!isAfterMistake && option.name != "-port");
+      isAfterMistake = isIndependent && random.chance(40) && mistake(random, option, after);
+      if (isAfterMistake) ++mistakes;
       text += text_of(option) + after;
     }
     std::size_t count = 0;

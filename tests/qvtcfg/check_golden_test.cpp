@@ -150,7 +150,7 @@ INSTANTIATE_TEST_SUITE_P(All, CheckOfABadFile, testing::ValuesIn(goldens("bad"))
 
 using CheckOfACleanFile = Check;
 
-TEST_P(CheckOfACleanFile, PrintsNothing) { EXPECT_EQ(output(), ""); }
+TEST_P(CheckOfACleanFile, FindsNothing) { EXPECT_EQ(output(), "1 file: nothing found\n"); }
 
 INSTANTIATE_TEST_SUITE_P(All, CheckOfACleanFile, testing::ValuesIn(goldens("clean")), name_of);
 
