@@ -1,6 +1,8 @@
 // The diagnosis of one text, and its fixes.
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 #include <utility>
 
 #include "SdkDebugDialog/Diagnosis.h"
@@ -85,19 +87,36 @@ std::vector<Finding> diagnose(std::string_view text, TextKind kind, const Proces
   return findings;
 }
 
-std::string with_fixes(std::string_view text, const std::vector<Finding>& findings, FixChoice choice) {
-  std::vector<const Replacement*> chosen;
-  std::size_t from = 0;
-  for (const Finding& finding : findings) {
-    const auto found =
-        std::ranges::find_if(finding.fixes, [&](const Fix& fix) { return fix.safe || choice == FixChoice::allFirst; });
-    if (found == finding.fixes.end()) continue;
-    for (const Replacement& replacement : found->replacements) chosen.push_back(&replacement);
+namespace {
+
+struct InOrder {
+  bool operator()(const Replacement* a, const Replacement* b) const {
+    return std::pair(a->begin, a->end) < std::pair(b->begin, b->end);
   }
-  std::ranges::stable_sort(chosen, {}, [](const Replacement* r) { return std::pair(r->begin, r->end); });
+};
+using Replacements = std::multiset<const Replacement*, InOrder>;
+
+bool overlaps(const Replacements& chosen, const Replacement& replacement) {
+  const auto next = chosen.upper_bound(&replacement);
+  if (next != chosen.end() && (*next)->begin < replacement.end) return true;
+  return next != chosen.begin() && (*std::prev(next))->end > replacement.begin;
+}
+
+}  // namespace
+
+std::string with_fixes(std::string_view text, const std::vector<Finding>& findings, FixChoice choice) {
+  Replacements chosen;
+  for (const Finding& finding : findings) {
+    const auto fix =
+        std::ranges::find_if(finding.fixes, [&](const Fix& f) { return f.safe || choice == FixChoice::allFirst; });
+    if (fix == finding.fixes.end()) continue;
+    // A fix is made whole or not at all.
+    if (std::ranges::any_of(fix->replacements, [&](const Replacement& r) { return overlaps(chosen, r); })) continue;
+    for (const Replacement& replacement : fix->replacements) chosen.insert(&replacement);
+  }
   std::string out;
+  std::size_t from = 0;
   for (const Replacement* const replacement : chosen) {
-    if (replacement->begin < from) continue;
     out.append(text, from, replacement->begin - from);
     out += replacement->text;
     from = replacement->end;

@@ -30,6 +30,8 @@ namespace {
 
 using Takes = Option::Takes;
 
+constexpr std::size_t kMostErrors = 10 * Report::kMostOfOneKind;
+
 // In the order of Slot.
 constexpr Code kUnknown[] = {Code::unknownHead,   Code::unknownTarget,  Code::unknownConnection,
                              Code::unknownOption, Code::unknownKeyword, Code::invalidValue};
@@ -183,6 +185,8 @@ bool Examiner::refused(Slot slot) {
   const Piece word = *ahead();
   const bool isOption = is_option_word(word.text);
   if (slot == Slot::option && isOption) m_isLost = false;
+  // Nobody reads on, and looking for what was meant takes long.
+  if (m_report.errors() > kMostErrors) m_isLost = true;
   if (m_isLost) return slot == Slot::option && begins_option(word);
   if (slot == Slot::keyword && ahead(1) != nullptr && ahead(1)->text == "-") {
     // The reader takes both words before it looks at the first one.
