@@ -79,13 +79,17 @@ Result Tool::qvtcfg(std::vector<std::string> arguments, const std::string& input
 
 Result Tool::qvtcfg_on_terminal(std::vector<std::string> arguments, std::vector<std::string> environment) const {
   arguments.insert(arguments.begin(), QVTCFG);
+  return on_terminal(arguments, std::move(environment));
+}
+
+Result Tool::on_terminal(const std::vector<std::string>& command, std::vector<std::string> environment) const {
   int terminal = -1;
   const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
   if (child < 0) throw std::system_error(errno, std::generic_category(), "no pseudo-terminal; is /dev/pts mounted?");
   if (child == 0) {
     unsetenv("NO_COLOR");
     for (std::string& variable : environment) putenv(variable.data());
-    become(arguments, m_folder);
+    become(command, m_folder);
   }
   Result result;
   char block[4096];

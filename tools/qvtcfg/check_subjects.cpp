@@ -46,7 +46,7 @@ std::vector<std::string> option_files_in(const std::string& folder) {
   std::vector<std::string> paths;
   const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
   if (!stream) return paths;
-  const std::string start = folder == "." ? "" : folder.ends_with('/') ? folder : folder + "/";
+  const std::string start = folder.ends_with('/') ? folder : folder + "/";
   while (const dirent* const entry = readdir(stream.get())) {
     if (is_option_file_name(entry->d_name)) paths.push_back(start + entry->d_name);
   }
@@ -88,7 +88,8 @@ class Finder {
     checked.error = std::move(error);
   }
 
-  void add_file(const std::string& path, const std::string& error = "") {
+  void add_file(std::string path, const std::string& error = "") {
+    while (path.starts_with("./") && path.size() > 2) path.erase(0, 2);
     const std::string processor = processor_of(path);
     const TextKind kind =
         processor.empty() ? kind_of(m_arguments.text_kind, TextKind::optionFile) : TextKind::optionFile;

@@ -24,7 +24,10 @@ class Work {
 
   void run() {
     try {
-      for (std::size_t i = m_next++; i < m_count; i = m_next++) m_work(i);
+      for (std::size_t i = m_next++; i < m_count; i = m_next++) {
+        m_work(i);
+        ++m_done;
+      }
     } catch (...) {
       m_next = m_count;
       const std::scoped_lock lock(m_mutex);
@@ -46,7 +49,7 @@ class Work {
     return m_change.wait_for(lock, time, [&] { return m_ended == threads; });
   }
 
-  std::size_t begun() const { return std::min(m_next.load(), m_count); }
+  std::size_t done() const { return m_done; }
 
   void rethrow() const {
     if (m_error) std::rethrow_exception(m_error);
@@ -56,6 +59,7 @@ class Work {
   std::size_t m_count;
   const std::function<void(std::size_t)>& m_work;
   std::atomic<std::size_t> m_next = 0;
+  std::atomic<std::size_t> m_done = 0;
   std::mutex m_mutex;
   std::condition_variable m_change;
   std::size_t m_ended = 0;
@@ -66,7 +70,7 @@ void tell_progress(Work& work, std::size_t threads, std::size_t count, const std
   using std::chrono::milliseconds;
   if (work.wait(threads, milliseconds(1000))) return;
   do {
-    std::fprintf(stderr, "\r%zu of %zu %s", work.begun(), count, what.c_str());
+    std::fprintf(stderr, "\r%zu of %zu %s", work.done(), count, what.c_str());
   } while (!work.wait(threads, milliseconds(100)));
   std::fputs("\r\033[K", stderr);
 }
