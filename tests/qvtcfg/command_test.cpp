@@ -142,7 +142,7 @@ TEST_F(Read, TextInOtherLanguagesIsText) {
 TEST_F(Read, LongTextInMessagesIsCut) {
   const Result result = qvtcfg({"read", "ovrin_0", "connect ov odm -cable " + std::string(100000, 'x') + " 1"});
   EXPECT_EQ(result.code, 3);
-  EXPECT_LT(result.err.size(), 600U);
+  EXPECT_LT(result.err.size(), 1000U);
   EXPECT_THAT(result.err, IsComplaint("UNKNOWN Parameter 'xxx"));
 }
 

@@ -1,0 +1,78 @@
+// How the commands refuse a text: every error with its place, and what the engine says.
+
+#include "tool.h"
+
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr const char* kText = "connect ov odm -cabel type zarvek_platformusb prot USB1 -debugdevice deviceNr 010";
+
+class Refusals : public Tool {
+ protected:
+  Refusals() { write_option_file("ovrin_0", kText); }
+
+  void expect_errors(const Result& result, const std::string& name) const {
+    EXPECT_EQ(result.code, 3);
+    EXPECT_EQ(result.out, "");
+    EXPECT_THAT(result.err, IsComplaint("qvtcfg: " + name + ": the text is not understood at '-cabel'"));
+    EXPECT_THAT(result.err, HasSubstr("\n" + name + ":1:16: error: no option '-cabel'; did you mean '-cable'?"));
+    EXPECT_THAT(result.err, HasSubstr("\n     |                ^^^^^^\n"));
+    EXPECT_THAT(result.err, HasSubstr("\n" + name + ":1:47: error: '-cable' has no keyword 'prot'"));
+    EXPECT_THAT(result.err, Not(HasSubstr("warning:")));
+  }
+};
+
+TEST_F(Refusals, OfAnOptionFileShowItsErrors) {
+  for (const std::vector<std::string>& arguments : {std::vector<std::string>{"show", "ovrin_0"},
+                                                    {"command", "ovrin_0"},
+                                                    {"set", "ovrin_0", "debug-device=1"},
+                                                    {"copy", "ovrin_0", "ovrin_1"},
+                                                    {"diff", "ovrin_0"},
+                                                    {"unset", "ovrin_0", "debug-device"}}) {
+    expect_errors(qvtcfg(arguments), "etc/qvt_ovrin_0.opt");
+  }
+}
+
+TEST_F(Refusals, OfACommandShowItsErrors) {
+  expect_errors(qvtcfg({"read", kText}), "the command given");
+  expect_errors(qvtcfg({"read", "ovrin_0", kText}), "the command given");
+  expect_errors(qvtcfg({"read", "-"}, kText), "standard input");
+  std::filesystem::remove(folder() / "design.json");
+  expect_errors(qvtcfg({"read", kText}), "the command given");
+  expect_errors(qvtcfg({"diff", kText}), "the command given");
+  expect_errors(qvtcfg({"diff", "etc/qvt_ovrin_0.opt"}), "etc/qvt_ovrin_0.opt");
+}
+
+TEST_F(Refusals, OfACableTextShowItsErrors) {
+  const Result result = qvtcfg({"cable", "parse", "-cable tpye zarvek_platformusb"});
+  EXPECT_EQ(result.code, 3);
+  EXPECT_THAT(result.err,
+              HasSubstr("\nthe text given:1:8: error: '-cable' has no keyword 'tpye'; did you mean 'type'?"));
+}
+
+TEST_F(Refusals, EndWithWhatTheEngineSays) {
+  EXPECT_THAT(qvtcfg({"show", "ovrin_0"}).err, EndsWith("\nqvtcfg: note: the engine says: UNKNOWN Option ''\n"));
+}
+
+TEST_F(Refusals, OfAProcessorTakeItsDesignIntoAccount) {
+  write_option_file("ovrin_1", "connect ov stub");
+  EXPECT_THAT(qvtcfg({"show", "ovrin_1"}).err, HasSubstr("[connection-not-admitted]"));
+}
+
+TEST_F(Refusals, InJsonHaveTheErrors) {
+  const auto answer = nlohmann::json::parse(qvtcfg({"--json", "show", "ovrin_0"}).out);
+  const auto& findings = answer["error"]["findings"];
+  ASSERT_EQ(findings.size(), 2U);
+  EXPECT_EQ(findings[0]["code"], "unknown-option");
+  EXPECT_EQ(findings[1]["column"], 47);
+  EXPECT_FALSE(nlohmann::json::parse(qvtcfg({"--json", "show", "ovrin_9"}).out)["error"].contains("findings"));
+}
+
+TEST_F(Refusals, UseColoursOnATerminal) {
+  EXPECT_THAT(qvtcfg_on_terminal({"show", "ovrin_0"}).out, HasSubstr("\033[1;31m^^^^^^\033[0m"));
+}
+
+}  // namespace
