@@ -41,11 +41,11 @@ TEST_F(Explain, NamesTheFileAndItsCommand) {
 }
 
 TEST_F(Explain, TellsWhereEachValueComesFrom) {
-  EXPECT_EQ(row("name"), "name ovrin_0 the design no: it has its default");
+  EXPECT_EQ(row("name"), "name ovrin_0 the design -");
   EXPECT_EQ(row("connection"), "connection hardware 1:12 odm yes");
   EXPECT_EQ(row("frequency"), "frequency 12 MHz 1:47 frequency 12000000 yes");
   EXPECT_THAT(row("port"), StartsWith("port USB21 the cable's default "));
-  EXPECT_THAT(row("bscan"), StartsWith("bscan USER2 the default no: "));
+  EXPECT_THAT(row("bscan"), StartsWith("bscan USER2 the default -"));
   EXPECT_THAT(row("devices"), StartsWith("devices 1 device 1:66 -configdevice devicenr 1 "));
 }
 

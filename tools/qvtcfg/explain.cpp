@@ -93,6 +93,11 @@ std::string written_text(const SettingState& state) {
   return state.written ? "yes" : "no: " + visible(state.whyNotWritten);
 }
 
+// A default need not be written.
+std::string written_cell(const SettingState& state) {
+  return !state.written && state.value == state.initial ? "-" : written_text(state);
+}
+
 std::string value_cell(const Explained& e) {
   const auto* const devices = std::get_if<std::vector<SdkDebugDialog::JtagOption>>(&e.state.value);
   if (devices == nullptr || devices->empty()) return shown_value(e.setting, e.state.value);
@@ -113,7 +118,7 @@ void print_table(const std::vector<Explained>& all, const Lines& lines, bool eve
   for (const Explained& e : all) {
     const bool said = e.origin.kind == Origin::Kind::words;
     if (!every && !e.state.applies && !said && e.state.value == e.state.initial) continue;
-    rows.push_back({std::string(e.setting.name), value_cell(e), origin_text(e.origin, lines), written_text(e.state)});
+    rows.push_back({std::string(e.setting.name), value_cell(e), origin_text(e.origin, lines), written_cell(e.state)});
   }
   out.table(rows);
 }
