@@ -163,6 +163,9 @@ TEST_F(Check, NamesAFileThatCannotBeReadAndChecksTheOthers) {
             "qvtcfg: ovrin_7: no such file; the design has no processor 'ovrin_7' (did you mean 'ovrin_0'?)\n");
   EXPECT_THAT(result.out, EndsWith("1 file: 1 error; 1 can be fixed with --fix; 4 files not checked\n"));
   EXPECT_EQ(qvtcfg({"check", "/dev/null"}).code, 4);
+  EXPECT_EQ(qvtcfg({"check", "no/where"}).err, "qvtcfg: no/where: no such file\n");
+  EXPECT_EQ(qvtcfg({"check", "connect ov sim"}).err,
+            "qvtcfg: connect ov sim: no such file; a text is read from standard input, with -\n");
 }
 
 TEST_F(Check, OfAFolderWithoutOptionFilesIsAnError) {

@@ -109,15 +109,19 @@ class Finder {
   void add_path(const std::string& operand) {
     struct stat status = {};
     if (stat(operand.c_str(), &status) != 0) {
-      std::string error = std::strerror(errno);
-      const bool name = m_design && errno == ENOENT && operand.find('/') == std::string::npos;
-      if (name) error = "no such file; " + m_design->find(operand).error().message;
-      add_file(operand, error);
+      add_file(operand, errno == ENOENT ? "no such file" + hint(operand) : std::strerror(errno));
     } else if (S_ISDIR(status.st_mode)) {
       add_folder(operand);
     } else {
       add_file(operand);
     }
+  }
+
+  // What may be meant by the name of a file that is not there.
+  std::string hint(const std::string& operand) const {
+    if (operand.find_first_of(kWhiteSpace) != std::string::npos) return "; a text is read from standard input, with -";
+    if (!m_design || operand.find('/') != std::string::npos) return "";
+    return "; " + m_design->find(operand).error().message;
   }
 
   void add_folder(const std::string& folder) {
