@@ -69,7 +69,7 @@ std::string range(const TextPlace& place) { return std::to_string(place.begin) +
 // Finds the word that a reader rejects: the one that the reader read last, but for
 //
 //   a keyword or option without its value    that keyword or option; the reader read the option behind it as well
-//   an unknown keyword                       the keyword; the reader read its value, or a lone dash, as well
+//   an unknown keyword                       the keyword; the reader read its value as well
 //   a check of the cable at the end          the last frequency in the last "-cable"; "-cable" for what is missing
 //   a text that ends too early               its last word; all of a text without words
 //
@@ -91,7 +91,7 @@ class Refusal {
     const auto count = static_cast<std::size_t>(std::ranges::count_if(m_words, isRead));
     if (count == 0) return {0, m_line.size()};
     const Word& last = m_words[count - 1];
-    if (last.isLoneDash) return behind_unknown_keyword(count - 1) ? m_words[count - 2].place : last.place;
+    if (last.isLoneDash) return last.place;
     if (count == m_words.size()) {
       if (const auto cable = last_cable(); cable && ends_well(m_line)) return failed_check(*cable);
     }
@@ -149,18 +149,14 @@ class Refusal {
     // Mostly the error text tells.
     read(std::string(m_line));
     const std::string unknown = "UNKNOWN Parameter '" + std::string(this->word(word)) + "' for ";
-    if (m_error.starts_with(unknown) && m_error.find(" option '-", unknown.size() - 1) != std::string::npos)
+    if (m_error.starts_with(unknown) && m_error.find(" option '-", unknown.size() - 1) != std::string::npos) {
       return false;
+    }
     const std::string text = std::string(up_to(word + 1)) + " ";
     // One of them is accepted by every keyword.
     const auto values = {"0",     "zarvek_parallel3", "cpu", "sp", "ppc405", "m", "1", "2", "3", "jtag",
                          "USER1", "cycle_approximate"};
     return std::ranges::any_of(values, [&](const char* value) { return ends_well(text + value); });
-  }
-
-  bool behind_unknown_keyword(std::size_t word) {
-    const std::size_t first = m_kind == TextKind::cableText ? 2 : 4;
-    return word >= first && !m_words[word - 1].isOption && !ends_well(up_to(word)) && !is_keyword(word - 1);
   }
 
   // The last option, if it is "-cable".

@@ -74,7 +74,7 @@ TEST(Rejected, IsALoneDash) {
   EXPECT_EQ(rejected("connect ov odm -cable type - -quiet"), "connect ov odm -cable type [-] -quiet");
   EXPECT_EQ(rejected("connect ov odm -quiet x -"), "connect ov odm -quiet [x] -");
   EXPECT_EQ(rejected("connect ov odm -bscan -"), "connect ov odm -bscan [-]");
-  EXPECT_EQ(rejected("connect ov odm -cable x - -quiet"), "connect ov odm -cable [x] - -quiet");
+  EXPECT_EQ(rejected("connect ov odm -cable x - -quiet"), "connect ov odm -cable x [-] -quiet");
 }
 
 TEST(Rejected, IsWhatFailsAtTheEnd) {

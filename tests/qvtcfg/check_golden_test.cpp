@@ -1,6 +1,8 @@
 // What "qvtcfg check" prints, as a person sees it. tests/qvtcfg/check/ has for each kind of finding
 //
-//   CODE.opt    an option file, CODE.txt  a command, or CODE/  a folder to work in, with files that have such a finding
+//   CODE.opt    an option file that has such a finding
+//   CODE.txt    or a command
+//   CODE/       or a folder with option files; its file "design" names one of examples/designs
 //   CODE.out    the output for it
 //   CODE.fixed  the text after --fix, if there are safe fixes
 //
@@ -117,6 +119,8 @@ class Check : public Tool, public testing::WithParamInterface<Golden> {
   Result check(std::vector<std::string> arguments) const {
     if (fs::is_directory(input())) {
       fs::copy(input(), folder(), fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+      fs::remove(folder() / "design.json");
+      if (exists("design")) use_design(read("design"));
       return qvtcfg(arguments);
     }
     if (input().extension() == ".txt") {
