@@ -195,8 +195,8 @@ bool Examiner::refused(Slot slot) {
     return false;
   }
   if (isOption && slot == Slot::keyword) {
-    // Behind a keyword that is not known it would become the value.
-    if (m_lastRole == Role::unknown) return false;
+    // Behind a keyword without a value it would become the value.
+    if (m_lastRole != Role::value && m_lastRole != Role::option) return false;
     std::optional<Repair> found = without_dash(keyword_names(here().option->group), word);
     if (!found) return false;
     apply(m_report.add(Code::unknownOption, place_of(word), "no option " + quoted(word.text)), std::move(*found));

@@ -56,7 +56,7 @@ bool uses_cable(const Configuration& configuration) {
 
 // A cable with a serial number is that one, wherever it is plugged in.
 std::string cable_key(const CableOption& cable) {
-  const int type = cable.type;
+  const auto type = static_cast<std::uint32_t>(cable.type);
   if (!cable.esn.empty()) return key_of(type, cable.esn);
   return key_of(type, std::string(), cable.port, cable.modulename, cable.modulearg, cable.url);
 }
