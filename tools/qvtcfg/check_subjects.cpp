@@ -75,9 +75,11 @@ class Finder {
     std::vector<Checked>& texts = m_found.texts;
     const auto shown = [](const Checked& checked) -> const std::string& { return checked.subject.shown; };
     std::ranges::stable_sort(texts, {}, shown);
-    texts.erase(std::ranges::unique(texts, {}, shown).begin(), texts.end());
-    std::ranges::sort(m_found.defaults);
-    m_found.defaults.erase(std::ranges::unique(m_found.defaults).begin(), m_found.defaults.end());
+    const auto same = [&](const Checked& a, const Checked& b) { return shown(a) == shown(b); };
+    texts.erase(std::unique(texts.begin(), texts.end(), same), texts.end());
+    std::vector<std::string>& defaults = m_found.defaults;
+    std::ranges::sort(defaults);
+    defaults.erase(std::unique(defaults.begin(), defaults.end()), defaults.end());
     return std::move(m_found);
   }
 
