@@ -21,7 +21,6 @@ using SdkDebugDialog::find_setting;
 using SdkDebugDialog::nearest_name;
 using SdkDebugDialog::Processor;
 using SdkDebugDialog::Setting;
-using SdkDebugDialog::SettingKind;
 using SdkDebugDialog::settings;
 using SdkDebugDialog::SettingState;
 using SdkDebugDialog::SettingValue;
