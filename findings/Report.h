@@ -15,6 +15,8 @@
 
 namespace SdkDebugDialog {
 
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 // A part of a text, in bytes.
 struct Place {
   std::size_t begin = 0;

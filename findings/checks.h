@@ -23,6 +23,9 @@ void check_text(std::string_view value, const Place& place, Report& report);
 // line that is read are known already: what is one of them is left out.
 void check_file(const Subject& subject, Report& report);
 
+// Whether a line looks like a comment.
+bool is_comment(std::string_view line);
+
 // The words of one device of the chain, as far as it has them.
 struct DeviceWords {
   Place option;                                   // "-configdevice"

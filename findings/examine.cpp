@@ -324,7 +324,7 @@ void Examiner::report_unknown(const Refusal& at) {
     m_isLost = false;
     return;
   }
-  if (word.starts_with('#') || word.starts_with("//")) {
+  if (at.slot == Slot::head ? is_comment(word) : word.starts_with('#') || word.starts_with("//")) {
     change_kind(Code::comment);
     finding.message = "there are no comments in a command";
     finding.remedy = at.slot == Slot::head ? "remove the line" : "remove the comment";

@@ -9,12 +9,13 @@
 
 #include "SdkDebugDialog/OptionFile.h"
 #include "findings/checks.h"
+#include "findings/names.h"
+#include "findings/suggest.h"
 
 namespace SdkDebugDialog {
 namespace {
 
 constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 bool is_blank(std::string_view text) { return text.find_first_not_of(kWhiteSpace) == text.npos; }
 
@@ -140,20 +141,30 @@ void check_carriage_returns(const Subject& subject, std::size_t lineEnd, Report&
 
 // --- The lines behind it ---
 
-bool is_comment(std::string_view line) {
-  constexpr std::string_view kMarks[] = {"#", "//", ";", "--"};
-  return std::ranges::any_of(kMarks, [&](std::string_view mark) { return line.starts_with(mark); });
+// Whether it begins with a head, or with what resembles one.
+bool is_command(std::string_view line) {
+  if (line.starts_with(kByteOrderMark)) line.remove_prefix(kByteOrderMark.size());
+  const std::string_view word = line.substr(0, line.find_first_of(kWhiteSpace));
+  return !nearest(word, head_names(Source::command)).names.empty();
 }
 
 void check_further_lines(const Subject& subject, std::size_t begin, Report& report) {
   Place all;
   std::size_t count = 0;
+  // A first line that is no command is an error; what is behind it tells what to do.
+  const bool isFirstCommand = is_command(subject.in(trimmed(subject, subject.line)));
   while (begin < subject.text.size()) {
     const std::size_t end = std::min(subject.text.find('\n', begin), subject.text.size());
     const Place line = {begin, end};
     begin = end + 1;
     if (is_blank(subject.in(line))) continue;
     const Place place = trimmed(subject, line);
+    if (!isFirstCommand) {
+      if (!is_command(subject.in(place))) continue;
+      report.add(Code::furtherLines, place, "the command is not in the first line, which alone is read",
+                 "remove the lines before it");
+      return;
+    }
     if (is_comment(subject.in(place))) {
       report.add(Code::comment, place, "a comment is a line that is not read, and lost when the file is written",
                  "keep comments elsewhere");
@@ -168,6 +179,11 @@ void check_further_lines(const Subject& subject, std::size_t begin, Report& repo
 }
 
 }  // namespace
+
+bool is_comment(std::string_view line) {
+  constexpr std::string_view kMarks[] = {"#", "//", ";", "--"};
+  return std::ranges::any_of(kMarks, [&](std::string_view mark) { return line.starts_with(mark); });
+}
 
 void check_file(const Subject& subject, Report& report) {
   if (!check_bytes(subject, report)) return;

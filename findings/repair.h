@@ -46,8 +46,6 @@ std::optional<Repair> with_one_dash(const Refusal& refusal, const Piece& word);
 // A dash in front of a keyword, or of a value that is one of a few words.
 std::optional<Repair> without_dash(const Names& names, const Piece& word);
 
-inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
 // Whether all of the word is characters that others separate words with, and the remedy.
 bool is_separator(std::string_view word);
 std::string not_a_blank(std::string_view separator);

@@ -120,8 +120,14 @@ bool lacks_prefix(const NumberRule& rule, const Value& value) {
 // The number that was probably meant; people type none that is longer.
 constexpr std::size_t kLongestMeant = 64;
 
+bool is_quote(char c) { return c == '"' || c == '\''; }
+
 std::optional<std::int64_t> meant_by(const NumberRule& rule, const Value& value) {
-  if (value.text.size() > kLongestMeant) return std::nullopt;
+  const std::string_view text = value.text;
+  if (text.size() > kLongestMeant) return std::nullopt;
+  if (text.size() > 2 && is_quote(text.front()) && text.front() == text.back()) {
+    return parse_number(text.substr(1, text.size() - 2), rule.scale, rule.unit);
+  }
   if (lacks_prefix(rule, value)) return to_signed("0x" + std::string(value.text));
   if (is_octal(rule, value)) return to_decimal(value.text);
   return parse_number(value.text, rule.scale, rule.unit);
@@ -223,8 +229,6 @@ void check_address(const Keyword& row, std::string_view value, const Place& plac
   port.stored = cut<std::uint32_t>(static_cast<std::uint64_t>(port.number));
   check(kPort, port, {place.begin + colon + 1, place.end}, report);
 }
-
-bool is_quote(char c) { return c == '"' || c == '\''; }
 
 }  // namespace
 
