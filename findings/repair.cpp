@@ -32,16 +32,9 @@ bool is_plain_number(std::string_view text) {
   return !digits.empty() && digits.find_first_not_of(allowed) == std::string_view::npos;
 }
 
-// A part of a word, as it would be read as a word of its own: without white space around it.
 Piece part(const Piece& word, std::size_t from, std::size_t size = std::string_view::npos) {
-  std::string_view text = word.text.substr(from, size);
-  std::size_t begin = word.begin + from;
-  while (!text.empty() && is_space(text.front())) {
-    text.remove_prefix(1);
-    ++begin;
-  }
-  while (!text.empty() && is_space(text.back())) text.remove_suffix(1);
-  return {text, begin, begin + text.size()};
+  const std::string_view text = word.text.substr(from, size);
+  return {text, word.begin + from, word.begin + from + text.size()};
 }
 
 Fix safe_fix(std::string title, std::size_t begin, std::size_t end, std::string text) {
@@ -254,6 +247,8 @@ std::optional<Repair> without_dash(const Names& names, const Piece& word) {
 std::optional<Repair> repair(const Refusal& refusal, const Piece& word) {
   using Way = std::optional<Repair> (*)(const Refusal&, const Piece&);
   constexpr Way kWays[] = {without_quotes, without_separator, with_one_dash, with_blank, with_other_letter};
+  // A carriage return in a word is another matter once the word ends there.
+  if (std::ranges::any_of(word.text, is_space)) return std::nullopt;
   for (const Way way : kWays) {
     if (std::optional<Repair> found = way(refusal, word)) return found;
   }
