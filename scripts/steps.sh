@@ -155,7 +155,7 @@ step_tsan() {
 # replaces the heap functions, as valgrind does, and traces and kills processes.
 step_valgrind() {
   build release --preset release
-  for program in util platform model options hwquery settings threads docs qvtcfg; do
+  for program in util platform model options hwquery settings findings threads docs qvtcfg; do
     run "valgrind: $program" valgrind --quiet --error-exitcode=1 --leak-check=full --trace-children=yes \
       --trace-children-skip='/bin/*,/usr/bin/*' "build/release/tests/${program}_tests"
     summarise "$what" "$beginning"

@@ -29,7 +29,7 @@ ROOT = HERE.parents[1]
 WORK = ROOT / "build/mutants"
 BASE = WORK / "base"
 
-FOLDERS = [name for name in ("model", "options", "hwquery", "settings", "util") if (ROOT / name).is_dir()]
+FOLDERS = [name for name in ("model", "options", "hwquery", "settings", "findings", "util") if (ROOT / name).is_dir()]
 HELPER = "faults_helper"
 CORE = "CMakeFiles/core.dir/"  # the library's objects
 SAMPLE = 30  # mutants of a file that is compiled by itself
