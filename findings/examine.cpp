@@ -7,6 +7,7 @@
 #include "SdkDebugDialog/Engine.h"
 #include "SdkDebugDialog/EngineImp.h"
 #include "findings/effects.h"
+#include "findings/guess.h"
 #include "findings/repair.h"
 #include "model/base_address.h"
 #include "model/processor_kind.h"
@@ -36,20 +37,10 @@ constexpr std::size_t kMostErrors = 10 * Report::kMostOfOneKind;
 constexpr Code kUnknown[] = {Code::unknownHead,   Code::unknownTarget,  Code::unknownConnection,
                              Code::unknownOption, Code::unknownKeyword, Code::invalidValue};
 
-bool is_option_word(std::string_view word) {
-  return word.size() > 1 && word[0] == '-' && (word[1] < '0' || word[1] > '9');
-}
-
 Place place_of(const Piece& word) { return {word.begin, word.end}; }
 Place place_of(const WalkedWord& word) { return {word.begin, word.end}; }
 
 std::string name_of(const Keyword& row) { return quoted(row.name.text()); }
-
-// The first word of the form in which the processor's own JTAG pins are written.
-std::string_view own_pins_keyword() {
-  const std::size_t begin = kOwnPinsWritten.find_first_not_of(' ');
-  return kOwnPinsWritten.substr(begin, kOwnPinsWritten.find(' ', begin) - begin);
-}
 
 // Every word of a text, one after the other. A word that is refused is reported. If it is certain enough what was
 // meant, the words behind it are read as the reader reads the text with the fix; else what follows up to the next
@@ -91,15 +82,15 @@ class Examiner : public Walker {
   bool without_mark();
   bool written_head();
   bool with_head();
-  bool is_known_elsewhere(const Refusal& at, std::string_view word) const;
   void report_unknown(const Refusal& refusal);
+  Surroundings surroundings();
   Finding& report_dash(const Piece& dash);
-  bool unit_apart(Finding& finding) const;
 
   // --- Values ---
 
   bool accepts(const Keyword& row, std::string_view value);
   bool separator_in_place_of_value(const Keyword& row);
+  void option_joined_to_value(const Keyword& row);
   void report_value(const Refusal& refusal);
   void say(const WalkedWord& word, const Keyword& row, const Place& value, std::string_view text);
 
@@ -126,7 +117,9 @@ class Examiner : public Walker {
   Role m_lastRole = Role::unknown;
   const Keyword* m_lastRow = nullptr;  // of the last value
   std::string_view m_lastValue;
-  Place m_keyword;  // the last keyword, or option with a value of its own
+  std::string_view m_skipped;  // an option that the reader took as the value of the last one, or skipped
+  std::size_t m_reported = std::string_view::npos;  // the beginning of a word that is not to be reported again
+  Place m_keyword;                                  // the last keyword, or option with a value of its own
   Place m_option;
   bool m_endsWithCable = false;     // no option has followed the last "-cable" so far
   bool m_hasFrequency = false;      // in the last "-cable"
@@ -187,6 +180,10 @@ bool Examiner::refused(Slot slot) {
   if (slot == Slot::option && isOption) m_isLost = false;
   // Nobody reads on, and looking for what was meant takes long.
   if (m_report.errors() > kMostErrors) m_isLost = true;
+  if (word.begin == m_reported) {
+    m_isLost = true;
+    return false;
+  }
   if (m_isLost) return slot == Slot::option && begins_option(word);
   if (slot == Slot::keyword && ahead(1) != nullptr && ahead(1)->text == "-") {
     // The reader takes both words before it looks at the first one.
@@ -206,6 +203,14 @@ bool Examiner::refused(Slot slot) {
     std::optional<Repair> found = without_dash(value_names(*row()), word);
     if (!found) return false;
     apply(m_report.add(Code::missingValue, m_keyword, name_of(*row()) + " has no value"), std::move(*found));
+    return true;
+  }
+  if (isOption && slot != Slot::option) {
+    // An option that stands before the head, the target or the connection; or one of those with a dash.
+    const Refusal at = refusal(slot);
+    std::optional<Repair> found = without_dash(at.names, word);
+    if (!found) return false;
+    apply(m_report.add(code_of(at, word.text), place_of(word), no_such(at, word.text)), std::move(*found));
     return true;
   }
   if (slot == Slot::head && (without_mark() || written_head() || with_head())) return true;
@@ -241,9 +246,10 @@ bool Examiner::without_mark() {
   word = {behind.substr(spaces), mark.end + spaces, word.end};
   std::vector<Piece> rest;
   if (!word.text.empty()) rest.push_back(word);
-  // Without it, a line of blanks may be another line's turn.
+  // Without it, a line of blanks can become an empty one, which is passed over: another line is then read.
   const std::string_view line = m_subject.in({mark.end, m_subject.line.end});
   const bool isSafe = std::ranges::find_if_not(line, is_space) != line.end();
+  m_isLost = !isSafe;
   apply(finding, {"store it without one", fix("remove the byte-order mark", isSafe, mark, ""), std::move(rest)});
   return true;
 }
@@ -278,12 +284,6 @@ bool Examiner::with_head() {
   return true;
 }
 
-// A keyword of another option, or an option of other places: rather misplaced than misspelt.
-bool Examiner::is_known_elsewhere(const Refusal& at, std::string_view word) const {
-  if (at.slot == Slot::keyword) return !options_with_keyword(word, *at.run).empty();
-  return at.slot == Slot::option && is_option_word(word) && !places_of_option(word, *at.run).empty();
-}
-
 // A dash with a blank behind it, in front of an option's name; or any other dash that stands alone.
 bool Examiner::lone_dash(bool isValueDue) {
   const Piece dash = *ahead();
@@ -308,104 +308,33 @@ Finding& Examiner::report_dash(const Piece& dash) {
                       "remove it, or write an option or a value");
 }
 
-// Reports the next word with what can be said about it, and perhaps a guess.
+// Reports the next word with what can be said about it.
 void Examiner::report_unknown(const Refusal& at) {
-  const std::string_view word = ahead()->text;
-  Finding& finding = m_report.add(code_of(at, word), place_of(*ahead()), no_such(at, word));
-  const auto change_kind = [&](Code code) { finding.kind = &kind_of(code); };
-  const bool isInCable = at.option != nullptr && &at.option->group == &kCable;
-  m_isCableUncertain = m_isCableUncertain || isInCable;
-  m_isLost = true;
-
-  if (at.slot == Slot::target && at.target != nullptr) {
-    change_kind(Code::notInFile);
-    finding.message = quoted(word) + " cannot stand in an option file";
-    finding.remedy = "accepted here: " + listed(at.names, "and");
-    m_isLost = false;
-    return;
-  }
-  if (at.slot == Slot::head ? is_comment(word) : word.starts_with('#') || word.starts_with("//")) {
-    change_kind(Code::comment);
-    finding.message = "there are no comments in a command";
-    finding.remedy = at.slot == Slot::head ? "remove the line" : "remove the comment";
-    return;
-  }
-  if (word == "\\") {
-    finding.remedy = "a command cannot go on in another line: write it in one";
-    return;
-  }
-  if (at.slot == Slot::keyword && same_word(word, own_pins_keyword())) {
-    change_kind(Code::writtenNotRead);
-    finding.message = "the writer writes " + quoted(kOwnPinsWritten.substr(1)) + ", which the reader refuses";
-    finding.remedy = "write 'jtagport cpu'";
-    const Piece* const value = ahead(1);
-    if (value != nullptr) {
-      finding.fixes.push_back(fix("write 'jtagport cpu'", false, {ahead()->begin, value->end}, "jtagport cpu"));
-    }
-    return;
-  }
-  if (unit_apart(finding)) return;
-  if (at.slot == Slot::option) {
-    const auto isJoined = [&](const Option& option) {
-      const Keyword* const row = value_row(option);
-      return (option.runs & at.run->bit) != 0 && row != nullptr && *row->notReadBack != '\0' &&
-             word.size() > option.name.text().size() &&
-             same_word(word.substr(0, option.name.text().size()), option.name.text());
-    };
-    const auto joined = std::ranges::find_if(options(), isJoined);
-    if (joined != options().end()) {
-      change_kind(Code::writtenNotRead);
-      finding.message = "the writer joins the value to " + quoted(joined->name.text()) + ", which the reader refuses";
-      finding.remedy = "write " + std::string(joined->name.text()) + " " + value_in_words(*value_row(*joined));
-      return;
-    }
-  }
-  const bool isElsewhere = is_known_elsewhere(at, word);
-  if (const Names resembling = nearest(word, at.names).names; !isElsewhere && !resembling.empty()) {
-    finding.remedy = "did you mean " + listed(resembling) + "?";
-    finding.fixes.push_back(
-        fix("write " + quoted(resembling.front()), false, place_of(*ahead()), std::string(resembling.front())));
-    m_isLost = at.slot != Slot::keyword;
-    return;
-  }
-  if (at.slot == Slot::keyword &&
-      (is_one_of(word, head_names(Source::command)) || is_one_of(word, target_names(Source::command, nullptr)))) {
-    finding.remedy = "a second command begins here: keep one";
-    return;
-  }
-  if (at.slot == Slot::keyword || at.slot == Slot::option) {
-    if (const Names owners = options_with_keyword(word, *at.run); !owners.empty()) {
-      if (at.slot == Slot::keyword) change_kind(Code::misplacedKeyword);
-      finding.remedy = "it belongs to " + listed(owners);
-      m_isLost = at.slot != Slot::keyword;
-      return;
-    }
-    if (isElsewhere) {
-      change_kind(Code::misplacedOption);
-      finding.message = quoted(word) + " cannot stand here";
-      const bool isBehindSim =
-          at.run == &kHdlSimOptions && find_option(word, kGeneralOptions, letter_case()) != nullptr;
-      finding.remedy = isBehindSim ? "write it before '-sim', which takes all options that follow"
-                                   : "it is an option of " + places_of_option(word, *at.run);
-      return;
-    }
-  }
-  finding.remedy = "accepted here: " + listed(at.names, "and");
+  const Piece word = *ahead();
+  Guess said = guess(at, word, surroundings());
+  if (said.message.empty()) said.message = no_such(at, word.text);
+  Finding& finding =
+      m_report.add(code_of(at, word.text), place_of(word), std::move(said.message), std::move(said.remedy));
+  if (said.code) finding.kind = &kind_of(*said.code);
+  finding.fixes = std::move(said.fixes);
+  m_isCableUncertain = m_isCableUncertain || (at.option != nullptr && &at.option->group == &kCable);
+  m_isLost = !said.goesOn;
 }
 
-// "12 MHz": the unit is no keyword and no option.
-bool Examiner::unit_apart(Finding& finding) const {
-  if (m_lastRow == nullptr || m_subject.in(m_lastWord) != m_lastValue) return false;
-  const Keyword& row = *m_lastRow;
-  const Scale scale = row.kind == Kind::address ? Scale::binary : Scale::decimal;
-  std::string both(m_lastValue);
-  both.append(m_subject.in({finding.begin, finding.end}));
-  const std::optional<std::int64_t> number = parse_number(both, scale, row.unit);
-  if (!number || *row.unit == '\0') return false;
-  const std::string text = std::to_string(*number);
-  finding.remedy = "numbers have no unit: write " + text;
-  finding.fixes.push_back(fix("write " + text, false, {m_lastWord.begin, finding.end}, text));
-  return true;
+Surroundings Examiner::surroundings() {
+  Surroundings around;
+  if (const Piece* const next = ahead(1)) {
+    around.next = next->text;
+    around.nextPlace = place_of(*next);
+  }
+  if (m_lastRole == Role::value && m_isAccepted) {
+    around.row = m_lastRow;
+    around.valuePlace = m_lastWord;
+    around.value = m_lastValue;
+  }
+  around.skipped = m_skipped;
+  around.isBehindHead = m_subject.kind == TextKind::cableText || m_said.target != nullptr;
+  return around;
 }
 
 void Examiner::missing(Slot slot) {
@@ -418,6 +347,9 @@ void Examiner::missing(Slot slot) {
   if (slot == Slot::head && ahead() == nullptr && m_subject.kind == TextKind::optionFile) {
     m_report.add(Code::blankFirstLine, place, "the first line has nothing in it but blanks", "remove the line");
     return;
+  }
+  if (ahead() != nullptr && find_option(ahead()->text, kAnyOptions, letter_case()) == nullptr) {
+    m_reported = ahead()->begin;
   }
   const char* const what = slot == Slot::head ? "a head" : slot == Slot::target ? "a target" : "a connection";
   const bool isFirst = m_lastWord == Place() && ahead() == nullptr;
@@ -477,11 +409,37 @@ bool Examiner::separator_in_place_of_value(const Keyword& row) {
   return true;
 }
 
+// "2-cable type": the reader takes the number, and refuses the next word as a keyword.
+void Examiner::option_joined_to_value(const Keyword& row) {
+  const Piece word = *ahead();
+  const Piece* const next = ahead(1);
+  const std::size_t dash = word.text.find('-', 1);
+  const bool isNumber = row.kind == Kind::number || row.kind == Kind::hexadecimal || row.kind == Kind::address;
+  if (!isNumber || dash == std::string_view::npos || next == nullptr || is_option_word(next->text)) return;
+  const std::string_view number = word.text.substr(0, dash);
+  const Option* const option = find_option(word.text.substr(dash), *run(), letter_case());
+  const bool isKeyword =
+      here().option->takes == Takes::pairs && is_one_of(next->text, keyword_names(here().option->group));
+  if (option == nullptr || isKeyword || next->text == "-" || number.find_first_not_of("0123456789") != number.npos ||
+      run()->bit == kSoftSimOptions.bit || !accepts(row, number)) {
+    return;
+  }
+  const Piece value = {number, word.begin, word.begin + dash};
+  const Piece rest = {word.text.substr(dash), value.end, word.end};
+  Finding& finding = m_report.add(
+      here().option->takes == Takes::pairs ? Code::unknownKeyword : Code::wordWithoutOption, place_of(*next),
+      "in front of it, " + quoted(rest.text) + " is joined to the number " + quoted(number));
+  apply(finding, {"a blank is missing before " + quoted(rest.text),
+                  fix("write a blank before " + quoted(rest.text), true, {value.end, value.end}, " "),
+                  {value, rest}});
+}
+
 void Examiner::value_ahead() {
   const Keyword& row = *Walker::row();
   m_isAccepted = false;
   if (m_isLost) return;
   while (separator_in_place_of_value(row)) continue;
+  option_joined_to_value(row);
   for (;;) {
     const Piece word = *ahead();
     if (accepts(row, word.text)) break;
@@ -496,6 +454,8 @@ void Examiner::value_ahead() {
     m_report.add(Code::skippedOption, place_of(word),
                  "the option " + quoted(word.text) + " is taken as the value of " + name_of(row),
                  "write " + value_in_words(row) + " before it");
+    m_skipped = word.text;
+    return;
   }
   check_number(row, word.text, place_of(word), m_report);
   if (row.kind == Kind::text) check_text(word.text, place_of(word), m_report);
@@ -570,7 +530,10 @@ void Examiner::found(const WalkedWord& word, std::string_view spelled) {
       if (m_isAccepted) say(word, *word.keyword, place_of(word), spelled);
       break;
     case Role::ignored:
-      if (word.option != nullptr) break;  // skipped with the option
+      if (word.option != nullptr) {
+        m_skipped = spelled;
+        break;
+      }
       if (!m_said.notReached) m_said.notReached = place_of(word);
       m_said.notReached->end = word.end;
       break;
@@ -593,22 +556,26 @@ void Examiner::connection_known(const WalkedWord& word) {
 
 void Examiner::not_admitted(const WalkedWord& word, std::uint32_t connection) {
   if (admits(m_imp, connection)) return;
-  Names admitted;
+  std::vector<std::string> admitted;
   for (const Target& target : targets()) {
-    if (target.family != m_processor.procFamily || target.admits != 0 || target.virtualPlatform) continue;
+    const bool isArm = target.family == kFamilyArm;
+    const bool isItsTarget = target.family == m_processor.procFamily && target.admits == 0 && !target.virtualPlatform &&
+                             (!isArm || target.variant == m_processor.procVariant);
     for (const Connection& other : target.connections) {
-      if (admits(m_imp, other.type)) admitted.push_back(other.name.text());
+      if (!isItsTarget || !admits(m_imp, other.type)) continue;
+      admitted.push_back("'connect " + std::string(target.name.text()) + " " + std::string(other.name.text()) + "'");
     }
   }
   m_report.add(Code::connectionNotAdmitted, place_of(word),
-               "processor " + quoted(m_subject.processor.name()) + " cannot be connected by " +
-                   quoted(m_subject.in(place_of(word))),
-               "accepted here: " + listed(admitted, "and"));
+               "processor " + quoted(m_subject.processor.name()) + " has no connection " +
+                   quoted(m_subject.in({m_said.targetWord.begin, word.end})) + " in the design",
+               "it has " + joined(admitted, ", "));
 }
 
 void Examiner::begin_option(const WalkedWord& word) {
   const Option& option = *word.option;
   m_isLost = false;
+  m_skipped = {};
   m_keyword = place_of(word);
   m_option = m_keyword;
   m_endsWithCable = &option.group == &kCable;

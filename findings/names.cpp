@@ -20,15 +20,15 @@ bool is_cable_type(const Keyword& row) { return &row == kCable.keywords.data(); 
 // The texts of a command in which options of the run may stand.
 std::vector<std::string> places_of(const Run& run) {
   std::vector<std::string> places;
-  const auto add_place = [&](std::string_view target, std::string_view connection) {
-    std::string place("'");
-    place.append(target).append(connection.empty() ? "" : " ").append(connection).append("'");
+  const auto add_place = [&](const Target& target, std::string_view connection) {
+    std::string place(target.virtualPlatform ? "'vpconnect " : "'");
+    place.append(target.name.text()).append(connection.empty() ? "" : " ").append(connection).append("'");
     places.push_back(std::move(place));
   };
   for (const Target& target : targets()) {
-    if (target.options == &run) add_place(target.name.text(), {});
+    if (target.options == &run) add_place(target, {});
     for (const Connection& connection : target.connections) {
-      if (&connection.options == &run) add_place(target.name.text(), connection.name.text());
+      if (&connection.options == &run) add_place(target, connection.name.text());
     }
   }
   if (places.empty()) {

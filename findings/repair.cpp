@@ -75,10 +75,14 @@ std::string_view first_separators(std::string_view text) {
   return text.substr(begin, end - begin);
 }
 
-// "type=", "=type" and "type=zarvek_tcf".
+// "type=", "=type", "type=zarvek_tcf" and "=".
 std::optional<Repair> without_separator(const Refusal& refusal, const Piece& word) {
   const std::string_view found = first_separators(word.text);
   if (found.empty()) return std::nullopt;
+  if (found == word.text) {
+    if (refusal.slot != Slot::option && refusal.slot != Slot::keyword) return std::nullopt;
+    return Repair{not_a_blank(found), safe_fix("remove it", word.begin, word.end, ""), {}};
+  }
   const auto begin = static_cast<std::size_t>(found.data() - word.text.data());
   const Piece separator = part(word, begin, found.size());
   const Piece front = part(word, 0, begin);
@@ -211,6 +215,10 @@ std::optional<Repair> with_other_letter(const Refusal& refusal, const Piece& wor
 }
 
 }  // namespace
+
+bool is_option_word(std::string_view word) {
+  return word.size() > 1 && word[0] == '-' && (word[1] < '0' || word[1] > '9');
+}
 
 bool is_separator(std::string_view word) { return first_separators(word) == word; }
 

@@ -46,6 +46,9 @@ std::optional<Repair> with_one_dash(const Refusal& refusal, const Piece& word);
 // A dash in front of a keyword, or of a value that is one of a few words.
 std::optional<Repair> without_dash(const Names& names, const Piece& word);
 
+// Whether the reader takes the word for an option.
+bool is_option_word(std::string_view word);
+
 // Whether all of the word is characters that others separate words with, and the remedy.
 bool is_separator(std::string_view word);
 std::string not_a_blank(std::string_view separator);

@@ -26,6 +26,17 @@ bool differ_in_digits_alone(std::string a, std::string b) {
   return a == b;
 }
 
+// "freq" may stand for "frequency".
+Names beginning_with(std::string_view typed, const Names& names) {
+  constexpr std::size_t kShortest = 4;
+  Names found;
+  for (const std::string_view name : names) {
+    const bool begins = typed.size() >= kShortest && in_small_letters(name).starts_with(typed);
+    if (begins && std::ranges::find(found, name) == found.end()) found.push_back(name);
+  }
+  return found;
+}
+
 }  // namespace
 
 Nearest nearest(std::string_view word, const Names& names) {
@@ -35,7 +46,7 @@ Nearest nearest(std::string_view word, const Names& names) {
   std::size_t least = 3;
   for (const std::string_view name : names) {
     const std::string small = in_small_letters(name);
-    const std::size_t most = small.size() < 4 ? 1 : 2;
+    const std::size_t most = small.size() < 2 ? 0 : small.size() < 4 ? 1 : 2;
     const std::size_t longer = std::max(small.size(), typed.size());
     if (longer - std::min(small.size(), typed.size()) > most) continue;
     const std::size_t apart = edit_distance(typed, small);
@@ -44,6 +55,7 @@ Nearest nearest(std::string_view word, const Names& names) {
     least = apart;
     found.names.push_back(name);
   }
+  if (found.names.empty()) found.names = beginning_with(typed, names);
   found.isOneEdit =
       least == 1 && found.names.size() == 1 && !differ_in_digits_alone(typed, in_small_letters(found.names.front()));
   return found;
@@ -56,7 +68,8 @@ bool is_one_of(std::string_view word, const Names& names) {
 std::string listed(const Names& names, std::string_view last) {
   std::string out;
   for (std::size_t i = 0; i < names.size(); ++i) {
-    if (i != 0) out += i + 1 == names.size() ? std::string(" ").append(last).append(" ") : ", ";
+    const bool isLast = i + 1 == names.size() && !last.empty();
+    if (i != 0) out += isLast ? std::string(" ").append(last).append(" ") : ", ";
     out.append("'").append(names[i]).append("'");
   }
   return out;

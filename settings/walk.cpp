@@ -10,9 +10,6 @@
 namespace SdkDebugDialog {
 namespace {
 
-// Any option may stand here.
-constexpr Run kAnyOptions = {~0U, "anywhere", ""};
-
 std::string_view read_part(std::string_view text, TextKind kind) {
   return kind == TextKind::optionFile ? option_line(text) : text;
 }
@@ -94,7 +91,7 @@ void Walker::command() {
   // What names something in its place; anything else is told. False if nothing can stand there.
   const auto named = [&](Slot slot, Role role, auto find) {
     Token token = next();
-    while (token == Token::value && !find() && refused(slot)) token = next();
+    while (token != Token::end && !find() && refused(slot)) token = next();
     if (token != Token::value) {
       missing(slot);
       return false;

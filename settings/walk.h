@@ -38,6 +38,9 @@ struct WalkedWord {
 //   a lone dash                it counts as no word, so that what follows stands in its place
 std::vector<WalkedWord> walk(std::string_view text, TextKind kind);
 
+// Where any option may stand: behind a target that is not known.
+inline constexpr Run kAnyOptions = {~0U, "anywhere", ""};
+
 // Where a word stands, is missing or is refused.
 enum class Slot { head, target, connection, option, keyword, value };
 
@@ -64,8 +67,8 @@ class Walker {
 
   // A word, and how it is spelled: as in the text, if it was not replaced.
   virtual void found(const WalkedWord& word, std::string_view spelled) = 0;
-  // The next word is refused in this slot: it names nothing, or is an option where a keyword or a value is due. True if
-  // the words ahead were replaced and are to be looked at once more.
+  // The next word is refused in this slot: it names nothing, or is an option where something else is due. True if the
+  // words ahead were replaced and are to be looked at once more.
   virtual bool refused(Slot /*slot*/) { return false; }
   // The same for a lone dash, wherever it stands.
   virtual bool lone_dash(bool /*isValueDue*/) { return false; }

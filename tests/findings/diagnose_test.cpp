@@ -108,6 +108,13 @@ TEST(Diagnose, PutsAnErrorAtTheRejectedWord) {
   EXPECT_THAT(found_in_file("  \t"), ElementsAre("0-3 error blank-first-line"));
 }
 
+TEST(Diagnose, ReportsAWordOnce) {
+  EXPECT_THAT(found("connect -- ov odm"), ElementsAre("8-10 error incomplete-command"));
+  EXPECT_THAT(found("connect ov --odm"), ElementsAre("11-16 error incomplete-command"));
+  EXPECT_THAT(found("connect ov odm -debugdevice deviceNr 2-cable type zarvek_tcf frequency 125000"),
+              ElementsAre("45-49 error unknown-keyword"));
+}
+
 // --- Fixes ---
 
 TEST(Diagnose, FixesWhatIsOneEditAway) {
@@ -126,11 +133,19 @@ TEST(Diagnose, FixesWhatIsOneEditAway) {
   EXPECT_EQ(fixed("qconnect ov odm", TextKind::optionFile), "connect ov odm");
 }
 
+TEST(Diagnose, FixesADashBeforeHeadTargetOrConnection) {
+  EXPECT_EQ(fixed("-connect -ov -odm -quiet"), "connect ov odm -quiet");
+  EXPECT_EQ(fixed("connect ov odm -debugdevice deviceNr 2-cable type zarvek_tcf frequency 125000"),
+            "connect ov odm -debugdevice deviceNr 2 -cable type zarvek_tcf frequency 125000");
+}
+
 TEST(Diagnose, FixesSeparators) {
   EXPECT_EQ(fixed("connect ov odm -cable:type=zarvek_tcf,frequency=125000"),
             "connect ov odm -cable type zarvek_tcf frequency 125000");
   EXPECT_EQ(fixed("connect ov odm -cable type = zarvek_tcf frequency = 125000 port := x"),
             "connect ov odm -cable type zarvek_tcf frequency 125000 port x");
+  EXPECT_EQ(fixed("connect ov odm -cable type zarvek_tcf ; -quiet ,"),
+            "connect ov odm -cable type zarvek_tcf  -quiet ");
   EXPECT_EQ(fixed("connect ov odm -cable\xC2\xA0type\xC2\xA0zarvek_tcf"), "connect ov odm -cable type zarvek_tcf");
 }
 
@@ -168,6 +183,11 @@ TEST(Diagnose, SaysWhereANameBelongs) {
             "'-bscan' cannot stand here; write it before '-sim', which takes all options that follow");
   EXPECT_EQ(said("ov odm"), "the head is missing before the target 'ov'; write 'connect' before it");
   EXPECT_THAT(said("connect ov odm -cable type zarvek_tcf connect ov odm"), HasSubstr("a second command begins here"));
+  EXPECT_THAT(said("connect ov odm -quiet connect ov odm"), HasSubstr("a second command begins here"));
+  EXPECT_THAT(said("connect ov odm -frequency 5"), HasSubstr("'frequency' is a keyword of '-cable'"));
+  EXPECT_THAT(said("connect ov odm -config device 1"), HasSubstr("it is an option of 'vpconnect ov'"));
+  EXPECT_THAT(said("connect ov odm -debug"), HasSubstr("did you mean '-debugdevice'?"));
+  EXPECT_EQ(said("connect ov odm -pfsl type q"), "'type' cannot be 'q'; accepted here: 'm', 's' and 'ms'");
   EXPECT_THAT(said("connect ov odm -cable type zarvek_svffile"), HasSubstr("are not supported"));
   EXPECT_THAT(said("connect ov odm -cable frequency 12 MHz"), HasSubstr("numbers have no unit: write 12000000"));
   EXPECT_THAT(said("connect ov odm \\"), HasSubstr("cannot go on in another line"));
@@ -184,7 +204,8 @@ TEST(Diagnose, ExplainsWhatTheWriterWritesAndNoReaderAccepts) {
 TEST(Diagnose, KnowsTheProcessorOfADesign) {
   const Processor soft = designed("ovrin_0");
   EXPECT_EQ(said("vpconnect ov", TextKind::optionFile, soft),
-            "processor 'ovrin_0' cannot be connected by 'ov'; accepted here: 'sim', 'stub' and 'odm'");
+            "processor 'ovrin_0' has no connection 'ov' in the design; it has 'connect ov sim', 'connect ov stub', "
+            "'connect ov odm'");
   EXPECT_THAT(found_in_file("connect ppc hw -debugdevice cpunr 5", soft), ElementsAre("34-35 error wrong-cpu-number"));
   EXPECT_THAT(found_in_file("connect ppc hw", soft), ElementsAre("8-11 warning other-family"));
   EXPECT_THAT(found_in_file("connect ppc hw -debugdevice fpuType dp", designed("ppc405_0")),
