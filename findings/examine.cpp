@@ -31,6 +31,7 @@ namespace {
 
 using Takes = Option::Takes;
 
+// Then no more is looked for what was meant, since no more is listed.
 constexpr std::size_t kMostErrors = 10 * Report::kMostOfOneKind;
 
 // In the order of Slot.
@@ -78,6 +79,7 @@ class Examiner : public Walker {
   std::string no_such(const Refusal& refusal, std::string_view word) const;
   Code code_of(const Refusal& refusal, std::string_view word) const;
   void apply(Finding& finding, Repair repair, std::size_t words = 1);
+  bool has_needless_dash(Slot slot);
   bool begins_option(const Piece& word);
   bool without_mark();
   bool written_head();
@@ -90,7 +92,9 @@ class Examiner : public Walker {
 
   bool accepts(const Keyword& row, std::string_view value);
   bool separator_in_place_of_value(const Keyword& row);
-  void option_joined_to_value(const Keyword& row);
+  void option_joined_to_number(const Keyword& row);
+  bool refuses_second();
+  Code code_of_second() const;
   void report_value(const Refusal& refusal);
   void say(const WalkedWord& word, const Keyword& row, const Place& value, std::string_view text);
 
@@ -113,7 +117,8 @@ class Examiner : public Walker {
 
   bool m_isLost = false;      // nothing certain can be said about the words up to the next option
   bool m_isAccepted = false;  // the value ahead
-  Place m_lastWord;
+  Place m_lastSeen;           // the last word, also if it was passed over
+  Place m_lastWord;           // the last one that is taken to stand in the text
   Role m_lastRole = Role::unknown;
   const Keyword* m_lastRow = nullptr;  // of the last value
   std::string_view m_lastValue;
@@ -177,52 +182,47 @@ void Examiner::apply(Finding& finding, Repair repair, std::size_t words) {
 bool Examiner::refused(Slot slot) {
   const Piece word = *ahead();
   const bool isOption = is_option_word(word.text);
+  m_lastSeen = place_of(word);
   if (slot == Slot::option && isOption) m_isLost = false;
-  // Nobody reads on, and looking for what was meant takes long.
-  if (m_report.errors() > kMostErrors) m_isLost = true;
-  if (word.begin == m_reported) {
-    m_isLost = true;
-    return false;
-  }
-  if (m_isLost) return slot == Slot::option && begins_option(word);
+  const bool isReported = word.begin == m_reported;
+  if (isReported || m_report.errors() > kMostErrors) m_isLost = true;
+  if (m_isLost) return !isReported && slot == Slot::option && begins_option(word);
+  if (isOption && slot != Slot::option) return has_needless_dash(slot);
   if (slot == Slot::keyword && ahead(1) != nullptr && ahead(1)->text == "-") {
     // The reader takes both words before it looks at the first one.
     m_isLost = true;
     report_dash(*ahead(1));
     return false;
   }
-  if (isOption && slot == Slot::keyword) {
-    // Behind a keyword without a value it would become the value.
-    if (m_lastRole != Role::value && m_lastRole != Role::option) return false;
-    std::optional<Repair> found = without_dash(keyword_names(here().option->group), word);
-    if (!found) return false;
-    apply(m_report.add(Code::unknownOption, place_of(word), "no option " + quoted(word.text)), std::move(*found));
-    return true;
-  }
-  if (isOption && slot == Slot::value) {
-    std::optional<Repair> found = without_dash(value_names(*row()), word);
-    if (!found) return false;
-    apply(m_report.add(Code::missingValue, m_keyword, name_of(*row()) + " has no value"), std::move(*found));
-    return true;
-  }
-  if (isOption && slot != Slot::option) {
-    // An option that stands before the head, the target or the connection; or one of those with a dash.
-    const Refusal at = refusal(slot);
-    std::optional<Repair> found = without_dash(at.names, word);
-    if (!found) return false;
-    apply(m_report.add(code_of(at, word.text), place_of(word), no_such(at, word.text)), std::move(*found));
-    return true;
-  }
   if (slot == Slot::head && (without_mark() || written_head() || with_head())) return true;
   const Refusal at = refusal(slot);
   std::optional<Repair> found;
   if (!is_known_elsewhere(at, word.text)) found = repair(at, word);
-  if (found) {
-    apply(m_report.add(code_of(at, word.text), place_of(word), no_such(at, word.text)), std::move(*found));
-    return true;
+  if (!found) {
+    report_unknown(at);
+    return false;
   }
-  report_unknown(at);
-  return false;
+  apply(m_report.add(code_of(at, word.text), place_of(word), no_such(at, word.text)), std::move(*found));
+  return true;
+}
+
+// A dash before a word that is a name without it. Without such a name the word is an option, and what is due is
+// missing.
+bool Examiner::has_needless_dash(Slot slot) {
+  // Behind a keyword without a value the name would become the value.
+  if (slot == Slot::keyword && m_lastRole != Role::value && m_lastRole != Role::option) return false;
+  const Piece word = *ahead();
+  const Refusal at = refusal(slot, slot == Slot::value ? row() : nullptr);
+  std::optional<Repair> found = without_dash(at.names, word);
+  if (!found) return false;
+  if (slot == Slot::value) {
+    apply(m_report.add(Code::missingValue, m_keyword, name_of(*row()) + " has no value"), std::move(*found));
+  } else if (slot == Slot::keyword) {
+    apply(m_report.add(Code::unknownOption, place_of(word), "no option " + quoted(word.text)), std::move(*found));
+  } else {
+    apply(m_report.add(code_of(at, word.text), place_of(word), no_such(at, word.text)), std::move(*found));
+  }
+  return true;
 }
 
 // Behind words that nothing is known about, an option without its dash is noticed all the same.
@@ -340,25 +340,22 @@ Surroundings Examiner::surroundings() {
 void Examiner::missing(Slot slot) {
   if (m_isLost) return;
   if (slot == Slot::value) return missing_value();
-  const Place whole = m_lastWord == Place() ? m_subject.line : m_lastWord;
-  const Place place = ahead() != nullptr ? place_of(*ahead()) : whole;
-  const Refusal at = refusal(slot);
-  const std::string accepted = "write " + listed(at.names);
-  if (slot == Slot::head && ahead() == nullptr && m_subject.kind == TextKind::optionFile) {
-    m_report.add(Code::blankFirstLine, place, "the first line has nothing in it but blanks", "remove the line");
-    return;
-  }
-  if (ahead() != nullptr && find_option(ahead()->text, kAnyOptions, letter_case()) == nullptr) {
-    m_reported = ahead()->begin;
-  }
+  const std::string remedy = "write " + listed(refusal(slot).names);
   const char* const what = slot == Slot::head ? "a head" : slot == Slot::target ? "a target" : "a connection";
-  const bool isFirst = m_lastWord == Place() && ahead() == nullptr;
-  m_report.add(
-      Code::incompleteCommand, place,
-      isFirst ? "the command is empty"
-              : std::string(what) + " is missing " +
-                    (ahead() != nullptr ? "before " + quoted(ahead()->text) : "behind " + quoted(m_subject.in(place))),
-      accepted);
+  if (const Piece* const next = ahead()) {
+    m_report.add(Code::incompleteCommand, place_of(*next),
+                 std::string(what).append(" is missing before ").append(quoted(next->text)), remedy);
+    // Of a word that is no option anywhere, this is enough.
+    if (find_option(next->text, kAnyOptions, letter_case()) == nullptr) m_reported = next->begin;
+  } else if (m_lastWord != Place()) {
+    m_report.add(Code::incompleteCommand, m_lastWord,
+                 std::string(what).append(" is missing behind ").append(quoted(m_subject.in(m_lastWord))), remedy);
+  } else if (m_subject.kind == TextKind::optionFile) {
+    m_report.add(Code::blankFirstLine, m_subject.line, "the first line has nothing in it but blanks",
+                 "remove the line");
+  } else {
+    m_report.add(Code::incompleteCommand, m_subject.line, "the command is empty", remedy);
+  }
 }
 
 void Examiner::missing_value() {
@@ -387,51 +384,49 @@ bool Examiner::accepts(const Keyword& row, std::string_view value) {
   return read_value(row, {row.name.text(), value, letter_case()}, records_of(m_imp, &m_device));
 }
 
-// "frequency = 12000000": the reader takes the separator as the value, and refuses the value as a keyword or an option.
+// Whether the reader, once it has taken the next word as a value, refuses the one behind it: where a keyword or an
+// option is due, it is another word.
+bool Examiner::refuses_second() {
+  const Piece* const second = ahead(1);
+  if (second == nullptr || second->text == "-" || is_option_word(second->text)) return false;
+  if (run()->bit == kSoftSimOptions.bit) return false;
+  return here().option->takes != Takes::pairs || !is_one_of(second->text, keyword_names(here().option->group));
+}
+
+Code Examiner::code_of_second() const {
+  return here().option->takes == Takes::pairs ? Code::unknownKeyword : Code::wordWithoutOption;
+}
+
+// "frequency = 12000000": the reader takes the separator as the value.
 bool Examiner::separator_in_place_of_value(const Keyword& row) {
   const Piece separator = *ahead();
-  const Piece* const next = ahead(1);
-  if (!is_separator(separator.text) || next == nullptr || next->text == "-" || is_option_word(next->text)) return false;
-  const bool isPair = here().option->takes == Takes::pairs;
-  if (isPair && is_one_of(next->text, keyword_names(here().option->group))) return false;
-  if (run()->bit == kSoftSimOptions.bit) return false;
-  const Piece value = *next;
-  const bool isAccepted = accepts(row, separator.text);
-  Finding& finding = m_report.add(!isAccepted ? Code::invalidValue
-                                  : isPair    ? Code::unknownKeyword
-                                              : Code::wordWithoutOption,
-                                  place_of(isAccepted ? value : separator),
-                                  isAccepted ? quoted(separator.text) + " is taken as the value of " + name_of(row)
-                                             : name_of(row) + " cannot be " + quoted(separator.text));
-  apply(finding, {"words are separated by blanks, not by " + quoted(separator.text),
-                  fix("remove " + quoted(separator.text), true, {separator.begin, value.begin}, ""),
-                  {}});
+  if (!is_separator(separator.text) || !refuses_second()) return false;
+  const Piece value = *ahead(1);
+  Finding& finding = accepts(row, separator.text)
+                         ? m_report.add(code_of_second(), place_of(value),
+                                        quoted(separator.text) + " is taken as the value of " + name_of(row))
+                         : m_report.add(Code::invalidValue, place_of(separator),
+                                        name_of(row) + " cannot be " + quoted(separator.text));
+  apply(finding, {not_a_blank(separator.text), fix("remove it", true, {separator.begin, value.begin}, ""), {}});
   return true;
 }
 
-// "2-cable type": the reader takes the number, and refuses the next word as a keyword.
-void Examiner::option_joined_to_value(const Keyword& row) {
+// "2-cable type": the reader takes the number at the beginning.
+void Examiner::option_joined_to_number(const Keyword& row) {
   const Piece word = *ahead();
-  const Piece* const next = ahead(1);
   const std::size_t dash = word.text.find('-', 1);
   const bool isNumber = row.kind == Kind::number || row.kind == Kind::hexadecimal || row.kind == Kind::address;
-  if (!isNumber || dash == std::string_view::npos || next == nullptr || is_option_word(next->text)) return;
-  const std::string_view number = word.text.substr(0, dash);
-  const Option* const option = find_option(word.text.substr(dash), *run(), letter_case());
-  const bool isKeyword =
-      here().option->takes == Takes::pairs && is_one_of(next->text, keyword_names(here().option->group));
-  if (option == nullptr || isKeyword || next->text == "-" || number.find_first_not_of("0123456789") != number.npos ||
-      run()->bit == kSoftSimOptions.bit || !accepts(row, number)) {
-    return;
-  }
-  const Piece value = {number, word.begin, word.begin + dash};
-  const Piece rest = {word.text.substr(dash), value.end, word.end};
-  Finding& finding = m_report.add(
-      here().option->takes == Takes::pairs ? Code::unknownKeyword : Code::wordWithoutOption, place_of(*next),
-      "in front of it, " + quoted(rest.text) + " is joined to the number " + quoted(number));
-  apply(finding, {"a blank is missing before " + quoted(rest.text),
-                  fix("write a blank before " + quoted(rest.text), true, {value.end, value.end}, " "),
-                  {value, rest}});
+  if (!isNumber || dash == std::string_view::npos || !refuses_second()) return;
+  const Piece number = {word.text.substr(0, dash), word.begin, word.begin + dash};
+  const Piece option = {word.text.substr(dash), number.end, word.end};
+  const bool isPlain = number.text.find_first_not_of("0123456789") == std::string_view::npos;
+  if (!isPlain || find_option(option.text, *run(), letter_case()) == nullptr || !accepts(row, number.text)) return;
+  Finding& finding =
+      m_report.add(code_of_second(), place_of(*ahead(1)),
+                   "in front of it, " + quoted(option.text) + " is joined to the number " + quoted(number.text));
+  apply(finding, {"a blank is missing before " + quoted(option.text),
+                  fix("write a blank before " + quoted(option.text), true, {number.end, number.end}, " "),
+                  {number, option}});
 }
 
 void Examiner::value_ahead() {
@@ -439,7 +434,7 @@ void Examiner::value_ahead() {
   m_isAccepted = false;
   if (m_isLost) return;
   while (separator_in_place_of_value(row)) continue;
-  option_joined_to_value(row);
+  option_joined_to_number(row);
   for (;;) {
     const Piece word = *ahead();
     if (accepts(row, word.text)) break;
@@ -471,9 +466,10 @@ void Examiner::report_value(const Refusal& at) {
     const std::uint32_t below = address - address % kMapBlock;
     Finding& finding =
         m_report.add(Code::misalignedAddress, place,
-                     name_of(row) + " must be a multiple of 64 KB (0x10000), and " + quoted(word.text) + " is none",
-                     "write " + address_text(below) + " or " + address_text(below + kMapBlock));
+                     name_of(row) + " must be a multiple of 64 KB (0x10000), and " + quoted(word.text) + " is none");
     for (const std::uint32_t nearby : {below, below + kMapBlock}) {
+      if (nearby < below) continue;  // there is none above
+      finding.remedy.append(nearby == below ? "write " : " or ").append(address_text(nearby));
       finding.fixes.push_back(fix("write " + address_text(nearby), false, place, address_text(nearby)));
     }
     return;
@@ -509,6 +505,7 @@ void Examiner::report_value(const Refusal& at) {
 
 void Examiner::found(const WalkedWord& word, std::string_view spelled) {
   m_lastWord = place_of(word);
+  m_lastSeen = m_lastWord;
   m_lastRole = word.role;
   switch (word.role) {
     case Role::head:
@@ -621,10 +618,10 @@ void Examiner::check_end_of_cable() {
   const bool isFirst = m_report.errors() == m_errorsBefore;
   if (m_hasFrequency && (m_imp.cable->type != Engine::ZARVEK_PLUGIN || !m_imp.cable->modulename.empty())) {
     Said frequency = *m_said.said(kCable, "frequency");
-    if (!isFirst) frequency.value = m_lastWord;
+    if (!isFirst) frequency.value = m_lastSeen;
     return report_frequency(frequency);
   }
-  m_report.add(Code::missingModule, isFirst ? m_option : m_lastWord, "a plug-in cable needs its module",
+  m_report.add(Code::missingModule, isFirst ? m_option : m_lastSeen, "a plug-in cable needs its module",
                "write 'modulename' and the name of the module");
 }
 
