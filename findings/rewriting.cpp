@@ -15,6 +15,16 @@ namespace {
 
 constexpr const char* kKeep = "keep the text, or change it in place";
 
+// Why this is not written: the words of the row itself, since a setting can be said by several rows.
+std::string why_lost(const Said& said, const SettingRow& row, const State& state) {
+  const bool isNever = said.row->written.holds == nullptr;
+  if (isNever && &said.option->group == &kConfigdevice) return said.row->written.words;
+  if (said.row->written.holds == kAlways.holds || !why_not(row, state).empty()) return why_not_written(row, state);
+  std::string why = (isNever ? "it is never written: " : "it is written ") + std::string(said.row->written.words);
+  std::ranges::replace(why, '`', '\'');
+  return why;
+}
+
 void check_lost(const Subject& subject, const Examined& examined, const State& state, const State& readBack,
                 Report& report) {
   for (const SettingRow* const row : differing(readBack, state)) {
@@ -26,10 +36,11 @@ void check_lost(const Subject& subject, const Examined& examined, const State& s
       if (isDevice ? said.row->written.holds != nullptr : !isSetting) continue;
       if (report.has(said.word) || report.has(said.optionWord) || report.has(said.value)) continue;
       const Place place = {said.word.begin, std::max(said.word.end, said.value.end)};
+      // Several settings can be said by the same words, such as host and port.
+      if (report.has(place)) continue;
       Finding& finding = report.add(Code::lostWhenWritten, place,
                                     quoted(subject.in(place)) + " is lost if the command is written anew", kKeep);
-      const std::string why = isDevice ? std::string(said.row->written.words) : why_not_written(*row, state);
-      finding.remarks.push_back({0, 0, "the reason: " + why});
+      finding.remarks.push_back({0, 0, "the reason: " + why_lost(said, *row, state)});
     }
   }
 }

@@ -233,6 +233,15 @@ TEST(Diagnose, LooksAtTheFrequencyWhereTheReaderDoesNot) {
 
 TEST(Diagnose, FindsWhatIsLostInAWriting) {
   EXPECT_THAT(found("connect ov odm -bscan USER3"), ElementsAre("15-27 warning lost-when-written"));
+  // Host and port are two settings of the same words.
+  EXPECT_THAT(found("connect ppc sim -icf a -ipcport :7"), ElementsAre("23-34 warning lost-when-written"));
+  EXPECT_THAT(found("vpconnect ov -config cycle_approximate -ipcport a:1"),
+              ElementsAre("39-51 warning lost-when-written"));
+  EXPECT_EQ(diagnose("vpconnect ov -config cycle_approximate -ipcport a:1", TextKind::command)
+                .front()
+                .remarks.front()
+                .message,
+            "the reason: it is written when a host is set and '-config' is not");
   EXPECT_THAT(found("connect ov odm -cable type zarvek_tcf frequency 125000"),
               ElementsAre("27-37 warning cannot-be-written"));
   EXPECT_THAT(found("connect ov odm -configdevice jtagport cpu"), ElementsAre("29-37 warning not-read-back"));
