@@ -453,7 +453,7 @@ void Examiner::value_ahead() {
     return;
   }
   check_number(row, word.text, place_of(word), m_report);
-  if (row.kind == Kind::text) check_text(word.text, place_of(word), m_report);
+  if (row.kind == Kind::text) check_text(row, word.text, place_of(word), m_report);
 }
 
 void Examiner::report_value(const Refusal& at) {
@@ -580,7 +580,10 @@ void Examiner::begin_option(const WalkedWord& word) {
   m_errorsBefore = m_report.errors();
   if (&option.group == &kConfigdevice) {
     m_device = {};
-    m_said.devices.push_back({m_option, {}, {}, {}});
+    m_said.devices.emplace_back().option = m_option;
+  }
+  if (option.takes == Takes::pairs && m_said.bare.size() <= Report::kMostOfOneKind) {
+    m_said.bare.push_back({&option, m_option});
   }
   if (option.takes == Takes::nothing || option.takes == Takes::ownRun) say(word, *value_row(option), {}, {});
 }
@@ -588,13 +591,14 @@ void Examiner::begin_option(const WalkedWord& word) {
 void Examiner::say(const WalkedWord& word, const Keyword& row, const Place& value, std::string_view text) {
   const Said said = {&row, word.option, word.group, m_option, m_keyword, value, text};
   const bool isOfDevice = &word.option->group == &kConfigdevice;
+  if (!m_said.bare.empty() && m_said.bare.back().word == m_option) m_said.bare.pop_back();
   const auto before = std::ranges::find(m_said.lasts, &row, &Said::row);
   if (before == m_said.lasts.end()) {
     m_said.lasts.push_back(said);
   } else {
     const bool isAgain = !row.repeats && (!isOfDevice || before->group == word.group);
     if (isAgain && m_said.twice.size() <= Report::kMostOfOneKind) {
-      m_said.twice.push_back({before->word, said.word, &row, word.option});
+      m_said.twice.push_back({before->optionWord, before->word, said.word, &row, word.option});
     }
     *before = said;
   }
@@ -607,12 +611,13 @@ void Examiner::say(const WalkedWord& word, const Keyword& row, const Place& valu
   if (name == "devicenr") device.number = value;
   if (name == "irlength") device.irlength = value;
   if (name == "idcode") device.idcode = value;
+  (name == "jtagport" ? device.isReached : device.isDescribed) = true;
 }
 
 // --- The end of the text ---
 
 void Examiner::check_end_of_cable() {
-  m_said.endsWithCable = m_endsWithCable;
+  if (m_endsWithCable) m_said.lastCable = m_option;
   if (!m_endsWithCable || m_isLost || m_isCableUncertain || check_cable(m_imp, m_hasFrequency)) return;
   // An error that the reader came to before comes first here as well.
   const bool isFirst = m_report.errors() == m_errorsBefore;

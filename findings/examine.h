@@ -26,10 +26,17 @@ struct Said {
 
 // Something said, and where it is said again, so that it has no effect.
 struct SaidTwice {
+  Place optionWord;  // of the first
   Place first;
   Place again;
   const Keyword* row = nullptr;
   const Option* option = nullptr;
+};
+
+// An option that takes pairs and has none.
+struct BareOption {
+  const Option* option = nullptr;
+  Place word;
 };
 
 // What is said in a text.
@@ -37,12 +44,13 @@ struct Examined {
   // Of every row the last time that it is said; of the devices of the chain, those of the last device that says it.
   std::vector<Said> lasts;
   std::vector<SaidTwice> twice;
+  std::vector<BareOption> bare;
   std::vector<DeviceWords> devices;
   const Target* target = nullptr;
   const Connection* connection = nullptr;
   Place targetWord;
   std::optional<Place> notReached;  // words that are not looked at
-  bool endsWithCable = false;       // so that the reader has checked the cable
+  std::optional<Place> lastCable;   // the "-cable" that ends the text, so that the reader has checked the cable
 
   // The last time that a row of the group is said; null if it is not.
   const Said* said(const Group& group, std::string_view name) const;

@@ -243,7 +243,7 @@ void check_number(const Keyword& row, std::string_view value, const Place& place
   check(rule, read, place, report);
 }
 
-void check_text(std::string_view value, const Place& place, Report& report) {
+void check_text(const Keyword& /*row*/, std::string_view value, const Place& place, Report& report) {
   if (value.empty()) return;
   if (value.ends_with('\\')) {
     report.add(Code::quotes, place, quoted(value) + " ends here: a backslash does not keep the blank behind it",

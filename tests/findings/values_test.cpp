@@ -36,7 +36,7 @@ std::vector<Finding> findings_of(const Keyword& row, std::string_view value) {
 
 std::vector<Finding> findings_of_text(std::string_view value) {
   Report report;
-  check_text(value, {kBegin, kBegin + value.size()}, report);
+  check_text(row_of(kCable, "port"), value, {kBegin, kBegin + value.size()}, report);
   return std::move(report).findings();
 }
 
