@@ -51,17 +51,12 @@ void check_port(const Examined& examined, Report& report) {
                  "'type' behind it sets the port to " + quoted(cable->defaultPort) + ", so that this one has no effect",
                  "write 'port' behind 'type'");
   finding.remarks.push_back({type->word.begin, type->value.end, "the type brings its own port"});
-  if (port->group == type->group) {
-    Fix move{"move 'port' behind the type", false, {}};
-    move.replacements.push_back({port->word.begin, type->word.begin, ""});
-    move.replacements.push_back({type->value.end, type->value.end, " port " + std::string(port->text)});
-    if (port->value.end < type->word.begin && examined.lasts.end() - examined.lasts.begin() > 0) {
-      const auto between = std::ranges::any_of(examined.lasts, [&](const Said& said) {
-        return said.word.begin > port->word.begin && said.word.begin < type->word.begin;
-      });
-      if (!between) finding.fixes.push_back(std::move(move));
-    }
-  }
+  if (port->group != type->group) return;
+  Fix move{"move 'port' behind the type", false, {}};
+  // A blank follows the port, since the type does.
+  move.replacements.push_back({port->word.begin, port->value.end + 1, ""});
+  move.replacements.push_back({type->value.end, type->value.end, " port " + std::string(port->text)});
+  finding.fixes.push_back(std::move(move));
 }
 
 // A frequency is checked only at the end of the text.
@@ -125,8 +120,9 @@ void check_family(const Subject& subject, const Examined& examined, const State&
              "see whether the text is for another processor");
 }
 
-// Options that set nothing, and settings that do not apply. A whole option is one finding.
 constexpr const char* kRemove = "remove it, or change what it depends on";
+
+// Options that set nothing, and settings that do not apply. A whole option is one finding.
 void check_applies(const Examined& examined, const State& state, Report& report) {
   for (auto first = examined.lasts.begin(); first != examined.lasts.end();) {
     const auto isOther = [&](const Said& said) { return said.group != first->group; };
@@ -141,7 +137,8 @@ void check_applies(const Examined& examined, const State& state, Report& report)
     } else {
       for (auto said = first; said != end; ++said) {
         const std::string reason = why_no_effect(*said, state);
-        if (!reason.empty()) report.add(Code::doesNotApply, said->word, name_of(*said) + " has no effect: " + reason);
+        if (!reason.empty())
+          report.add(Code::doesNotApply, said->word, name_of(*said) + " has no effect: " + reason, kRemove);
       }
     }
     first = end;
@@ -154,8 +151,7 @@ Finding& add_frequency(const CableType& type, std::uint32_t hz, const Said& freq
   const auto text = [](std::uint32_t value) { return number_text(value, Scale::decimal, "Hz"); };
   std::string all;
   for (const std::uint32_t accepted : type.accepted) {
-    all += all.empty() ? "" : ", ";
-    all += std::to_string(accepted);
+    all.append(all.empty() ? "" : ", ").append(std::to_string(accepted));
   }
   Finding& finding =
       report.add(Code::unsupportedFrequency, frequency.value,

@@ -173,6 +173,15 @@ TEST(WithFixes, LeavesOutAFixThatOverlapsWithOneBeforeIt) {
   EXPECT_EQ(with_fixes("0123456789", {finding, other}), "a56789");
 }
 
+TEST(Diagnose, MovesThePortBehindTheType) {
+  EXPECT_EQ(fixed("connect ov odm -cable port A modulearg b type zarvek_platformusb modulearg c -bscan USER1",
+                  TextKind::command, FixChoice::allFirst),
+            "connect ov odm -cable modulearg b type zarvek_platformusb port A modulearg c -bscan USER1");
+  EXPECT_EQ(
+      fixed("connect ov odm -cable port A -cable type zarvek_platformusb", TextKind::command, FixChoice::allFirst),
+      "connect ov odm -cable port A -cable type zarvek_platformusb");
+}
+
 // --- What it says ---
 
 TEST(Diagnose, SaysWhereANameBelongs) {
