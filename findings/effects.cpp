@@ -120,20 +120,44 @@ void check_family(const Subject& subject, const Examined& examined, const State&
              "see whether the text is for another processor");
 }
 
+// The last "-cable", which has no type or frequency of its own, gives the cable the default frequency.
+bool resets_frequency(const Place& option, const Examined& examined) {
+  return examined.lastCable == option && examined.said(kCable, "type") != nullptr;
+}
+
+// Of those that are repeated each one. An option "-configdevice" adds a device in any case.
+void check_sets_something(const Examined& examined, Report& report) {
+  const auto add = [&](const Option& option, const Place& place) {
+    if (report.has(place)) return;
+    report.add(Code::noEffect, place, quoted(option.name.text()) + " is accepted and has no effect", "remove it");
+  };
+  for (const SaidTwice& twice : examined.twice) {
+    if (sets_nothing(*twice.option)) add(*twice.option, twice.optionWord);
+  }
+  for (const Said& said : examined.lasts) {
+    if (sets_nothing(*said.option)) add(*said.option, said.optionWord);
+  }
+  for (const BareOption& bare : examined.bare) {
+    if (sets_nothing(*bare.option)) {
+      add(*bare.option, bare.word);
+    } else if (&bare.option->group != &kConfigdevice && !resets_frequency(bare.word, examined)) {
+      report.add(Code::noEffect, bare.word, quoted(bare.option->name.text()) + " has no effect without a keyword",
+                 "write a keyword and its value, or remove it");
+    }
+  }
+}
+
 constexpr const char* kRemove = "remove it, or change what it depends on";
 
-// Options that set nothing, and settings that do not apply. A whole option is one finding.
+// Settings that do not apply. A whole option is one finding.
 void check_applies(const Examined& examined, const State& state, Report& report) {
   for (auto first = examined.lasts.begin(); first != examined.lasts.end();) {
     const auto isOther = [&](const Said& said) { return said.group != first->group; };
     const auto end = std::find_if(first, examined.lasts.end(), isOther);
-    const std::string option = quoted(first->option->name.text());
     const std::string why = why_no_effect(*first, state);
-    if (sets_nothing(*first->option)) {
-      report.add(Code::noEffect, first->optionWord, option + " is accepted and has no effect", "remove it");
-    } else if (!why.empty() &&
-               std::all_of(first, end, [&](const Said& said) { return why_no_effect(said, state) == why; })) {
-      report.add(Code::doesNotApply, first->optionWord, option + " has no effect: " + why, kRemove);
+    if (!why.empty() && std::all_of(first, end, [&](const Said& said) { return why_no_effect(said, state) == why; })) {
+      report.add(Code::doesNotApply, first->optionWord, quoted(first->option->name.text()) + " has no effect: " + why,
+                 kRemove);
     } else {
       for (auto said = first; said != end; ++said) {
         const std::string reason = why_no_effect(*said, state);
@@ -183,6 +207,7 @@ void check_effects(const Subject& subject, const Examined& examined, const State
   check_esn(examined, state, report);
   check_fpu(subject, examined, state, report);
   check_family(subject, examined, state, report);
+  check_sets_something(examined, report);
   check_applies(examined, state, report);
   if (examined.notReached) {
     report.add(Code::notReached, *examined.notReached, "what follows is not read", "remove it");

@@ -353,9 +353,9 @@ const std::vector<FindingKind>& kinds() {
        .severity = Severity::warning,
        .title = "accepted without effect",
        .meaning = "This is accepted and then forgotten: '-quiet', '-noattach', '-writeonly' and '-pfsl' set "
-                  "nothing, and neither does an option that none of its keywords follows.",
+                  "nothing, and neither does '-cable' or '-debugdevice' without a keyword.",
        .example = "connect ov odm -quiet -debugdevice deviceNr 2",
-       .advice = "Remove it; without it the command means the same."},
+       .advice = "Remove it, or write the keyword that is missing; without it the command means the same."},
       {.code = "missing-frequency",
        .severity = Severity::warning,
        .title = "cable without a frequency",

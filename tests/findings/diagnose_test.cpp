@@ -233,6 +233,23 @@ TEST(Diagnose, FindsWhatHasNoEffect) {
   EXPECT_THAT(found("connect ov odm -comm -quiet"), ElementsAre("15-20 warning skipped-option"));
 }
 
+TEST(Diagnose, FindsOptionsWithoutEffectEachTime) {
+  EXPECT_THAT(found("connect ov odm -quiet -QUIET -noattach -quiet"),
+              ElementsAre("15-21 warning no-effect", "22-28 warning no-effect", "29-38 warning no-effect",
+                          "39-45 warning no-effect"));
+  EXPECT_THAT(found("connect ov odm -pfsl -cable -debugdevice"),
+              ElementsAre("15-20 warning no-effect", "21-27 warning no-effect", "28-40 warning no-effect"));
+  EXPECT_THAT(found("connect ov odm -pfsl port a port b -pfsl port c"),
+              ElementsAre("15-20 warning no-effect", "35-40 warning no-effect"));
+  // The last "-cable" gives the cable its frequency.
+  EXPECT_THAT(found("connect ov odm -cable type zarvek_platformusb -bscan USER1 -cable"), IsEmpty());
+  std::string many = "connect ov odm";
+  for (int i = 0; i < 3000; ++i) many += " -quiet";
+  const std::vector<Finding> findings = diagnose(many, TextKind::command);
+  ASSERT_EQ(findings.size(), 1001U);
+  EXPECT_EQ(findings.back().kind->code, "too-many");
+}
+
 TEST(Diagnose, LooksAtTheFrequencyWhereTheReaderDoesNot) {
   EXPECT_THAT(found("connect ov odm -cable type zarvek_platformusb frequency 5 -bscan USER1"),
               ElementsAre("56-57 warning unsupported-frequency"));
