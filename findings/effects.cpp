@@ -7,6 +7,7 @@
 #include "SdkDebugDialog/Engine.h"
 #include "model/processor_kind.h"
 #include "options/groups.h"
+#include "options/number.h"
 #include "settings/catalogue.h"
 #include "settings/number_text.h"
 #include "settings/ways.h"
@@ -59,22 +60,41 @@ void check_port(const Examined& examined, Report& report) {
   finding.fixes.push_back(std::move(move));
 }
 
+std::string hertz(std::uint32_t value) { return number_text(value, Scale::decimal, "Hz"); }
+
+// Whether a frequency is given that does not count, since the text ends with another "-cable".
+bool check_last_cable(const Examined& examined, const State& state, Report& report) {
+  const Said* const frequency = examined.said(kCable, "frequency");
+  if (!examined.lastCable || frequency == nullptr || frequency->optionWord == *examined.lastCable) return false;
+  const std::uint32_t initial = cable_type(state.cable.type).defaultFrequency;
+  if (to_unsigned(frequency->text) == initial) return true;
+  const std::string instead = initial != 0 ? "that of its type, " + hertz(initial) : "0";
+  Finding& finding = report.add(Code::doesNotApply, frequency->word,
+                                "'frequency' has no effect: the last '-cable' has none, which then is " + instead,
+                                "write it behind the last '-cable', or remove it");
+  finding.remarks.push_back({examined.lastCable->begin, examined.lastCable->end, "the last '-cable'"});
+  return true;
+}
+
 // A frequency is checked only at the end of the text.
 void check_frequency(const Examined& examined, const State& state, Report& report) {
   const CableType& type = cable_type(state.cable.type);
   const Said* const cable = examined.said(kCable, "type");
   if (cable == nullptr || type.accepted.empty() || !state.cable.esn.empty()) return;
-  if (!why_not(row_named("frequency"), state).empty()) return;
+  if (!why_not(row_named("frequency"), state).empty() || check_last_cable(examined, state, report)) return;
   const bool isAccepted = std::ranges::find(type.accepted, state.cable.frequency) != type.accepted.end();
   const Said* const frequency = examined.said(kCable, "frequency");
   if (frequency != nullptr && (isAccepted || report.has(frequency->value))) return;
   if (frequency != nullptr) {
     report.set_severity(add_frequency(type, state.cable.frequency, *frequency, report), Severity::warning);
   } else if (state.cable.frequency == 0) {
-    report.add(Code::missingFrequency, cable->optionWord, "the cable has no frequency, which then is 0",
-               type.defaultFrequency != 0
-                   ? "write 'frequency " + std::to_string(type.defaultFrequency) + "', or put '-cable' at the end"
-                   : "write 'frequency' and its value in Hz");
+    Finding& finding =
+        report.add(Code::missingFrequency, cable->optionWord, "the cable has no frequency, which then is 0",
+                   "write 'frequency' and its value in Hz");
+    if (type.defaultFrequency == 0) return;
+    const std::string words = "frequency " + std::to_string(type.defaultFrequency);
+    finding.remedy = "write " + quoted(words) + ", or put '-cable' at the end";
+    finding.fixes.push_back(fix("write " + quoted(words), false, {cable->value.end, cable->value.end}, " " + words));
   }
 }
 
@@ -172,17 +192,16 @@ void check_applies(const Examined& examined, const State& state, Report& report)
 }  // namespace
 
 Finding& add_frequency(const CableType& type, std::uint32_t hz, const Said& frequency, Report& report) {
-  const auto text = [](std::uint32_t value) { return number_text(value, Scale::decimal, "Hz"); };
   std::string all;
   for (const std::uint32_t accepted : type.accepted) {
     all.append(all.empty() ? "" : ", ").append(std::to_string(accepted));
   }
   Finding& finding =
       report.add(Code::unsupportedFrequency, frequency.value,
-                 "a cable of the type " + quoted(type.names.back().text()) + " does not run at " + text(hz),
+                 "a cable of the type " + quoted(type.names.back().text()) + " does not run at " + hertz(hz),
                  "accepted here: " + all);
   const auto propose = [&](std::uint32_t value) {
-    finding.fixes.push_back(fix("write " + std::to_string(value) + " (" + text(value) + ")", false, frequency.value,
+    finding.fixes.push_back(fix("write " + std::to_string(value) + " (" + hertz(value) + ")", false, frequency.value,
                                 std::to_string(value)));
   };
   // A number with a unit, or with separators of thousands, tells what was meant.

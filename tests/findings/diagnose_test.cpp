@@ -174,9 +174,11 @@ TEST(WithFixes, LeavesOutAFixThatOverlapsWithOneBeforeIt) {
 }
 
 TEST(Diagnose, MovesThePortBehindTheType) {
-  EXPECT_EQ(fixed("connect ov odm -cable port A modulearg b type zarvek_platformusb modulearg c -bscan USER1",
-                  TextKind::command, FixChoice::allFirst),
-            "connect ov odm -cable modulearg b type zarvek_platformusb port A modulearg c -bscan USER1");
+  EXPECT_EQ(
+      fixed(
+          "connect ov odm -cable port A modulearg b type zarvek_platformusb modulearg c frequency 6000000 -bscan USER1",
+          TextKind::command, FixChoice::allFirst),
+      "connect ov odm -cable modulearg b type zarvek_platformusb port A modulearg c frequency 6000000 -bscan USER1");
   EXPECT_EQ(
       fixed("connect ov odm -cable port A -cable type zarvek_platformusb", TextKind::command, FixChoice::allFirst),
       "connect ov odm -cable port A -cable type zarvek_platformusb");
@@ -255,6 +257,22 @@ TEST(Diagnose, LooksAtTheFrequencyWhereTheReaderDoesNot) {
               ElementsAre("56-57 warning unsupported-frequency"));
   EXPECT_THAT(found("connect ov odm -cable type zarvek_platformusb -bscan USER1"),
               ElementsAre("15-21 warning missing-frequency"));
+}
+
+TEST(Diagnose, WritesTheFrequencyBehindTheType) {
+  EXPECT_EQ(fixed("connect ov odm -cable type zarvek_platformusb port A -bscan USER1", TextKind::command,
+                  FixChoice::allFirst),
+            "connect ov odm -cable type zarvek_platformusb frequency 6000000 port A -bscan USER1");
+}
+
+TEST(Diagnose, FindsAFrequencyThatTheLastCableResets) {
+  EXPECT_EQ(said("connect ov odm -cable frequency 6000000 -cable type zarvek_parallel3"),
+            "'frequency' has no effect: the last '-cable' has none, which then is that of its type, 200 kHz; write it "
+            "behind the last '-cable', or remove it");
+  EXPECT_THAT(found("connect ov odm -cable type zarvek_platformusb frequency 12000000 -bscan USER1 -cable"),
+              ElementsAre("46-55 warning does-not-apply"));
+  EXPECT_THAT(found("connect ov odm -cable type zarvek_platformusb frequency 6000000 -cable port A"), IsEmpty());
+  EXPECT_THAT(found("connect ov odm -cable frequency 12000000 -cable type zarvek_platformusb -bscan USER1"), IsEmpty());
 }
 
 TEST(Diagnose, FindsWhatIsLostInAWriting) {
