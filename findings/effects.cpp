@@ -18,13 +18,20 @@ namespace {
 
 std::string name_of(const Said& said) { return quoted(said.row->name.text()); }
 
+// Whether keywords of a cable have no effect because the text does not tell its type.
+bool lacks_type(const Said& said, const State& state) {
+  return &said.option->group == &kCable && state.cable.type == Engine::CABLE_NONE &&
+         why_not(row_named("cable"), state).empty();
+}
+
 // Why what was said does not apply; empty if it does.
 std::string why_no_effect(const Said& said, const State& state) {
   if (&said.option->group == &kStub && state.processor.connectionType != Engine::STUB) {
     return "it is for the connection 'stub'";
   }
   const Setting* const setting = setting_of(*said.row);
-  return setting != nullptr ? why_not(row_of(*setting), state) : std::string();
+  const std::string why = setting != nullptr ? why_not(row_of(*setting), state) : std::string();
+  return !why.empty() && lacks_type(said, state) ? "no type of cable is given" : why;
 }
 
 void check_given_twice(const Examined& examined, Report& report) {
@@ -167,7 +174,9 @@ void check_sets_something(const Examined& examined, Report& report) {
   }
 }
 
-constexpr const char* kRemove = "remove it, or change what it depends on";
+std::string remedy_of(const Said& said, const State& state) {
+  return lacks_type(said, state) ? "write 'type' and the type" : "remove it, or change what it depends on";
+}
 
 // Settings that do not apply. A whole option is one finding.
 void check_applies(const Examined& examined, const State& state, Report& report) {
@@ -177,12 +186,13 @@ void check_applies(const Examined& examined, const State& state, Report& report)
     const std::string why = why_no_effect(*first, state);
     if (!why.empty() && std::all_of(first, end, [&](const Said& said) { return why_no_effect(said, state) == why; })) {
       report.add(Code::doesNotApply, first->optionWord, quoted(first->option->name.text()) + " has no effect: " + why,
-                 kRemove);
+                 remedy_of(*first, state));
     } else {
       for (auto said = first; said != end; ++said) {
         const std::string reason = why_no_effect(*said, state);
-        if (!reason.empty())
-          report.add(Code::doesNotApply, said->word, name_of(*said) + " has no effect: " + reason, kRemove);
+        if (reason.empty()) continue;
+        report.add(Code::doesNotApply, said->word, name_of(*said) + " has no effect: " + reason,
+                   remedy_of(*said, state));
       }
     }
     first = end;

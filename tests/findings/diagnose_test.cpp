@@ -275,6 +275,13 @@ TEST(Diagnose, FindsAFrequencyThatTheLastCableResets) {
   EXPECT_THAT(found("connect ov odm -cable frequency 12000000 -cable type zarvek_platformusb -bscan USER1"), IsEmpty());
 }
 
+TEST(Diagnose, AsksForTheTypeOfTheCable) {
+  EXPECT_EQ(said("connect ov odm -cable frequency 6000000 port A -bscan USER1"),
+            "'-cable' has no effect: no type of cable is given; write 'type' and the type");
+  EXPECT_EQ(said("connect ov stub -comm serial -cable frequency 6000000 -bscan USER1"),
+            "'-cable' has no effect: the connection uses no cable; remove it, or change what it depends on");
+}
+
 TEST(Diagnose, FindsWhatIsLostInAWriting) {
   EXPECT_THAT(found("connect ov odm -bscan USER3"), ElementsAre("15-27 warning lost-when-written"));
   // Host and port are two settings of the same words.
