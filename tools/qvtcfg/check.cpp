@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "check_subjects.h"
+#include "check_inputs.h"
 #include "check_texts.h"
 #include "command_line.h"
 #include "failure.h"
@@ -22,12 +22,12 @@ void require_sense(const Arguments& arguments) {
   }
 }
 
-Report checked(const Arguments& arguments) {
+CheckReport checked(const Arguments& arguments) {
   const auto design = load_design_if_any(arguments);
-  Subjects subjects = find_subjects(arguments, design);
-  Report report;
-  report.texts = std::move(subjects.texts);
-  report.defaults = std::move(subjects.defaults);
+  Inputs inputs = find_inputs(arguments, design);
+  CheckReport report;
+  report.texts = std::move(inputs.texts);
+  report.defaults = std::move(inputs.defaults);
   report.dry_run = arguments.dry_run;
   check_texts(report.texts, design);
   if (arguments.fix) fix_texts(report.texts, design, arguments.dry_run);
@@ -35,7 +35,7 @@ Report checked(const Arguments& arguments) {
   return report;
 }
 
-void print(const Report& report, const std::string& format, Output& out) {
+void print(const CheckReport& report, const std::string& format, Output& out) {
   if (format == "text") {
     print_text(report, out);
   } else if (format == "short") {
@@ -50,9 +50,9 @@ void print(const Report& report, const std::string& format, Output& out) {
 ExitCode run_check(const Arguments& arguments, Output& out) {
   if (arguments.explain) return explain_finding(*arguments.explain, arguments.json, out);
   require_sense(arguments);
-  const Report report = checked(arguments);
+  const CheckReport report = checked(arguments);
   for (const Checked& text : report.texts) {
-    if (!text.error.empty()) complain(text.subject.shown + ": " + text.error);
+    if (!text.error.empty()) complain(text.input.shown + ": " + text.error);
   }
   print(report, arguments.json ? "json" : arguments.format, out);
   const Totals totals = report.totals();

@@ -77,7 +77,7 @@ bool is_regular(int result, const struct stat& status, std::string& error) {
 
 void read_file(Checked& checked) {
   struct stat status = {};
-  const char* const path = checked.subject.path.c_str();
+  const char* const path = checked.input.path.c_str();
   if (!is_regular(stat(path, &status), status, checked.error)) return;
   const Descriptor file(open(path, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
   if (!is_regular(fstat(file.number(), &status), status, checked.error)) return;
@@ -87,7 +87,7 @@ void read_file(Checked& checked) {
 void read_standard_input(Checked& checked) {
   read_all(STDIN_FILENO, checked);
   // The newline is not part of a command.
-  if (checked.subject.kind != TextKind::optionFile) {
+  if (checked.input.kind != TextKind::optionFile) {
     checked.text.erase(checked.text.find_last_not_of('\n') + 1);
   }
 }
@@ -101,8 +101,8 @@ void examine(Checked& checked, const std::optional<Design>& design) {
   checked.findings.clear();
   checked.configuration.reset();
   bool gone = false;
-  if (design && !checked.subject.processor.empty()) {
-    auto found = design->find(checked.subject.processor);
+  if (design && !checked.input.processor.empty()) {
+    auto found = design->find(checked.input.processor);
     gone = !found;
     if (gone) {
       checked.findings.push_back({no_such_processor(found.error()), std::nullopt});
@@ -110,19 +110,19 @@ void examine(Checked& checked, const std::optional<Design>& design) {
       processor = std::move(*found);
     }
   }
-  for (Finding& finding : diagnose(checked.text, checked.subject.kind, processor)) {
+  for (Finding& finding : diagnose(checked.text, checked.input.kind, processor)) {
     checked.findings.push_back({std::move(finding), std::nullopt});
   }
-  if (checked.subject.kind != TextKind::optionFile || gone) return;
+  if (checked.input.kind != TextKind::optionFile || gone) return;
   if (std::ranges::any_of(checked.findings, is_error)) return;
-  if (auto configuration = Configuration::read(std::move(processor), checked.text, checked.subject.kind)) {
+  if (auto configuration = Configuration::read(std::move(processor), checked.text, checked.input.kind)) {
     checked.configuration = std::move(*configuration);
   }
 }
 
 void read_and_examine(Checked& checked, const std::optional<Design>& design) {
   if (!checked.error.empty()) return;
-  if (checked.subject.path.empty()) {
+  if (checked.input.path.empty()) {
     read_standard_input(checked);
   } else {
     read_file(checked);
@@ -134,9 +134,9 @@ bool has_safe_fix(const Located& located) { return std::ranges::any_of(located.f
 
 // Returns why the file cannot be written; empty if it is.
 std::string write_fixed(const Checked& checked, const std::string& text) {
-  const auto done = replace_option_file(checked.subject.path, checked.text, text);
+  const auto done = replace_option_file(checked.input.path, checked.text, text);
   if (done) return "";
-  const std::string name = checked.subject.path + ": ";
+  const std::string name = checked.input.path + ": ";
   const std::string& message = done.error().message;
   return message.starts_with(name) ? message.substr(name.size()) : message;
 }
@@ -168,7 +168,7 @@ void compare_texts(std::vector<Checked>& texts) {
   std::map<std::string, std::vector<std::size_t>> folders;
   for (std::size_t i = 0; i < texts.size(); ++i) {
     if (!texts[i].configuration) continue;
-    const std::string& path = texts[i].subject.path;
+    const std::string& path = texts[i].input.path;
     folders[path.substr(0, path.rfind('/') + 1)].push_back(i);
   }
   for (const auto& [folder, members] : folders) {
@@ -177,7 +177,7 @@ void compare_texts(std::vector<Checked>& texts) {
     configurations.reserve(members.size());
     for (const std::size_t i : members) {
       const Checked& checked = texts[i];
-      configurations.push_back({checked.subject.shown, &*checked.configuration, checked.text, TextKind::optionFile});
+      configurations.push_back({checked.input.shown, &*checked.configuration, checked.text, TextKind::optionFile});
     }
     for (SharedFinding& shared : diagnose_together(configurations)) {
       texts[members[shared.configuration]].findings.push_back({std::move(shared.finding), members[shared.other]});

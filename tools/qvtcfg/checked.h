@@ -15,7 +15,7 @@
 namespace qvtcfg {
 
 // A text to be checked.
-struct Subject {
+struct Input {
   std::string path;   // of the file, relative to the working directory; empty for standard input
   std::string shown;  // the same for output
   SdkDebugDialog::TextKind kind = SdkDebugDialog::TextKind::optionFile;
@@ -29,7 +29,7 @@ struct Located {
 };
 
 struct Checked {
-  Subject subject;
+  Input input;
   std::string text;
   bool cut = false;   // the file is larger: its first bytes were checked
   std::string error;  // why the file cannot be read, or not be written
@@ -40,7 +40,7 @@ struct Checked {
   std::string before;                          // that text
 
   // Standard input and a part of a file cannot be replaced.
-  bool can_be_fixed() const { return !subject.path.empty() && !cut; }
+  bool can_be_fixed() const { return !input.path.empty() && !cut; }
 
   // The lines of the text; made when they are needed.
   const Lines& lines() const {
@@ -64,7 +64,7 @@ struct Totals {
 };
 
 // The answer of a check.
-struct Report {
+struct CheckReport {
   std::vector<Checked> texts;         // sorted by what is shown
   std::vector<std::string> defaults;  // processors without an option file
   bool dry_run = false;

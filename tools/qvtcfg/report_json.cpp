@@ -56,23 +56,23 @@ Json remark_json(const Remark& remark, std::string_view name, const Lines& lines
   return member;
 }
 
-Json checked_json(const Report& report, const Checked& checked) {
-  const Subject& subject = checked.subject;
+Json checked_json(const CheckReport& report, const Checked& checked) {
+  const Input& input = checked.input;
   Json findings = Json::array();
   for (const Located& located : checked.findings) {
     const Checked& other = located.remarks_in ? report.texts[*located.remarks_in] : checked;
-    findings.push_back(finding_json(located.finding, checked.lines(), other.subject.shown, other.lines()));
+    findings.push_back(finding_json(located.finding, checked.lines(), other.input.shown, other.lines()));
   }
   Json fixed = Json::array();
   if (!checked.fixed.empty()) {
     const Lines before(checked.before);
     for (const Finding& finding : checked.fixed) {
-      fixed.push_back(finding_json(finding, before, subject.shown, before));
+      fixed.push_back(finding_json(finding, before, input.shown, before));
     }
   }
-  Json member = {{"file", subject.shown},
-                 {"kind", kind_name(subject.kind)},
-                 {"processor", subject.processor.empty() ? Json() : Json(subject.processor)},
+  Json member = {{"file", input.shown},
+                 {"kind", kind_name(input.kind)},
+                 {"processor", input.processor.empty() ? Json() : Json(input.processor)},
                  {"error", checked.error.empty() ? Json() : Json(checked.error)},
                  {"truncated", checked.cut},
                  {"findings", std::move(findings)}};
@@ -94,7 +94,7 @@ Json finding_json(const Finding& finding, const Lines& lines, std::string_view r
   return member;
 }
 
-Json report_json(const Report& report) {
+Json report_json(const CheckReport& report) {
   Json files = Json::array();
   for (const Checked& checked : report.texts) files.push_back(checked_json(report, checked));
   const Totals totals = report.totals();

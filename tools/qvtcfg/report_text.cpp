@@ -16,9 +16,9 @@ using SdkDebugDialog::Fix;
 using SdkDebugDialog::Severity;
 using SdkDebugDialog::TextKind;
 
-Source source_of(const Checked& checked) { return {checked.subject.shown, &checked.lines()}; }
+Source source_of(const Checked& checked) { return {checked.input.shown, &checked.lines()}; }
 
-Source remarks_of(const Report& report, const Checked& checked, const Located& located) {
+Source remarks_of(const CheckReport& report, const Checked& checked, const Located& located) {
   return source_of(located.remarks_in ? report.texts[*located.remarks_in] : checked);
 }
 
@@ -36,7 +36,7 @@ std::string found_in(const Totals& totals) {
   return join(parts) + (totals.files == 1 ? "" : " in " + counted(totals.files_with, "file"));
 }
 
-std::string totals_line(const Report& report) {
+std::string totals_line(const CheckReport& report) {
   const Totals totals = report.totals();
   std::string line = counted(totals.files, "file") + ": " + found_in(totals);
   if (totals.fixed != 0) line += "; " + std::to_string(totals.fixed) + (report.dry_run ? " would be fixed" : " fixed");
@@ -64,9 +64,9 @@ void print_fixed(const Checked& checked, bool dry_run, Output& out) {
   if (checked.fixed.empty()) return;
   const Lines lines(checked.before);
   for (const Finding& finding : checked.fixed) {
-    out.line(fixed_line(finding, {checked.subject.shown, &lines}, dry_run, out.look()));
+    out.line(fixed_line(finding, {checked.input.shown, &lines}, dry_run, out.look()));
   }
-  const bool file = checked.subject.kind == TextKind::optionFile;
+  const bool file = checked.input.kind == TextKind::optionFile;
   const auto command = [&](const std::string& text) {
     return file ? std::string(SdkDebugDialog::option_line(text)) : text;
   };
@@ -78,7 +78,7 @@ void print_fixed(const Checked& checked, bool dry_run, Output& out) {
 
 }  // namespace
 
-Totals Report::totals() const {
+Totals CheckReport::totals() const {
   Totals totals;
   for (const Checked& checked : texts) {
     if (!checked.error.empty()) ++totals.unreadable;
@@ -97,7 +97,7 @@ Totals Report::totals() const {
   return totals;
 }
 
-void print_text(const Report& report, Output& out) {
+void print_text(const CheckReport& report, Output& out) {
   for (const Checked& checked : report.texts) {
     print_fixed(checked, report.dry_run, out);
     for (const Located& located : checked.findings) {
@@ -106,19 +106,19 @@ void print_text(const Report& report, Output& out) {
       out.line(text);
     }
     if (checked.cut) {
-      out.line(visible(checked.subject.shown) + ": " + out.styled(Style::kNote, "note:") +
+      out.line(visible(checked.input.shown) + ": " + out.styled(Style::kNote, "note:") +
                " the file is larger than 16 MiB: what follows is not checked");
     }
   }
   out.line(totals_line(report));
 }
 
-void print_short(const Report& report, Output& out) {
+void print_short(const CheckReport& report, Output& out) {
   for (const Checked& checked : report.texts) {
     if (!checked.fixed.empty()) {
       const Lines before(checked.before);
       for (const Finding& finding : checked.fixed) {
-        out.line(fixed_line(finding, {checked.subject.shown, &before}, report.dry_run, {}));
+        out.line(fixed_line(finding, {checked.input.shown, &before}, report.dry_run, {}));
       }
     }
     for (const Located& located : checked.findings) out.line(finding_line(located.finding, source_of(checked)));

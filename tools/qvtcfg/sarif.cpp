@@ -36,9 +36,9 @@ std::string percent_encoded(std::string_view path) {
   return out;
 }
 
-Json artifact_location(const Subject& subject) {
-  if (subject.path.empty()) return {{"uri", "stdin:"}, {"description", message("standard input")}};
-  const std::string path = percent_encoded(subject.shown);
+Json artifact_location(const Input& input) {
+  if (input.path.empty()) return {{"uri", "stdin:"}, {"description", message("standard input")}};
+  const std::string path = percent_encoded(input.shown);
   if (path.starts_with('/')) return {{"uri", "file://" + path}};
   return {{"uri", path}, {"uriBaseId", kBase}};
 }
@@ -51,9 +51,8 @@ Json region(std::size_t begin, std::size_t end, const Lines& lines) {
 }
 
 Json location(const Checked& checked, std::size_t begin, std::size_t end) {
-  return {
-      {"physicalLocation",
-       {{"artifactLocation", artifact_location(checked.subject)}, {"region", region(begin, end, checked.lines())}}}};
+  return {{"physicalLocation",
+           {{"artifactLocation", artifact_location(checked.input)}, {"region", region(begin, end, checked.lines())}}}};
 }
 
 Json fix_json(const Fix& fix, const Checked& checked) {
@@ -63,7 +62,7 @@ Json fix_json(const Fix& fix, const Checked& checked) {
     if (!replacement.text.empty()) member["insertedContent"] = {{"text", replacement.text}};
     replacements.push_back(std::move(member));
   }
-  const Json change = {{"artifactLocation", artifact_location(checked.subject)},
+  const Json change = {{"artifactLocation", artifact_location(checked.input)},
                        {"replacements", std::move(replacements)}};
   return {{"description", message(fix.title + (fix.safe ? "" : " (a guess)"))},
           {"artifactChanges", Json::array({change})}};
@@ -80,7 +79,7 @@ Json related_locations(const Finding& finding, const Checked& remarks_in) {
   return list;
 }
 
-Json result(const Report& report, const Checked& checked, const Located& located) {
+Json result(const CheckReport& report, const Checked& checked, const Located& located) {
   const Finding& finding = located.finding;
   Json member = {{"ruleId", finding.kind->code},
                  {"ruleIndex", finding.kind - finding_kinds().data()},
@@ -107,12 +106,12 @@ Json rule(const FindingKind& kind) {
 }
 
 Json notification(const Checked& checked, std::string_view level, const std::string& text) {
-  const Json place = {{"physicalLocation", {{"artifactLocation", artifact_location(checked.subject)}}}};
+  const Json place = {{"physicalLocation", {{"artifactLocation", artifact_location(checked.input)}}}};
   return {{"level", level}, {"message", message(text)}, {"locations", Json::array({place})}};
 }
 
 // Whether all was checked, and what was not.
-Json invocation(const Report& report) {
+Json invocation(const CheckReport& report) {
   Json notifications = Json::array();
   bool successful = true;
   for (const Checked& checked : report.texts) {
@@ -128,7 +127,7 @@ Json invocation(const Report& report) {
 
 }  // namespace
 
-Json sarif(const Report& report) {
+Json sarif(const CheckReport& report) {
   Json rules = Json::array();
   for (const FindingKind& kind : finding_kinds()) rules.push_back(rule(kind));
   Json results = Json::array();

@@ -1,4 +1,4 @@
-#include "check_subjects.h"
+#include "check_inputs.h"
 
 #include <dirent.h>
 #include <sys/stat.h>
@@ -71,9 +71,9 @@ class Finder {
     }
   }
 
-  Subjects found() && {
+  Inputs found() && {
     std::vector<Checked>& texts = m_found.texts;
-    const auto shown = [](const Checked& checked) -> const std::string& { return checked.subject.shown; };
+    const auto shown = [](const Checked& checked) -> const std::string& { return checked.input.shown; };
     std::ranges::stable_sort(texts, {}, shown);
     const auto same = [&](const Checked& a, const Checked& b) { return shown(a) == shown(b); };
     texts.erase(std::unique(texts.begin(), texts.end(), same), texts.end());
@@ -84,9 +84,9 @@ class Finder {
   }
 
  private:
-  void add_text(Subject subject, std::string error) {
+  void add_text(Input input, std::string error) {
     Checked& checked = m_found.texts.emplace_back();
-    checked.subject = std::move(subject);
+    checked.input = std::move(input);
     checked.error = std::move(error);
   }
 
@@ -135,12 +135,12 @@ class Finder {
 
   const Arguments& m_arguments;
   const std::optional<Design>& m_design;
-  Subjects m_found;
+  Inputs m_found;
 };
 
 }  // namespace
 
-Subjects find_subjects(const Arguments& arguments, const std::optional<Design>& design) {
+Inputs find_inputs(const Arguments& arguments, const std::optional<Design>& design) {
   Finder finder(arguments, design);
   if (arguments.operands.empty()) finder.add_working_directory();
   for (const std::string& operand : arguments.operands) finder.add(operand);

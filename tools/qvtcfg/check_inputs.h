@@ -12,12 +12,12 @@
 
 namespace qvtcfg {
 
-struct Subjects {
+struct Inputs {
   std::vector<Checked> texts;         // sorted by what is shown, each once; with an error for what cannot be found
   std::vector<std::string> defaults;  // processors without an option file
 };
 
 // Those that the operands name; without operands, the option files of the working directory.
-Subjects find_subjects(const Arguments& arguments, const std::optional<SdkDebugDialog::Design>& design);
+Inputs find_inputs(const Arguments& arguments, const std::optional<SdkDebugDialog::Design>& design);
 
 }  // namespace qvtcfg
