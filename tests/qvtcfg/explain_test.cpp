@@ -55,6 +55,27 @@ TEST_F(Explain, KnowsValuesThatFollowTheWordsOfOthers) {
               StartsWith("hardware-simulator-port 7000 1:161 -ipcport lab:7000 (hardware-simulator-host) no: "));
 }
 
+TEST_F(Explain, DoesNotTakeWordsWithoutEffectForTheOrigin) {
+  write_option_file("ovrin_0",
+                    "connect ov odm -cable type zarvek_platformusb frequency 12000000 -cable type zarvek_parallel3");
+  EXPECT_EQ(row("frequency"), "frequency 200 kHz the cable's default yes");
+  EXPECT_THAT(row("cable"), StartsWith("cable zarvek_parallel3 1:73 type zarvek_parallel3, and 1 before"));
+  write_option_file("ovrin_0", "connect ov odm -cable port USB22 type zarvek_platformusb frequency 0x5b8d80");
+  EXPECT_THAT(row("port"), StartsWith("port USB21 the cable's default"));
+  EXPECT_THAT(row("frequency"), StartsWith("frequency 6 MHz 1:58 frequency 0x5b8d80"));
+  EXPECT_EQ(setting("port")["words"], nlohmann::json::array());
+}
+
+TEST_F(Explain, KnowsWordsThatTellTheDefault) {
+  write_option_file("ovrin_0",
+                    "connect ov odm -cable type zarvek_platformusb frequency 6000000 port USB21 -debugdevice deviceNr "
+                    "0 -bscan USER2");
+  EXPECT_THAT(row("frequency"), StartsWith("frequency 6 MHz 1:47 frequency 6000000"));
+  EXPECT_THAT(row("port"), StartsWith("port USB21 1:65 port USB21"));
+  EXPECT_THAT(row("debug-device"), StartsWith("debug-device 0 1:89 deviceNr 0"));
+  EXPECT_THAT(row("bscan"), StartsWith("bscan USER2 1:100 -bscan USER2"));
+}
+
 TEST_F(Explain, TellsTheLineOfTheFile) {
   write_option_file("ovrin_0", "\n\nconnect ov odm -debugdevice deviceNr 2 deviceNr 3");
   EXPECT_THAT(row("debug-device"), StartsWith("debug-device 3 3:40 deviceNr 3, and 1 before yes"));
