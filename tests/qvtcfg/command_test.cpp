@@ -110,7 +110,7 @@ TEST_F(Read, WhatIsNotUnderstoodIsExplainedInOneLine) {
       {"connect ov odm -cable speed 5", "note: the engine says: UNKNOWN Parameter 'speed' for option '-cable'"},
       {"connect ov odm -cable type zarvek_platformusb frequency 1",
        "note: the engine says: UnSupported Zarvek PlatformUSB Cable Frequency - 1 Supported Frequencies: 750000,"},
-      {"connect ov odm -", "the command given: a lone '-' stands in the place of an option or a value"},
+      {"connect ov odm -", "the command given: the text is not understood at '-'"},
   };
   for (const auto& fault : kFaults) {
     const Result result = qvtcfg({"read", "ovrin_0", fault.text, "--write"});

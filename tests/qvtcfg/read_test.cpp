@@ -104,7 +104,7 @@ TEST_F(ReadAlone, WhatIsNotUnderstoodIsExplainedInOneLine) {
       {"connect ov odm -sim -foo", "UNKNOWN ModelSim Option '-foo'"},
       {"vpconnect ov -foo", "UNKNOWN virtual platform Option '-foo'"},
       {"connect qmtc -uart", "UNKNOWN Option '-uart'"},
-      {"connect ov odm -", "a lone '-' stands in the place of an option or a value"},
+      {"connect ov odm -", "the text is not understood at '-'"},
   };
   for (const auto& fault : kFaults) {
     const Result result = qvtcfg({"read", fault.text});

@@ -7,6 +7,7 @@ namespace {
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
+using testing::StartsWith;
 
 constexpr const char* kText = "connect ov odm -cabel type zarvek_platformusb prot USB1 -debugdevice deviceNr 010";
 
@@ -51,6 +52,14 @@ TEST_F(Refusals, OfACableTextShowItsErrors) {
   EXPECT_EQ(result.code, 3);
   EXPECT_THAT(result.err,
               HasSubstr("\nthe text given:1:8: error: '-cable' has no keyword 'tpye'; did you mean 'type'?"));
+}
+
+TEST_F(Refusals, NameThePlaceOfTheFirstError) {
+  const std::string cable = "-cable typ zarvek_tcf";
+  EXPECT_THAT(qvtcfg({"read", "ovrin_0", "connect ov odm " + cable}).err,
+              StartsWith("qvtcfg: the command given: the text is not understood at 'typ'; 'qvtcfg command "));
+  EXPECT_THAT(qvtcfg({"cable", "parse", cable}).err,
+              StartsWith("qvtcfg: the text given: the text is not understood at 'typ'; expected "));
 }
 
 TEST_F(Refusals, EndWithWhatTheEngineSays) {

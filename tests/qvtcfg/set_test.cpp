@@ -493,7 +493,7 @@ TEST_F(Refused, AnOptionFileThatIsNotUnderstoodIsKept) {
        "'qvtcfg read ovrin_0 TEXT --write'"},
       {"hello", "etc/qvt_ovrin_0.opt: the text is not understood at 'hello'; correct the file"},
       {"connect odm", "etc/qvt_ovrin_0.opt: the text is not understood at 'odm'; correct the file"},
-      {"connect ov odm - x", "etc/qvt_ovrin_0.opt: a lone '-' stands in the place of an option or a value"},
+      {"connect ov odm - x", "etc/qvt_ovrin_0.opt: the text is not understood at '-'"},
       {std::string("connect ov\0odm", 14), "etc/qvt_ovrin_0.opt: the byte \\x00 at column 11 is not valid text"},
       {"connect ov odm \033[31m", "etc/qvt_ovrin_0.opt: the byte \\x1b at column 16 is not valid text"},
   };

@@ -1,5 +1,7 @@
 #include "failure.h"
 
+#include "text.h"
+
 namespace qvtcfg {
 namespace {
 
@@ -31,6 +33,20 @@ std::string without_name(const std::string& message, std::string_view name) {
   return message.starts_with(start) ? message.substr(start.size()) : message;
 }
 
+std::vector<Finding> errors_of(const SdkDebugDialog::Error& error, const TextRead& text) {
+  if (error.code != ErrorCode::notUnderstood) return {};
+  std::vector<Finding> findings = SdkDebugDialog::diagnose(text.text, text.kind, text.processor);
+  std::erase_if(findings, [](const Finding& finding) { return finding.severity != Severity::error; });
+  return findings;
+}
+
+// The reader can stop behind the word that is wrong; the place is that of the first error, which is shown below.
+std::string not_understood(const TextRead& text, const std::vector<Finding>& errors) {
+  const Finding& first = errors.front();
+  const std::string word = one_line(std::string_view(text.text).substr(first.begin, first.end - first.begin), 60);
+  return "the text is not understood" + (word.empty() ? "" : " at '" + word + "'");
+}
+
 }  // namespace
 
 Failure::Failure(const SdkDebugDialog::Error& error, const std::string& subject, const std::string& advice,
@@ -39,12 +55,18 @@ Failure::Failure(const SdkDebugDialog::Error& error, const std::string& subject,
       m_code(exit_code(error.code)),
       m_engine_text(error.engineText) {}
 
-Failure::Failure(const SdkDebugDialog::Error& error, TextRead text, const std::string& advice, std::string_view name)
-    : Failure(error, text.name, advice, name) {
-  if (error.code != ErrorCode::notUnderstood) return;
-  m_text = std::move(text);
-  m_findings = SdkDebugDialog::diagnose(m_text.text, m_text.kind, m_text.processor);
-  std::erase_if(m_findings, [](const Finding& finding) { return finding.severity != Severity::error; });
-}
+Failure::Failure(const SdkDebugDialog::Error& error, const TextRead& text, const std::string& advice,
+                 std::string_view name)
+    : Failure(error, text, errors_of(error, text), advice, name) {}
+
+Failure::Failure(const SdkDebugDialog::Error& error, const TextRead& text, std::vector<Finding> findings,
+                 const std::string& advice, std::string_view name)
+    : std::runtime_error(text.name + ": " +
+                         (findings.empty() ? without_name(error.message, name) : not_understood(text, findings)) +
+                         advice),
+      m_code(exit_code(error.code)),
+      m_engine_text(error.engineText),
+      m_text(text),
+      m_findings(std::move(findings)) {}
 
 }  // namespace qvtcfg

@@ -46,9 +46,9 @@ class Failure : public std::runtime_error {
   Failure(const SdkDebugDialog::Error& error, const std::string& subject, const std::string& advice = "",
           std::string_view name = {});
 
-  // The same for a text that was read; its name is the subject. When the text is not understood, all its errors are
-  // shown.
-  Failure(const SdkDebugDialog::Error& error, TextRead text, const std::string& advice, std::string_view name);
+  // The same for a text that was read; its name is the subject. When the text is not understood, the message names the
+  // place of its first error, and its errors are shown.
+  Failure(const SdkDebugDialog::Error& error, const TextRead& text, const std::string& advice, std::string_view name);
 
   ExitCode code() const { return m_code; }
   const std::string& engine_text() const { return m_engine_text; }
@@ -58,6 +58,9 @@ class Failure : public std::runtime_error {
   const std::vector<SdkDebugDialog::Finding>& findings() const { return m_findings; }
 
  private:
+  Failure(const SdkDebugDialog::Error& error, const TextRead& text, std::vector<SdkDebugDialog::Finding> findings,
+          const std::string& advice, std::string_view name);
+
   ExitCode m_code;
   std::string m_engine_text;
   std::vector<SdkDebugDialog::Loss> m_losses;

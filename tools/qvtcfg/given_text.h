@@ -17,7 +17,4 @@ GivenText given_text(const std::string& argument, const std::string& name);
 // Throws Failure when the text has control bytes or invalid UTF-8; advice is appended to the message.
 void require_text(const GivenText& given, const std::string& advice = "");
 
-// The message for the library's std::out_of_range.
-inline constexpr const char* kLoneDash = "a lone '-' in place of an option or a value";
-
 }  // namespace qvtcfg
