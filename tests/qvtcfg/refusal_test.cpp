@@ -4,6 +4,7 @@
 
 namespace {
 
+using testing::AllOf;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
@@ -60,6 +61,19 @@ TEST_F(Refusals, NameThePlaceOfTheFirstError) {
               StartsWith("qvtcfg: the command given: the text is not understood at 'typ'; 'qvtcfg command "));
   EXPECT_THAT(qvtcfg({"cable", "parse", cable}).err,
               StartsWith("qvtcfg: the text given: the text is not understood at 'typ'; expected "));
+}
+
+TEST_F(Refusals, ShowTenErrors) {
+  const auto text = [](std::size_t errors) {
+    std::string words = "connect ov odm";
+    for (std::size_t i = 0; i < errors; ++i) words += " -foo" + std::to_string(i);
+    return words;
+  };
+  EXPECT_THAT(qvtcfg({"read", text(10)}).err, AllOf(HasSubstr("'-foo9'"), Not(HasSubstr("more"))));
+  const std::string err = qvtcfg({"read", text(12)}).err;
+  EXPECT_THAT(err, AllOf(HasSubstr("no option '-foo9'"), Not(HasSubstr("no option '-foo10'"))));
+  EXPECT_THAT(err, HasSubstr("\n  ... and 2 more; 'qvtcfg check' shows all\n"));
+  EXPECT_EQ(nlohmann::json::parse(qvtcfg({"--json", "read", text(12)}).out)["error"]["findings"].size(), 12U);
 }
 
 TEST_F(Refusals, EndWithWhatTheEngineSays) {

@@ -71,8 +71,13 @@ void print_findings(const Failure& failure) {
   const Lines lines(failure.text().text);
   const Source source{failure.text().name, &lines};
   const Look look = look_of(STDERR_FILENO);
-  for (const auto& finding : failure.findings()) {
-    std::fputs(finding_text(finding, source, source, look).c_str(), stderr);
+  constexpr std::size_t kMost = 10;
+  const auto& findings = failure.findings();
+  for (std::size_t i = 0; i < std::min(kMost, findings.size()); ++i) {
+    std::fputs(finding_text(findings[i], source, source, look).c_str(), stderr);
+  }
+  if (findings.size() > kMost) {
+    std::fprintf(stderr, "  ... and %zu more; 'qvtcfg check' shows all\n", findings.size() - kMost);
   }
 }
 
