@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "SdkDebugDialog/OptionFile.h"
+#include "given_text.h"
 #include "parallel.h"
 #include "text.h"
 
@@ -49,18 +50,11 @@ class Descriptor {
   int m_number;
 };
 
-// Reads to the end, or what may be read at most.
 void read_all(int descriptor, Checked& checked) {
-  thread_local std::vector<char> block(std::size_t{64} << 10);
-  while (checked.text.size() <= kMostBytes) {
-    const ssize_t count = read(descriptor, block.data(), block.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) checked.error = std::strerror(errno);
-    if (count <= 0) break;
-    checked.text.append(block.data(), static_cast<std::size_t>(count));
-  }
-  checked.cut = checked.text.size() > kMostBytes;
-  if (checked.cut) checked.text.resize(kMostBytes);
+  Content content = read_to_end(descriptor);
+  checked.text = std::move(content.text);
+  checked.cut = content.cut;
+  checked.error = std::move(content.error);
 }
 
 // Opening another kind of file can block or have side effects.

@@ -72,7 +72,4 @@ struct CheckReport {
   Totals totals() const;
 };
 
-// Of a file, no more is read.
-inline constexpr std::size_t kMostBytes = std::size_t{16} << 20;
-
 }  // namespace qvtcfg
