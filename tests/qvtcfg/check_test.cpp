@@ -85,7 +85,9 @@ TEST_F(Check, FindsFilesWhoseProcessorIsGone) {
   EXPECT_EQ(result.code, 3);
   EXPECT_THAT(result.out, StartsWith("etc/qvt_ovrin_9.opt:1:1: error: the design has no processor 'ovrin_9' (did you "
                                      "mean 'ovrin_0'?)"));
+  EXPECT_EQ(qvtcfg({"check", "ovrin_9"}).out, result.out);
   EXPECT_THAT(without_design({"check"}), Not(HasSubstr("[no-such-processor]")));
+  EXPECT_EQ(qvtcfg({"check", "ovrin_9"}).out, "1 file: nothing found\n");
 }
 
 TEST_F(Check, TakesProcessorsFilesFoldersAndStandardInput) {
@@ -101,6 +103,19 @@ TEST_F(Check, TakesProcessorsFilesFoldersAndStandardInput) {
   EXPECT_THAT(files({"board/etc", "board/etc/qvt_x.opt"}), ElementsAre("board/etc/qvt_x.opt"));
   EXPECT_THAT(files({"."}), ElementsAre("etc/qvt_ovrin_0.opt"));
   EXPECT_THAT(qvtcfg({"check", "-"}, kMistyped).out, StartsWith(std::string("<stdin>:1:16: ") + kMistypedLine));
+}
+
+TEST_F(Check, ChecksAFileOnceWhateverItsNames) {
+  write_option_file("ovrin_0", kClean);
+  const std::string path = "etc/qvt_ovrin_0.opt";
+  const std::string absolute = (folder() / path).string();
+  fs::create_symlink(path, folder() / "link.opt");
+  EXPECT_THAT(files({path, absolute, "./" + path, "etc/../" + path}), ElementsAre(path));
+  EXPECT_THAT(files({absolute, path, "ovrin_0", "etc"}), ElementsAre(absolute));
+  EXPECT_THAT(files({"link.opt", "./link.opt"}), ElementsAre("link.opt"));
+  // Processors may share a file; each has other connections.
+  fs::create_symlink("qvt_ovrin_0.opt", folder() / "etc/qvt_ovrin_1.opt");
+  EXPECT_THAT(files({}), ElementsAre(path, "etc/qvt_ovrin_1.opt"));
 }
 
 TEST_F(Check, TakesTheProcessorForAWordThatIsAFileToo) {
@@ -378,12 +393,12 @@ TEST_F(CheckFixes, DoNotWriteAFileThatMayNotBeWritten) {
 
 TEST_F(CheckFixes, DoNotOverwriteAFileThatChangedMeanwhile) {
   // The second name leads to the file that was read for it before the first one was fixed.
-  write("a.opt", kMistyped);
-  fs::create_symlink("a.opt", folder() / "b.opt");
-  const Result result = qvtcfg({"check", "--fix", "a.opt", "b.opt"});
+  write_option_file("ovrin_0", kMistyped);
+  fs::create_symlink("qvt_ovrin_0.opt", folder() / "etc/qvt_ovrin_1.opt");
+  const Result result = qvtcfg({"check", "--fix"});
   EXPECT_EQ(result.code, 4);
-  EXPECT_EQ(result.err, "qvtcfg: b.opt: the file has changed since it was read; read it again\n");
-  EXPECT_EQ(read("a.opt"), "connect ov odm -cable type zarvek_platformusb");
+  EXPECT_EQ(result.err, "qvtcfg: etc/qvt_ovrin_1.opt: the file has changed since it was read; read it again\n");
+  EXPECT_EQ(read_option_file("ovrin_0"), "connect ov odm -cable type zarvek_platformusb");
 }
 
 TEST_F(CheckFixes, AreNotMadeInAPartOfAFile) {

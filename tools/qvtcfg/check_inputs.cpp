@@ -7,7 +7,9 @@
 #include <cerrno>
 #include <cstring>
 #include <memory>
+#include <set>
 #include <string_view>
+#include <tuple>
 
 #include "session.h"
 #include "text.h"
@@ -41,7 +43,11 @@ TextKind kind_of(const std::optional<std::string>& given, TextKind otherwise) {
   return *given == "cable" ? TextKind::cableText : TextKind::optionFile;
 }
 
-// The option files in a folder; with the folder's own name in front.
+std::string option_file_of(std::string_view processor) {
+  return std::string("etc/").append(kPrefix).append(processor).append(kSuffix);
+}
+
+// The option files in a folder, sorted; with the folder's own name in front.
 std::vector<std::string> option_files_in(const std::string& folder) {
   std::vector<std::string> paths;
   const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
@@ -50,6 +56,7 @@ std::vector<std::string> option_files_in(const std::string& folder) {
   while (const dirent* const entry = readdir(stream.get())) {
     if (is_option_file_name(entry->d_name)) paths.push_back(start + entry->d_name);
   }
+  std::ranges::sort(paths);
   return paths;
 }
 
@@ -93,13 +100,20 @@ class Finder {
   void add_file(std::string path, const std::string& error = "") {
     while (path.starts_with("./") && path.size() > 2) path.erase(0, 2);
     const std::string processor = processor_of(path);
+    if (is_known(path, processor)) return;
     const TextKind kind =
         processor.empty() ? kind_of(m_arguments.text_kind, TextKind::optionFile) : TextKind::optionFile;
     add_text({path, m_arguments.seen_from_outside(path), kind, m_design ? processor : ""}, error);
   }
 
+  // Whether the file was added before under another name. A link for another processor is a file of its own.
+  bool is_known(const std::string& path, const std::string& processor) {
+    struct stat status = {};
+    return stat(path.c_str(), &status) == 0 && !m_known.emplace(status.st_dev, status.st_ino, processor).second;
+  }
+
   void add_processor(const std::string& name) {
-    const std::string path = std::string("etc/").append(kPrefix).append(name).append(kSuffix);
+    const std::string path = option_file_of(name);
     struct stat status = {};
     if (lstat(path.c_str(), &status) != 0 && errno == ENOENT) {
       m_found.defaults.push_back(name);
@@ -111,12 +125,19 @@ class Finder {
   void add_path(const std::string& operand) {
     struct stat status = {};
     if (stat(operand.c_str(), &status) != 0) {
-      add_file(operand, errno == ENOENT ? "no such file" + hint(operand) : std::strerror(errno));
+      const int why = errno;
+      if (is_processor_that_is_gone(operand)) return add_file(option_file_of(operand));
+      add_file(operand, why == ENOENT ? "no such file" + hint(operand) : std::strerror(why));
     } else if (S_ISDIR(status.st_mode)) {
       add_folder(operand);
     } else {
       add_file(operand);
     }
+  }
+
+  static bool is_processor_that_is_gone(const std::string& operand) {
+    struct stat status = {};
+    return operand.find('/') == std::string::npos && lstat(option_file_of(operand).c_str(), &status) == 0;
   }
 
   // What may be meant by the name of a file that is not there.
@@ -136,6 +157,7 @@ class Finder {
   const Arguments& m_arguments;
   const std::optional<Design>& m_design;
   Inputs m_found;
+  std::set<std::tuple<dev_t, ino_t, std::string>> m_known;  // the last is the processor
 };
 
 }  // namespace
