@@ -135,16 +135,17 @@ std::string_view meaning_of_family(std::uint32_t family) {
   return found != targets().end() ? found->meaning : "processor";
 }
 
-// An ARM processor is written as a PowerPC.
-void check_family(const Subject& subject, const Examined& examined, const State& state, Report& report) {
+// Whether the target is for another kind of processor. An ARM processor is written as a PowerPC.
+bool check_family(const Subject& subject, const Examined& examined, const State& state, Report& report) {
   const Target* const target = examined.target;
-  if (!state.hasDesign || target == nullptr || target->admits != 0) return;
+  if (!state.hasDesign || target == nullptr || target->admits != 0) return false;
   const std::uint32_t family = subject.processor.identity().procFamily;
-  if (target->family == family || (target->family == kFamilyPowerPC && family == kFamilyArm)) return;
+  if (target->family == family || (target->family == kFamilyPowerPC && family == kFamilyArm)) return false;
   report.add(Code::otherFamily, examined.targetWord,
              "the target is for another kind of processor (" + std::string(target->meaning) + ") than " +
                  quoted(subject.processor.name()) + " (" + std::string(meaning_of_family(family)) + ")",
              "see whether the text is for another processor");
+  return true;
 }
 
 // The last "-cable", which has no type or frequency of its own, gives the cable the default frequency.
@@ -234,10 +235,16 @@ void check_effects(const Subject& subject, const Examined& examined, const State
   check_port(examined, report);
   check_frequency(examined, state, report);
   check_esn(examined, state, report);
-  check_fpu(subject, examined, state, report);
-  check_family(subject, examined, state, report);
   check_sets_something(examined, report);
-  check_applies(examined, state, report);
+  if (check_family(subject, examined, state, report)) {
+    // What is for that kind of processor does not apply to this one, which is told already.
+    State asMeant = state;
+    asMeant.processor.procFamily = examined.target->family;
+    check_applies(examined, asMeant, report);
+  } else {
+    check_fpu(subject, examined, state, report);
+    check_applies(examined, state, report);
+  }
   if (examined.notReached) {
     report.add(Code::notReached, *examined.notReached, "what follows is not read", "remove it");
   }

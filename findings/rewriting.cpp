@@ -55,6 +55,8 @@ const Said* not_read_back(const Examined& examined) {
 }  // namespace
 
 void check_rewriting(const Subject& subject, const Examined& examined, const State& state, Report& report) {
+  // A command for another kind of processor is not written as such.
+  if (report.has(examined.targetWord)) return;
   const Expected<std::string> written = write_state(state, subject.kind);
   if (!written) {
     const Said* const type = examined.said(kCable, "type");

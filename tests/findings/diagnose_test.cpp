@@ -219,6 +219,11 @@ TEST(Diagnose, KnowsTheProcessorOfADesign) {
             "'connect ov odm'");
   EXPECT_THAT(found_in_file("connect ppc hw -debugdevice cpunr 5", soft), ElementsAre("34-35 error wrong-cpu-number"));
   EXPECT_THAT(found_in_file("connect ppc hw", soft), ElementsAre("8-11 warning other-family"));
+  // What follows from that is left out.
+  EXPECT_THAT(found_in_file("connect ppc hw -debugdevice fpuType sp romemSize 5 icacheStartAdr 0x10000", soft),
+              ElementsAre("8-11 warning other-family"));
+  EXPECT_THAT(found_in_file("connect ppc hw -baud 9600", soft),
+              ElementsAre("8-11 warning other-family", "15-20 warning does-not-apply"));
   EXPECT_THAT(found_in_file("connect ppc hw -debugdevice fpuType dp", designed("ppc405_0")),
               ElementsAre("36-38 warning fpu-from-design"));
 }
