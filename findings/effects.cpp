@@ -105,6 +105,15 @@ void check_frequency(const Examined& examined, const State& state, Report& repor
   }
 }
 
+// A module, too, is asked for only at the end of the text.
+void check_module(const Examined& examined, const State& state, Report& report) {
+  const Said* const type = examined.said(kCable, "type");
+  if (type == nullptr || !state.cable.modulename.empty() || !why_not(row_named("module"), state).empty()) return;
+  Finding& finding = report.add(Code::missingModule, type->optionWord, "a plug-in cable needs its module",
+                                "write 'modulename' and the name of the module");
+  report.set_severity(finding, Severity::warning);
+}
+
 void check_esn(const Examined& examined, const State& state, Report& report) {
   if (state.cable.esn.empty()) return;
   for (const char* const name : {"port", "frequency"}) {
@@ -234,6 +243,7 @@ void check_effects(const Subject& subject, const Examined& examined, const State
   check_given_twice(examined, report);
   check_port(examined, report);
   check_frequency(examined, state, report);
+  check_module(examined, state, report);
   check_esn(examined, state, report);
   check_sets_something(examined, report);
   if (check_family(subject, examined, state, report)) {

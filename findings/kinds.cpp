@@ -144,7 +144,8 @@ const std::vector<FindingKind>& kinds() {
        .severity = Severity::error,
        .title = "plug-in cable without a module",
        .meaning = "A cable of type 'zarvek_plugin' needs the name of its module. Where '-cable' is the last option "
-                  "of the text, the reader refuses it without.",
+                  "of the text, the reader refuses it without. Where an option follows, the finding is a warning: "
+                  "what a program then writes for the cable is not read back.",
        .example = "connect ov odm -debugdevice deviceNr 2 -cable type zarvek_plugin",
        .advice = "Add 'modulename' and the name of the module."},
       {.code = "unsupported-cable",

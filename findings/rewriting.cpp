@@ -9,6 +9,7 @@
 #include "settings/catalogue.h"
 #include "settings/edit.h"
 #include "settings/engine_text.h"
+#include "settings/words.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -45,11 +46,30 @@ void check_lost(const Subject& subject, const Examined& examined, const State& s
   }
 }
 
-// What is known not to be read back, if it is said; null otherwise.
-const Said* not_read_back(const Examined& examined) {
-  const auto found =
-      std::ranges::find_if(examined.lasts, [](const Said& said) { return *said.row->notReadBack != '\0'; });
-  return found != examined.lasts.end() ? &*found : nullptr;
+// Why what is written for this is not read back; empty where it is.
+std::string why_not_read_back(const Said& said) {
+  std::string why = said.row->notReadBack;
+  std::ranges::replace(why, '`', '\'');
+  return why;
+}
+
+// Each argument is written as a word, and an empty one is none.
+void check_arguments(const Examined& examined, const State& state, Report& report) {
+  const Said* const said = examined.said(kCable, "modulearg");
+  if (said == nullptr || !why_not(row_named("module-arguments"), state).empty()) return;
+  const auto isEmpty = [](std::string_view argument) { return argument.empty(); };
+  if (std::ranges::none_of(split(state.cable.modulearg, ';'), isEmpty)) return;
+  report.add(Code::notReadBack, said->value,
+             "written anew, the command is not read back: ';' separates arguments, and an empty one is no word", kKeep);
+}
+
+// Other reasons are findings of their own: a module that is missing, or a frequency that the cable does not support.
+void check_read_back(const Examined& examined, Report& report) {
+  const auto isReason = [](const Said& said) { return !why_not_read_back(said).empty(); };
+  const auto found = std::ranges::find_if(examined.lasts, isReason);
+  if (found == examined.lasts.end()) return;
+  report.add(Code::notReadBack, found->word, "written anew, the command is not read back: " + why_not_read_back(*found),
+             kKeep);
 }
 
 }  // namespace
@@ -65,6 +85,7 @@ void check_rewriting(const Subject& subject, const Examined& examined, const Sta
     return;
   }
   if (*written == subject.in(subject.line)) return;
+  check_arguments(examined, state, report);
   const Reading reading = read_state(subject.processor, *written, subject.kind);
   if (reading.understood) check_lost(subject, examined, state, reading.state, report);
   if (subject.kind == TextKind::optionFile && written->size() > kLongestLine) {
@@ -73,11 +94,7 @@ void check_rewriting(const Subject& subject, const Examined& examined, const Sta
                    std::to_string(kLongestLine) + " are read",
                kKeep);
   } else if (!reading.understood) {
-    const Said* const said = not_read_back(examined);
-    std::string why = said != nullptr ? std::string(": ") + said->row->notReadBack : std::string();
-    std::ranges::replace(why, '`', '\'');
-    report.add(Code::notReadBack, said != nullptr ? said->word : examined.targetWord,
-               "written anew, the command is not read back" + why, kKeep);
+    check_read_back(examined, report);
   }
 }
 

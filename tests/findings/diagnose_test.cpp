@@ -280,6 +280,28 @@ TEST(Diagnose, FindsAFrequencyThatTheLastCableResets) {
   EXPECT_THAT(found("connect ov odm -cable frequency 12000000 -cable type zarvek_platformusb -bscan USER1"), IsEmpty());
 }
 
+TEST(Diagnose, AsksForTheModuleOfAPlugInCable) {
+  EXPECT_THAT(found("connect ov odm -cable type zarvek_plugin -debugdevice deviceNr 2"),
+              ElementsAre("15-21 warning missing-module"));
+  EXPECT_THAT(found("connect ov odm -cable modulename m -cable type zarvek_plugin -debugdevice deviceNr 2"), IsEmpty());
+}
+
+TEST(Diagnose, TellsWhyATextIsNotReadBack) {
+  // The frequency, which would be checked at the end of what is written, is the reason.
+  EXPECT_THAT(found("connect ov stub -comm jtag -cable type zarvek_platformusb frequency 5 -debugdevice cpunr 1"),
+              ElementsAre("68-69 warning unsupported-frequency"));
+  EXPECT_EQ(said("connect ov odm -configdevice jtagport cpu"),
+            "written anew, the command is not read back: written as 'jtagpin cpujtag', which the reader does not know; "
+            "keep the text, or change it in place");
+  for (const char* const arguments : {";", "a;;b", "a;"}) {
+    const std::string text =
+        std::string("connect ov odm -cable type zarvek_plugin modulename x modulearg ") + arguments;
+    EXPECT_EQ(said(text + " -debugdevice deviceNr 2"),
+              "written anew, the command is not read back: ';' separates arguments, and an empty one is no word; keep "
+              "the text, or change it in place");
+  }
+}
+
 TEST(Diagnose, AsksForTheTypeOfTheCable) {
   EXPECT_EQ(said("connect ov odm -cable frequency 6000000 port A -bscan USER1"),
             "'-cable' has no effect: no type of cable is given; write 'type' and the type");
