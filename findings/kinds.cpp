@@ -281,8 +281,9 @@ const std::vector<FindingKind>& kinds() {
       {.code = "negative-number",
        .severity = Severity::warning,
        .title = "negative number",
-       .meaning = "Numbers are not negative, but for 'nCpu'. Most of them are stored without a sign, so that '-1' "
-                  "becomes 4294967295; '-timeout' hands a negative number to the debugger as it is.",
+       .meaning = "Numbers are not negative, but for 'nCpu', and for 'cpunr', of which 200 is written as -56. Most of "
+                  "them are stored without a sign, so that '-1' becomes 4294967295; '-timeout' and the numbers of "
+                  "devices keep it.",
        .example = "connect ov stub -comm serial -port /dev/ttyUSB0 -baud 115200 -timeout -1",
        .advice = "Write the number that is meant."},
       {.code = "number-too-large",

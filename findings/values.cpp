@@ -74,10 +74,10 @@ NumberField number_field(std::monostate /*none*/) { return {}; }
 NumberRule rule_of(const Keyword& row, const NumberField& field) {
   NumberRule rule = {.isSigned = row.kind == Kind::signedNumber, .max = field.max, .unit = row.unit};
   rule.hexadecimal = row.kind == Kind::hexadecimal || row.kind == Kind::address;
-  // A byte is written as a signed number: what the writer writes is right.
-  const bool isWrittenByte = field.bytes == 1 && row.written.holds != nullptr;
   if (rule.isSigned) rule.min = field.min;
-  if (isWrittenByte) rule.min = std::numeric_limits<std::int8_t>::min();
+  // A byte is written as a signed number: 200 as -56.
+  const bool isUnsignedByte = field.bytes == 1 && field.min == 0;
+  if (isUnsignedByte && row.written.holds != nullptr) rule.min = std::numeric_limits<std::int8_t>::min();
   if (rule.unit == "Hz" || rule.unit == "baud") rule.scale = Scale::decimal;
   if (rule.unit == "bytes" || row.kind == Kind::address) rule.scale = Scale::binary;
   return rule;
@@ -122,6 +122,37 @@ constexpr std::size_t kLongestMeant = 64;
 
 bool is_quote(char c) { return c == '"' || c == '\''; }
 
+// "12000000,": what separates values elsewhere.
+std::string_view without_separator(std::string_view text) { return text.substr(0, text.find_last_not_of(",;:.") + 1); }
+
+// The digits of "1000h" or "0x1000h"; empty for any other text.
+std::string_view digits_before_suffix(const NumberRule& rule, std::string_view text) {
+  if (rule.decimalAlone || (!text.ends_with('h') && !text.ends_with('H'))) return {};
+  text.remove_suffix(1);
+  if (text.starts_with("0x") || text.starts_with("0X")) text.remove_prefix(2);
+  return is_made_of(text, kHexadecimal) ? text : std::string_view();
+}
+
+// The digits of "12,000,000", "12'000" and "12.000.000"; a single point may be that of a fraction. Empty for any other
+// text.
+std::string digits_of_thousands(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kDecimal);
+  if (first == text.npos || first == 0 || first > 3) return {};
+  const char separator = text[first];
+  std::string digits(text.substr(0, first));
+  std::size_t groups = 0;
+  for (std::size_t at = first; at < text.size(); at += 4, ++groups) {
+    const std::string_view group = text.substr(at + 1, 3);
+    if (text[at] != separator || group.size() < 3 || !is_made_of(group, kDecimal)) return {};
+    digits += group;
+  }
+  const bool isKnown = separator == ',' || separator == '\'' || (separator == '.' && groups > 1);
+  return isKnown ? digits : std::string();
+}
+
+// "12.0", without a unit: hardly what was meant.
+bool is_fraction(std::string_view text) { return text.find('.') != text.npos && is_made_of(text, "0123456789."); }
+
 std::optional<std::int64_t> meant_by(const NumberRule& rule, const Value& value) {
   const std::string_view text = value.text;
   if (text.size() > kLongestMeant) return std::nullopt;
@@ -130,11 +161,19 @@ std::optional<std::int64_t> meant_by(const NumberRule& rule, const Value& value)
   }
   if (lacks_prefix(rule, value)) return to_signed("0x" + std::string(value.text));
   if (is_octal(rule, value)) return to_decimal(value.text);
+  if (value.length > 0 && without_separator(text).size() == value.length) return value.number;
+  if (const std::string_view digits = digits_before_suffix(rule, text); !digits.empty()) {
+    return to_signed("0x" + std::string(digits));
+  }
+  if (const std::string digits = digits_of_thousands(text); !digits.empty()) return to_decimal(digits);
+  if (is_fraction(text)) return std::nullopt;
   return parse_number(value.text, rule.scale, rule.unit);
 }
 
 bool ends_with_unit(const NumberRule& rule, const Value& value) {
-  return !lacks_prefix(rule, value) && !is_made_of(value.text.substr(value.text.size() - 1), kDecimal);
+  const char last = value.text.back();
+  const bool isLetter = (last >= 'a' && last <= 'z') || (last >= 'A' && last <= 'Z');
+  return isLetter && !lacks_prefix(rule, value) && digits_before_suffix(rule, value.text).empty();
 }
 
 std::string spelled(const NumberRule& rule, std::int64_t number) {
@@ -176,6 +215,12 @@ void report_characters(const NumberRule& rule, const Value& value, const Place& 
   const char* const reason = !isNumber ? "it is no number" : hasUnit ? "units are ignored" : "the rest is ignored";
   Finding& finding = report.add(code, place, message_of(rule, value, reason), range_remedy(rule));
   if (!isNumber && !meant) return;
+  // Where a unit may stand, the digits in front are hardly the number that was meant.
+  if (!meant && rule.scale != Scale::none) {
+    finding.remedy =
+        rule.unit.empty() ? "write the whole number" : "write the whole number, in " + std::string(rule.unit);
+    return;
+  }
   const std::int64_t number = meant.value_or(value.number);
   if (!fits(rule, number)) return;
   finding.remedy = "write " + spelled(rule, number);

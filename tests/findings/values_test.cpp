@@ -81,7 +81,6 @@ TEST(Values, PlainNumbersAreFine) {
       {kCable, "frequency", "007", ""},
       {kConfigdevice, "idcode", "0x4BA0A177", ""},
       {kConfigdevice, "devicenr", "127", ""},
-      {kConfigdevice, "devicenr", "-56", ""},
       {kDebugdevice, "deviceNr", "2", ""},
       {kDebugdevice, "cpunr", "200", ""},
       {kDebugdevice, "cpunr", "-56", ""},
@@ -104,7 +103,7 @@ TEST(Values, NoNumber) {
 
 TEST(Values, CharactersBehindTheNumber) {
   expect({
-      {kCable, "frequency", "12x", "trailing-characters: '12x' is read as 12: the rest is ignored; write 12 ?12"},
+      {kDebugdevice, "deviceNr", "2x", "trailing-characters: '2x' is read as 2: the rest is ignored; write 2 ?2"},
       {kCable, "frequency", "12e6",
        "trailing-characters: '12e6' is read as 12: the rest is ignored; write 12000000 ?12000000"},
       {kCable, "frequency", "1_000",
@@ -112,12 +111,57 @@ TEST(Values, CharactersBehindTheNumber) {
       {kDebugdevice, "deviceNr", "300x",
        "trailing-characters: '300x' is read as 44: the rest is ignored; write a number from 0 to 127"},
       {kDebugdevice, "romemStartAdr", "0x1000h",
-       "trailing-characters: '0x1000h' is read as 0x00001000: the rest is ignored; write 0x00001000 ?0x00001000"},
+       "trailing-characters: '0x1000h' is read as 0x00001000: the rest is ignored; write 0x00001000 !0x00001000"},
+      {kDebugdevice, "romemStartAdr", "1000h",
+       "trailing-characters: '1000h' is read as 0x000003e8: the rest is ignored; write 0x00001000 ?0x00001000"},
+      {kDebugdevice, "romemSize", "0A00H",
+       "trailing-characters: '0A00H' is read as 0: the rest is ignored; write 2560 ?2560"},
       {kConfigdevice, "idcode", "0a001093",
        "trailing-characters: '0a001093' is read as 0x00000000: the rest is ignored; write 0x0a001093 ?0x0a001093"},
       {kDebugdevice, "deviceNr", "0x", "trailing-characters: '0x' is read as 0: the rest is ignored; write 0 ?0"},
       {kDebugdevice, "deviceNr", "2K", "trailing-characters: '2K' is read as 2: the rest is ignored; write 2 ?2"},
       {kStub, "-timeout", "20s", "trailing-characters: '20s' is read as 20: the rest is ignored; write 20 ?20"},
+  });
+}
+
+TEST(Values, SeparatorsBehindTheNumber) {
+  expect({
+      {kCable, "frequency", "12000000,",
+       "trailing-characters: '12000000,' is read as 12000000: the rest is ignored; write 12000000 !12000000"},
+      {kDebugdevice, "deviceNr", "2;", "trailing-characters: '2;' is read as 2: the rest is ignored; write 2 !2"},
+      {kConfigdevice, "idcode", "0x0a001093,",
+       "trailing-characters: '0x0a001093,' is read as 0x0a001093: the rest is ignored; write 0x0a001093 !0x0a001093"},
+      {kConfigdevice, "irlength", "300,",
+       "trailing-characters: '300,' is read as 44: the rest is ignored; write a number from 0 to 127"},
+      {kPpcSim, "-ipcport", "host:80,",
+       "trailing-characters: '80,' is read as 80: the rest is ignored; write 80 @80, !80"},
+  });
+}
+
+TEST(Values, SeparatorsOfThousands) {
+  for (const char* const value : {"12,000,000", "12'000'000", "12.000.000"}) {
+    EXPECT_EQ(shown(findings_of(row_of(kCable, "frequency"), value), value),
+              std::string("trailing-characters: '") + value +
+                  "' is read as 12: the rest is ignored; write 12000000 ?12000000");
+  }
+  expect({
+      {kStub, "-baud", "115,200",
+       "trailing-characters: '115,200' is read as 115: the rest is ignored; write 115200 ?115200"},
+  });
+}
+
+// Where a number with a unit may stand, the digits in front are hardly what was meant.
+TEST(Values, NothingCertain) {
+  for (const char* const value : {"12.0", "12.5", "12x", "12,5", "1234,000", "12,000.000", "12.000", "12MHzz"}) {
+    const std::vector<Finding> findings = findings_of(row_of(kCable, "frequency"), value);
+    ASSERT_EQ(findings.size(), 1U) << value;
+    EXPECT_EQ(findings[0].kind->code, "trailing-characters") << value;
+    EXPECT_EQ(findings[0].remedy, "write the whole number, in Hz") << value;
+    EXPECT_TRUE(findings[0].fixes.empty()) << value;
+  }
+  expect({
+      {kDebugdevice, "romemStartAdr", "0x1000,0",
+       "trailing-characters: '0x1000,0' is read as 0x00001000: the rest is ignored; write the whole number"},
   });
 }
 
@@ -149,7 +193,7 @@ TEST(Values, Octal) {
        "octal-number: '0100' is read as 0x00000040: a leading zero makes it octal; write 0x00000040, or 0x00000100 if "
        "that is meant !0x00000040 ?0x00000100"},
       {kDebugdevice, "deviceNr", "0377",
-       "octal-number: '0377' is read as -1: a leading zero makes it octal; write -1 !-1"},
+       "octal-number: '0377' is read as -1: a leading zero makes it octal; write a number from 0 to 127"},
       {kDebugdevice, "nCpu", "-010",
        "octal-number: '-010' is read as -8: a leading zero makes it octal; write -8, or -10 if that is meant !-8 ?-10"},
   });
@@ -162,6 +206,10 @@ TEST(Values, NegativeNumbers) {
       {kDebugdevice, "romemStartAdr", "-1",
        "negative-number: '-1' is read as 0xffffffff: it is negative; write a number from 0 to 0xffffffff"},
       {kStub, "-baud", "-5", "negative-number: '-5' is negative; write a number from 0 to 2147483647"},
+      {kDebugdevice, "deviceNr", "-5", "negative-number: '-5' is negative; write a number from 0 to 127"},
+      {kConfigdevice, "devicenr", "-1", "negative-number: '-1' is negative; write a number from 0 to 127"},
+      {kConfigdevice, "irlength", "-200",
+       "negative-number: '-200' is read as 56: it is negative; write a number from 0 to 127"},
       {kConfigdevice, "isfpga", "-1", "negative-number: '-1' is negative; write a number from 0 to 127"},
       {kDebugdevice, "cpunr", "-129",
        "negative-number: '-129' is read as 127: it is negative; write a number from 0 to 255"},
@@ -296,9 +344,7 @@ TEST(Values, AreToldExactlyWhereTheReaderTakesThemForAnother) {
       const bool isByte = *stored >= -128 && *stored < 256;
       // The writer writes the byte 200 as -56.
       const bool isWrittenByte = row->name.text() == "cpunr" && isByte && seen == static_cast<std::int8_t>(*stored);
-      const bool mayBeNegative = row->kind == Kind::signedNumber || row->name.text() == "cpunr" ||
-                                 row->name.text() == "deviceNr" || row->name.text() == "devicenr" ||
-                                 row->name.text() == "irlength";
+      const bool mayBeNegative = row->kind == Kind::signedNumber || row->name.text() == "cpunr";
       const bool isSame = (seen == stored && (*seen >= 0 || mayBeNegative)) || isWrittenByte;
 
       const std::vector<Finding> findings = findings_of(*row, value);
