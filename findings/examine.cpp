@@ -79,6 +79,7 @@ class Examiner : public Walker {
   std::string no_such(const Refusal& refusal, std::string_view word) const;
   Code code_of(const Refusal& refusal, std::string_view word) const;
   void apply(Finding& finding, Repair repair, std::size_t words = 1);
+  bool stands_behind_blank(const Piece& word) const;
   bool has_needless_dash(Slot slot);
   bool begins_option(const Piece& word);
   bool without_mark();
@@ -197,13 +198,20 @@ bool Examiner::refused(Slot slot) {
   if (slot == Slot::head && (without_mark() || written_head() || with_head())) return true;
   const Refusal at = refusal(slot);
   std::optional<Repair> found;
-  if (!is_known_elsewhere(at, word.text)) found = repair(at, word);
+  if (stands_behind_blank(word) && !is_known_elsewhere(at, word.text)) found = repair(at, word);
   if (!found) {
     report_unknown(at);
     return false;
   }
   apply(m_report.add(code_of(at, word.text), place_of(word), no_such(at, word.text)), std::move(*found));
   return true;
+}
+
+// Other white space, such as a carriage return, may become the end of the line once the word has changed.
+bool Examiner::stands_behind_blank(const Piece& word) const {
+  if (word.begin == 0) return true;
+  const char before = m_subject.text[word.begin - 1];
+  return !is_space(before) || before == ' ' || before == '\t' || before == '\n';
 }
 
 // A dash before a word that is a name without it. Without such a name the word is an option, and what is due is
@@ -348,6 +356,7 @@ void Examiner::missing(Slot slot) {
     // Of a word that is no option anywhere, this is enough.
     if (find_option(next->text, kAnyOptions, letter_case()) == nullptr) m_reported = next->begin;
   } else if (m_lastWord != Place()) {
+    if (m_report.has(m_lastWord)) return;
     m_report.add(Code::incompleteCommand, m_lastWord,
                  std::string(what).append(" is missing behind ").append(quoted(m_subject.in(m_lastWord))), remedy);
   } else if (m_subject.kind == TextKind::optionFile) {
@@ -390,7 +399,10 @@ bool Examiner::refuses_second() {
   const Piece* const second = ahead(1);
   if (second == nullptr || second->text == "-" || is_option_word(second->text)) return false;
   if (run()->bit == kSoftSimOptions.bit) return false;
-  return here().option->takes != Takes::pairs || !is_one_of(second->text, keyword_names(here().option->group));
+  if (here().option->takes != Takes::pairs) return true;
+  // It reads a pair before it looks at the keyword, and comes to a lone dash in the place of its value first.
+  if (ahead(2) != nullptr && ahead(2)->text == "-") return false;
+  return !is_one_of(second->text, keyword_names(here().option->group));
 }
 
 Code Examiner::code_of_second() const {
