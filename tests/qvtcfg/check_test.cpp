@@ -65,12 +65,30 @@ TEST_F(Check, TakesEveryOptionFileOfTheWorkingFolder) {
             "2 files: 1 error in 1 file; 1 can be fixed with --fix\n");
 }
 
-TEST_F(Check, OfNoFileFindsNothing) {
-  EXPECT_EQ(qvtcfg({"check"}).out, "0 files: nothing found\n");
+TEST_F(Check, OfADesignWithoutOptionFilesTellsThatAllHaveTheDefaults) {
+  const std::string defaults = "no option file: every processor has the defaults\n";
+  EXPECT_EQ(qvtcfg({"check"}).out, defaults);
   fs::remove(folder() / "etc");
   const Result result = qvtcfg({"check"});
   EXPECT_EQ(result.code, 0);
-  EXPECT_EQ(result.out, "0 files: nothing found\n");
+  EXPECT_EQ(result.out, defaults);
+}
+
+TEST_F(Check, OfAFolderWithNothingToCheckFails) {
+  fs::remove(folder() / "design.json");
+  const Result result = qvtcfg({"check"});
+  EXPECT_EQ(result.code, 4);
+  EXPECT_EQ(result.out, "");
+  EXPECT_EQ(result.err,
+            "qvtcfg: this folder has no design.json and no option file etc/qvt_NAME.opt; -C DIR names another\n");
+}
+
+TEST_F(Check, OfAFolderThatCannotBeReadFails) {
+  fs::remove(folder() / "etc");
+  write("etc", "no folder");
+  const Result result = qvtcfg({"check"});
+  EXPECT_EQ(result.code, 4);
+  EXPECT_EQ(result.err, "qvtcfg: etc: Not a directory\n");
 }
 
 TEST_F(Check, TellsTheProcessorByTheNameOfTheFile) {

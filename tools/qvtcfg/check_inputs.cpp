@@ -11,6 +11,7 @@
 #include <string_view>
 #include <tuple>
 
+#include "failure.h"
 #include "session.h"
 #include "text.h"
 
@@ -47,8 +48,10 @@ std::string option_file_of(std::string_view processor) {
   return std::string("etc/").append(kPrefix).append(processor).append(kSuffix);
 }
 
-// The option files in a folder, sorted; with the folder's own name in front.
+// The option files in a folder, sorted; with the folder's own name in front. errno tells why the folder cannot be read,
+// or is 0.
 std::vector<std::string> option_files_in(const std::string& folder) {
+  errno = 0;
   std::vector<std::string> paths;
   const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
   if (!stream) return paths;
@@ -65,7 +68,12 @@ class Finder {
   Finder(const Arguments& arguments, const std::optional<Design>& design) : m_arguments(arguments), m_design(design) {}
 
   void add_working_directory() {
-    for (const std::string& path : option_files_in("etc")) add_file(path);
+    const std::vector<std::string> paths = option_files_in("etc");
+    if (paths.empty() && errno != 0 && errno != ENOENT) return add_file("etc", std::strerror(errno));
+    if (paths.empty() && !m_design) {
+      throw Failure(kFile, "this folder has no design.json and no option file etc/qvt_NAME.opt; -C DIR names another");
+    }
+    for (const std::string& path : paths) add_file(path);
   }
 
   void add(const std::string& operand) {

@@ -38,6 +38,7 @@ std::string found_in(const Totals& totals) {
 
 std::string totals_line(const CheckReport& report) {
   const Totals totals = report.totals();
+  if (report.texts.empty() && report.defaults.empty()) return "no option file: every processor has the defaults";
   std::string line = counted(totals.files, "file") + ": " + found_in(totals);
   if (totals.fixed != 0) line += "; " + std::to_string(totals.fixed) + (report.dry_run ? " would be fixed" : " fixed");
   if (totals.fixable != 0) line += "; " + std::to_string(totals.fixable) + " can be fixed with --fix";
