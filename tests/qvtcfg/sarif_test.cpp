@@ -98,6 +98,7 @@ TEST_F(Sarif, CountsColumnsInCharacters) {
   write("a.opt", "connect ov odm -cable type zarvek_platformusb port \u00e9\u4e2d -cabel");
   const Json run = this->run({"a.opt"});
   EXPECT_EQ(run["columnKind"], "unicodeCodePoints");
+  EXPECT_EQ(run["newlineSequences"], Json::array({"\n"}));
   for (const Json& result : run["results"]) {
     if (result["ruleId"] != "unknown-option") continue;
     const Json& region = result["locations"][0]["physicalLocation"]["region"];
@@ -136,6 +137,40 @@ TEST_F(Sarif, TellsWhatWasNotChecked) {
   const Json& notification = bad["invocations"][0]["toolExecutionNotifications"][0];
   EXPECT_EQ(notification["level"], "error");
   EXPECT_EQ(notification["locations"][0]["physicalLocation"]["artifactLocation"]["uri"], "nowhere.opt");
+}
+
+TEST_F(Sarif, TellsWhatWasFixed) {
+  write_option_file("ovrin_0", "\nconnect ov odm -cabel type zarvek_platformusb");
+  for (const auto& [option, message] : {std::pair{"--dry-run", "would fix: no option '-cabel'; did you mean '-cable'?"},
+                                        std::pair{"--strict", "fixed: no option '-cabel'; did you mean '-cable'?"}}) {
+    const Json run = this->run({"--fix", option});
+    EXPECT_EQ(run["results"], Json::array());
+    const Json& notifications = run["invocations"][0]["toolExecutionNotifications"];
+    ASSERT_EQ(notifications.size(), 1U);
+    EXPECT_EQ(notifications[0]["level"], "note");
+    EXPECT_EQ(notifications[0]["message"]["text"], message);
+    const Json& rule = notifications[0]["associatedRule"];
+    EXPECT_EQ(rule["id"], "unknown-option");
+    EXPECT_EQ(run["tool"]["driver"]["rules"][rule["index"].get<std::size_t>()]["id"], "unknown-option");
+    EXPECT_EQ(notifications[0]["locations"][0]["physicalLocation"]["region"]["startLine"], 2);
+  }
+}
+
+TEST_F(Sarif, TellsWhichFixesAreSafe) {
+  write_option_file("ovrin_0", "connect ov odm -debugdevice deviceNr 010");
+  const Json run = this->run({});
+  const Json& fixes = run["results"][0]["fixes"];
+  ASSERT_EQ(fixes.size(), 2U);
+  EXPECT_EQ(fixes[0]["properties"]["safe"], true);
+  EXPECT_EQ(fixes[1]["properties"]["safe"], false);
+}
+
+TEST_F(Sarif, HasNoRegionForAFindingAboutTheFile) {
+  write_option_file("ovrin_9", "connect ov sim");
+  const Json run = this->run({});
+  ASSERT_EQ(run["results"].size(), 1U);
+  EXPECT_EQ(run["results"][0]["ruleId"], "no-such-processor");
+  EXPECT_FALSE(run["results"][0]["locations"][0]["physicalLocation"].contains("region"));
 }
 
 TEST_F(Sarif, HasValidRegionsForBadFiles) {

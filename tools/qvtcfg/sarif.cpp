@@ -50,6 +50,13 @@ Json region(std::size_t begin, std::size_t end, const Lines& lines) {
           {"endColumn", last.column}, {"byteOffset", begin},         {"byteLength", end - begin}};
 }
 
+// A finding with an empty place at the beginning is about the whole text.
+Json location(const Checked& checked, const Finding& finding, const Lines& lines) {
+  Json place = {{"artifactLocation", artifact_location(checked.input)}};
+  if (finding.end != 0) place["region"] = region(finding.begin, finding.end, lines);
+  return {{"physicalLocation", std::move(place)}};
+}
+
 Json location(const Checked& checked, std::size_t begin, std::size_t end) {
   return {{"physicalLocation",
            {{"artifactLocation", artifact_location(checked.input)}, {"region", region(begin, end, checked.lines())}}}};
@@ -65,7 +72,8 @@ Json fix_json(const Fix& fix, const Checked& checked) {
   const Json change = {{"artifactLocation", artifact_location(checked.input)},
                        {"replacements", std::move(replacements)}};
   return {{"description", message(fix.title + (fix.safe ? "" : " (a guess)"))},
-          {"artifactChanges", Json::array({change})}};
+          {"artifactChanges", Json::array({change})},
+          {"properties", {{"safe", fix.safe}}}};
 }
 
 Json related_locations(const Finding& finding, const Checked& remarks_in) {
@@ -85,7 +93,7 @@ Json result(const CheckReport& report, const Checked& checked, const Located& lo
                  {"ruleIndex", finding.kind - finding_kinds().data()},
                  {"level", severity_name(finding.severity)},
                  {"message", message(whole_message(finding))},
-                 {"locations", Json::array({location(checked, finding.begin, finding.end)})}};
+                 {"locations", Json::array({location(checked, finding, checked.lines())})}};
   const Checked& other = located.remarks_in ? report.texts[*located.remarks_in] : checked;
   if (!finding.remarks.empty()) member["relatedLocations"] = related_locations(finding, other);
   if (!finding.fixes.empty()) {
@@ -105,12 +113,24 @@ Json rule(const FindingKind& kind) {
           {"defaultConfiguration", {{"level", severity_name(kind.severity)}}}};
 }
 
+Json rule_reference(const Finding& finding) {
+  return {{"id", finding.kind->code}, {"index", finding.kind - finding_kinds().data()}};
+}
+
 Json notification(const Checked& checked, std::string_view level, const std::string& text) {
   const Json place = {{"physicalLocation", {{"artifactLocation", artifact_location(checked.input)}}}};
   return {{"level", level}, {"message", message(text)}, {"locations", Json::array({place})}};
 }
 
-// Whether all was checked, and what was not.
+// A finding that is no result any more.
+Json fixed_notification(const Checked& checked, const Finding& finding, const Lines& before, bool dry_run) {
+  Json member = notification(checked, "note", (dry_run ? "would fix: " : "fixed: ") + whole_message(finding));
+  member["associatedRule"] = rule_reference(finding);
+  member["locations"] = Json::array({location(checked, finding, before)});
+  return member;
+}
+
+// Whether all was checked, what was not, and what was fixed.
 Json invocation(const CheckReport& report) {
   Json notifications = Json::array();
   bool successful = true;
@@ -119,6 +139,10 @@ Json invocation(const CheckReport& report) {
     if (checked.cut) {
       notifications.push_back(
           notification(checked, "note", "the file is larger than 16 MiB: what follows is not checked"));
+    }
+    const Lines before(checked.before);
+    for (const Finding& finding : checked.fixed) {
+      notifications.push_back(fixed_notification(checked, finding, before, report.dry_run));
     }
     successful &= checked.error.empty();
   }
@@ -139,6 +163,7 @@ Json sarif(const CheckReport& report) {
   const Json run = {{"tool", {{"driver", driver}}},
                     {"originalUriBaseIds", {{kBase, base}}},
                     {"columnKind", "unicodeCodePoints"},
+                    {"newlineSequences", Json::array({"\n"})},
                     {"invocations", Json::array({invocation(report)})},
                     {"results", std::move(results)}};
   return {{"$schema", "https://docs.oasis-open.org/sarif/sarif/v2.1.0/errata01/os/schemas/sarif-schema-2.1.0.json"},
