@@ -439,6 +439,15 @@ TEST_F(CheckExplains, AFindingWithAnExample) {
   EXPECT_EQ(json({"check", "--explain=unknown-option"})["code"], "unknown-option");
 }
 
+TEST_F(CheckExplains, AFindingThatTakesMoreThanAText) {
+  for (const char* code : {"no-such-processor", "wrong-cpu-number", "shared-cable-frequency", "same-processor"}) {
+    const std::string out = qvtcfg({"check", "--explain", code}).out;
+    EXPECT_THAT(out, HasSubstr(" is found only where "));
+    EXPECT_THAT(out, HasSubstr("\nThis text alone has no such finding: see above.\n\n"));
+  }
+  EXPECT_THAT(qvtcfg({"check", "--explain", "octal-number"}).out, Not(HasSubstr("This text alone")));
+}
+
 TEST_F(CheckExplains, AllFindingsInATable) {
   for (const std::vector<std::string>& arguments :
        {std::vector<std::string>{"check", "--explain"}, std::vector<std::string>{"check", "--explain=all"}}) {

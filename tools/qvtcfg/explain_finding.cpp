@@ -67,7 +67,9 @@ void print_kind(const FindingKind& kind, Output& out) {
     if (const Finding* const finding = own_finding(findings, kind)) {
       out.text(finding_text(*finding, source, source, out.look()));
     } else {
+      // Its meaning tells what else it takes: the design, or several files.
       out.line("Example: " + visible(kind.example));
+      out.line("This text alone has no such finding: see above.");
     }
   }
   out.line("");
