@@ -17,13 +17,13 @@ constexpr std::string_view kCommands[] = {
     "connect ov odm -cable type zarvek_platformusb port USB21 frequency 6000000 -debugdevice deviceNr 2 cpunr 1",
     "connect ov odm -debugdevice deviceNr 2 -cable type zarvek_platformusb frequency 12000000",
     "connect ov odm -cable type zarvek_parallel4 port LPT1 frequency 5000000 -bscan USER1 -debugdevice deviceNr 1",
-    "connect ov odm -configdevice devicenr 1 partname prom32 irlength 8 idcode 0x05059093 -configdevice devicenr 2 "
-    "partname fpga irlength 10 idcode 0x0a001093 -debugdevice deviceNr 2 cpunr 1",
+    ("connect ov odm -configdevice devicenr 1 partname prom32 irlength 8 idcode 0x05059093 -configdevice devicenr 2 "
+     "partname fpga irlength 10 idcode 0x0a001093 -debugdevice deviceNr 2 cpunr 1"),
     "connect ov sim -memsize 0x100",
     "connect ov stub -comm serial -port /dev/ttyUSB0 -baud 115200 -timeout 20000",
     "connect ov stub -comm jtag -cable type zarvek_platformusb frequency 6000000 -debugdevice deviceNr 2",
-    "connect ppc hw -cable type zarvek_plugin modulename probe modulearg a=1 modulearg b -debugdevice deviceNr 1 "
-    "icacheStartAdr 0x70000000 fpuType sp proctype ppc405",
+    ("connect ppc hw -cable type zarvek_plugin modulename probe modulearg a=1 modulearg b -debugdevice deviceNr 1 "
+     "icacheStartAdr 0x70000000 fpuType sp proctype ppc405"),
     "connect ppc hw -debugdevice deviceNr 1 romemStartAdr 0xfffc0000 romemSize 262144 -cable type zarvek_tcf",
     "connect ppc sim -ipcport localhost:7000",
     "connect ppc sim -icf sim.cfg -debugdevice cpunr 1",
