@@ -286,6 +286,7 @@ bool Examiner::with_head() {
   Finding& finding = m_report.add(Code::incompleteCommand, place_of(word),
                                   "the head is missing before the target " + quoted(word.text));
   const Place before = {word.begin, word.begin};
+  m_reported = word.begin;
   apply(finding, {"write " + quoted(name) + " before it",
                   fix("write " + quoted(name), false, before, name + " "),
                   {{connect.name.text(), word.begin, word.begin}, word}});
@@ -356,7 +357,7 @@ void Examiner::missing(Slot slot) {
     // Of a word that is no option anywhere, this is enough.
     if (find_option(next->text, kAnyOptions, letter_case()) == nullptr) m_reported = next->begin;
   } else if (m_lastWord != Place()) {
-    if (m_report.has(m_lastWord)) return;
+    if (m_lastWord.begin == m_reported) return;
     m_report.add(Code::incompleteCommand, m_lastWord,
                  std::string(what).append(" is missing behind ").append(quoted(m_subject.in(m_lastWord))), remedy);
   } else if (m_subject.kind == TextKind::optionFile) {

@@ -3,6 +3,7 @@
 // What each word of a text is, according to the tables of the syntax.
 
 #include <cstddef>
+#include <deque>
 #include <string_view>
 #include <vector>
 
@@ -79,7 +80,7 @@ class Walker {
 
   // --- The words ahead ---
 
-  // Null behind the last word.
+  // Null behind the last word. It stays where it is until words ahead are replaced or told.
   const Piece* ahead(std::size_t count = 0);
   // Puts others, or none, in the place of the first ones.
   void replace_ahead(std::size_t count, const std::vector<Piece>& by);
@@ -113,7 +114,7 @@ class Walker {
   TextKind m_kind;
   Source m_source;
   TokenCursor m_cursor;
-  std::vector<Piece> m_ahead;
+  std::deque<Piece> m_ahead;  // looking further ahead moves none of them
   const Head* m_head = nullptr;
   const Run* m_run = nullptr;
   const Keyword* m_row = nullptr;
