@@ -43,6 +43,19 @@ Finding& Report::add(Code code, const Place& place, std::string message, std::st
 
 bool Report::has(const Place& place) const { return m_places.contains({place.begin, place.end}); }
 
+std::optional<Finding> Report::take_warning(const Place& place) {
+  if (!has(place)) return std::nullopt;
+  const auto found = std::ranges::find_if(m_findings, [&](const Finding& f) {
+    return f.begin == place.begin && f.end == place.end && f.severity == Severity::warning;
+  });
+  if (found == m_findings.end()) return std::nullopt;
+  Finding taken = std::move(*found);
+  m_findings.erase(found);
+  m_places.erase(m_places.find({place.begin, place.end}));
+  --m_counts[static_cast<std::size_t>(taken.kind - &kind_of(Code{}))];
+  return taken;
+}
+
 void Report::set_severity(Finding& finding, Severity severity) {
   if (finding.severity == Severity::error) --m_errors;
   if (severity == Severity::error) ++m_errors;

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -48,6 +49,8 @@ class Report {
   std::size_t errors() const { return m_errors; }
   // Whether something was found at this very place.
   bool has(const Place& place) const;
+  // Removes the first warning at this very place.
+  std::optional<Finding> take_warning(const Place& place);
   // For a finding whose severity is not that of its kind.
   void set_severity(Finding& finding, Severity severity);
 
@@ -56,7 +59,7 @@ class Report {
 
  private:
   std::vector<Finding> m_findings;
-  std::set<std::pair<std::size_t, std::size_t>> m_places;  // of the findings
+  std::multiset<std::pair<std::size_t, std::size_t>> m_places;  // of the findings
   std::array<std::size_t, static_cast<std::size_t>(Code::tooMany) + 1> m_counts{};
   Finding m_unlisted;
   std::size_t m_errors = 0;

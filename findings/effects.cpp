@@ -1,6 +1,7 @@
 #include "findings/effects.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -216,6 +217,7 @@ Finding& add_frequency(const CableType& type, std::uint32_t hz, const Said& freq
   for (const std::uint32_t accepted : type.accepted) {
     all.append(all.empty() ? "" : ", ").append(std::to_string(accepted));
   }
+  const std::optional<Finding> misread = report.take_warning(frequency.value);
   Finding& finding =
       report.add(Code::unsupportedFrequency, frequency.value,
                  "a cable of the type " + quoted(type.names.back().text()) + " does not run at " + hertz(hz),
@@ -224,16 +226,18 @@ Finding& add_frequency(const CableType& type, std::uint32_t hz, const Said& freq
     finding.fixes.push_back(fix("write " + std::to_string(value) + " (" + hertz(value) + ")", false, frequency.value,
                                 std::to_string(value)));
   };
-  // A number with a unit, or with separators of thousands, tells what was meant.
-  std::string typed(frequency.text);
-  std::erase_if(typed, [](char c) { return c == ',' || c == '\'' || c == '"'; });
-  const std::optional<std::int64_t> meant = parse_number(typed, Scale::decimal, "Hz");
-  const auto found = std::ranges::find(type.accepted, meant.value_or(0));
-  if (found != type.accepted.end()) {
-    propose(*found);
+  std::uint32_t wanted = hz;
+  if (misread) {
+    // A value that is not what it seems; the last guess is what was meant.
+    finding.remarks.push_back({0, 0, misread->message});
+    if (misread->fixes.empty()) return finding;
+    wanted = static_cast<std::uint32_t>(to_unsigned(misread->fixes.back().replacements.front().text));
+  }
+  const auto above = std::ranges::upper_bound(type.accepted, wanted);
+  if (above != type.accepted.begin() && *std::prev(above) == wanted) {
+    propose(wanted);
     return finding;
   }
-  const auto above = std::ranges::upper_bound(type.accepted, hz);
   if (above != type.accepted.begin()) propose(*std::prev(above));
   if (above != type.accepted.end()) propose(*above);
   return finding;

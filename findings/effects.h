@@ -18,7 +18,7 @@ void check_effects(const Subject& subject, const Examined& examined, const State
 // is left out.
 void check_rewriting(const Subject& subject, const Examined& examined, const State& state, Report& report);
 
-// A frequency that the cable does not support.
+// A frequency that the cable does not support. It replaces what was found about the value.
 Finding& add_frequency(const CableType& type, std::uint32_t hz, const Said& frequency, Report& report);
 
 }  // namespace SdkDebugDialog

@@ -264,6 +264,30 @@ TEST(Diagnose, LooksAtTheFrequencyWhereTheReaderDoesNot) {
               ElementsAre("15-21 warning missing-frequency"));
 }
 
+TEST(Diagnose, TakesAFrequencyForWhatWasMeant) {
+  const auto isFixed = [](const std::string& frequency, const std::string& expected) {
+    const std::string begin = "connect ov odm -cable type zarvek_platformusb frequency ";
+    EXPECT_THAT(found(begin + frequency),
+                ElementsAre("56-" + std::to_string(56 + frequency.size()) + " error unsupported-frequency"));
+    EXPECT_EQ(fixed(begin + frequency, TextKind::command, FixChoice::allFirst), begin + expected);
+  };
+  isFixed("12MHz", "12000000");
+  isFixed("12,000,000", "12000000");
+  isFixed("06000000", "6000000");
+  isFixed("\"6000000\"", "6000000");
+  isFixed("5MHz", "3000000");
+  isFixed("5000000", "3000000");
+  isFixed("5", "750000");
+  // Nothing certain is meant.
+  isFixed("12.0", "12.0");
+  isFixed("twelve", "twelve");
+  EXPECT_EQ(diagnose("connect ov odm -cable type zarvek_platformusb frequency 12MHz", TextKind::command)
+                .front()
+                .remarks.front()
+                .message,
+            "'12MHz' is read as 12: units are ignored");
+}
+
 TEST(Diagnose, WritesTheFrequencyBehindTheType) {
   EXPECT_EQ(fixed("connect ov odm -cable type zarvek_platformusb port A -bscan USER1", TextKind::command,
                   FixChoice::allFirst),
