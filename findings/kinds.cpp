@@ -244,11 +244,12 @@ const std::vector<FindingKind>& kinds() {
                  "encoding: save it as ASCII or UTF-8."},
       {.code = "quotes",
        .severity = Severity::warning,
-       .title = "quotes or a backslash",
+       .title = "quotes, a backslash or a variable",
        .meaning = "There is no quoting and no escape: quotes and backslashes are parts of the value, and a blank "
-                  "ends a value in any case.",
+                  "ends a value in any case. No shell reads the text: '~' and '$' are parts of the value, too.",
        .example = "connect ppc sim -icf \"sim.icf\"",
-       .advice = "Remove the quotes. A value that has a blank in it cannot be given: rename the file."},
+       .advice = "Remove the quotes, and write the whole name of a file. A value that has a blank in it cannot be "
+                 "given: rename the file."},
       {.code = "not-a-number",
        .severity = Severity::warning,
        .title = "value that is not a number",
@@ -258,11 +259,12 @@ const std::vector<FindingKind>& kinds() {
        .advice = "Write a number: decimal, or hexadecimal with '0x'."},
       {.code = "trailing-characters",
        .severity = Severity::warning,
-       .title = "number with something behind it",
-       .meaning = "The reader takes the digits at the front of the word and ignores the rest, without a message.",
+       .title = "value with something behind it",
+       .meaning = "Of a number the reader takes the digits at the front of the word and ignores the rest, without a "
+                  "message. A text keeps a comma or semicolon at its end.",
        .example = "connect ov odm -debugdevice deviceNr 2,",
-       .advice = "Remove what is not a part of the number. There are no commas, points or underscores in it, and a "
-                 "hexadecimal number begins with '0x'."},
+       .advice = "Remove what is not a part of the value. Blanks alone separate words. There are no commas, points or "
+                 "underscores in a number, and a hexadecimal number begins with '0x'."},
       {.code = "unit-ignored",
        .severity = Severity::warning,
        .title = "unit that is ignored",

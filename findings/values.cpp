@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <limits>
 #include <optional>
 #include <string>
@@ -275,6 +276,60 @@ void check_address(const Keyword& row, std::string_view value, const Place& plac
   check(kPort, port, {place.begin + colon + 1, place.end}, report);
 }
 
+// --- Texts ---
+
+bool check_quotes(std::string_view value, const Place& place, Report& report) {
+  if (value.ends_with('\\')) {
+    report.add(Code::quotes, place, quoted(value) + " ends here: a backslash does not keep the blank behind it",
+               "use a text without blanks");
+    return true;
+  }
+  const bool isBegun = is_quote(value.front());
+  if (isBegun && (value.size() == 1 || value.back() != value.front())) {
+    report.add(Code::quotes, place, quoted(value) + " ends here: quotes join no words",
+               "use a text without blanks and quotes");
+    return true;
+  }
+  // An apostrophe may be part of a name.
+  if (!isBegun && value.find('"') == value.npos) return false;
+  Finding& finding = report.add(Code::quotes, place, quoted(value) + " keeps its quotes: they are part of the text",
+                                "write the text without quotes");
+  if (!isBegun) return true;
+  const std::string_view text = value.substr(1, value.size() - 2);
+  // What begins with a dash may be an option.
+  if (!text.empty() && !text.starts_with('-')) {
+    finding.fixes.push_back(fix("write " + quoted(text), false, place, std::string(text)));
+  }
+  return true;
+}
+
+// What separates values elsewhere. An argument of a module can have any form.
+bool check_separator(const Keyword& row, std::string_view value, const Place& place, Report& report) {
+  const std::string_view text = value.substr(0, value.find_last_not_of(",;") + 1);
+  if (text.size() == value.size() || row.repeats) return false;
+  const std::string_view separator = value.substr(text.size());
+  Finding& finding = report.add(Code::trailingCharacters, place,
+                                quoted(value).append(" keeps ").append(quoted(separator)).append(" at its end"),
+                                "separate words by blanks alone");
+  if (text.empty()) return true;
+  finding.remedy = "write " + quoted(text);
+  finding.fixes.push_back(fix(finding.remedy, false, place, std::string(text)));
+  return true;
+}
+
+// What a shell would replace in the name of a file or a port.
+void check_shell(const Keyword& row, std::string_view value, const Place& place, Report& report) {
+  constexpr std::string_view kFilesAndPorts[] = {"port", "-port", "fname", "-icf"};
+  if (std::ranges::find(kFilesAndPorts, row.name.text()) == std::end(kFilesAndPorts)) return;
+  const bool isFolder = value == "~" || value.starts_with("~/");
+  const std::size_t dollar = value.find('$');
+  const bool isVariable = dollar != value.npos && dollar + 1 < value.size();
+  if (!isFolder && !isVariable) return;
+  const char* const reason =
+      isFolder ? " keeps its '~': no shell replaces it by a folder" : " keeps its '$': no shell replaces a variable";
+  report.add(Code::quotes, place, quoted(value) + reason, "write the whole name");
+}
+
 }  // namespace
 
 void check_number(const Keyword& row, std::string_view value, const Place& place, Report& report) {
@@ -288,26 +343,10 @@ void check_number(const Keyword& row, std::string_view value, const Place& place
   check(rule, read, place, report);
 }
 
-void check_text(const Keyword& /*row*/, std::string_view value, const Place& place, Report& report) {
+void check_text(const Keyword& row, std::string_view value, const Place& place, Report& report) {
   if (value.empty()) return;
-  if (value.ends_with('\\')) {
-    report.add(Code::quotes, place, quoted(value) + " ends here: a backslash does not keep the blank behind it",
-               "use a text without blanks");
-    return;
-  }
-  if (!is_quote(value.front())) return;
-  if (value.size() == 1 || value.back() != value.front()) {
-    report.add(Code::quotes, place, quoted(value) + " ends here: quotes join no words",
-               "use a text without blanks and quotes");
-    return;
-  }
-  Finding& finding = report.add(Code::quotes, place, quoted(value) + " keeps its quotes: they are part of the text",
-                                "write the text without quotes");
-  const std::string_view text = value.substr(1, value.size() - 2);
-  // What begins with a dash may be an option.
-  if (!text.empty() && !text.starts_with('-')) {
-    finding.fixes.push_back(fix("write " + quoted(text), false, place, std::string(text)));
-  }
+  if (check_quotes(value, place, report) || check_separator(row, value, place, report)) return;
+  check_shell(row, value, place, report);
 }
 
 }  // namespace SdkDebugDialog

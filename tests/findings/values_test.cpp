@@ -377,7 +377,8 @@ TEST(Values, Quotes) {
     EXPECT_EQ(shown(findings_of_text(value), value), expected) << value;
   };
   expectText("/dev/ttyUSB0", "");
-  expectText("a'b\"", "");
+  expectText("it's", "");
+  expectText("it\"s", "quotes: 'it\"s' keeps its quotes: they are part of the text; write the text without quotes");
   expectText("C:\\dir\\port", "");
   expectText("\"/dev/tty\"",
              "quotes: '\"/dev/tty\"' keeps its quotes: they are part of the text; write the text without quotes "
@@ -396,6 +397,30 @@ TEST(Values, Quotes) {
     ASSERT_EQ(findings.size(), 1U) << value;
     EXPECT_TRUE(findings[0].fixes.empty()) << value;
   }
+}
+
+void expect_text(const Keyword& row, std::string_view value, std::string_view expected) {
+  Report report;
+  check_text(row, value, {kBegin, kBegin + value.size()}, report);
+  EXPECT_EQ(shown(std::move(report).findings(), value), expected) << value;
+}
+
+TEST(Values, SeparatorsBehindTheText) {
+  expect_text(row_of(kCable, "port"), "USB21,",
+              "trailing-characters: 'USB21,' keeps ',' at its end; write 'USB21' ?USB21");
+  expect_text(row_of(kStub, "-port"), "a,b;;", "trailing-characters: 'a,b;;' keeps ';;' at its end; write 'a,b' ?a,b");
+  expect_text(row_of(kConfigdevice, "partname"), ",",
+              "trailing-characters: ',' keeps ',' at its end; separate words by blanks alone");
+  expect_text(row_of(kCable, "modulearg"), "a,", "");
+}
+
+TEST(Values, WhatAShellReplaces) {
+  expect_text(row_of(kPpcSim, "-icf"), "~/x",
+              "quotes: '~/x' keeps its '~': no shell replaces it by a folder; write the whole name");
+  expect_text(row_of(kCable, "fname"), "a/${HOME}/x",
+              "quotes: 'a/${HOME}/x' keeps its '$': no shell replaces a variable; write the whole name");
+  for (const char* const value : {"C:\\x", "a~", "x$", "~x"}) expect_text(row_of(kStub, "-port"), value, "");
+  expect_text(row_of(kCable, "modulearg"), "$x", "");
 }
 
 TEST(Values, AreFindingsOfAnyLength) {
