@@ -15,8 +15,7 @@
 namespace SdkDebugDialog {
 namespace {
 
-// A device that says something about itself; "-configdevice jtagport cpu" adds one that does not. What is wrong with a
-// word is told already: no more is made of its value.
+// A device of the chain. What is wrong with a word is told already: no more is made of its value.
 struct Device {
   const JtagOption& values;
   const DeviceWords& words;
@@ -35,7 +34,8 @@ Devices described(std::span<const JtagOption> chain, std::span<const DeviceWords
   Devices devices;
   for (std::size_t i = 0; i < chain.size(); ++i) {
     const DeviceWords& w = words[i];
-    if (!w.number && !w.irlength && !w.idcode) continue;
+    // This adds a device only because it has to stand behind "-configdevice".
+    if (w.isReached && !w.isDescribed) continue;
     devices.push_back({chain[i], w, isSure(w.number), isSure(w.irlength), isSure(w.idcode)});
   }
   return devices;
@@ -113,6 +113,16 @@ class Numbers {
   std::array<const Device*, 256> m_devices{};
 };
 
+// Numbers begin at 1: 0 stands for no debug device.
+void check_numbers(Devices& devices, Report& report) {
+  for (Device& d : devices) {
+    if (!d.isNumberSure || d.values.devicenr != 0) continue;
+    d.isNumberSure = false;
+    report.add(Code::deviceNumberGap, d.number_place(),
+               d.words.number ? "a device has the number 0" : "the device has no number, which is then 0", kNumbering);
+  }
+}
+
 // Notes the devices by their numbers, if they are sure; false if a number repeats.
 bool check_distinct(const Devices& devices, Numbers& numbers, Report& report) {
   bool areDistinct = true;
@@ -168,12 +178,13 @@ void check_gaps(const Devices& devices, Report& report) {
 
 void check_chain(std::span<const JtagOption> chain, std::span<const DeviceWords> words, int debugDevice,
                  const std::optional<Place>& debugDeviceWord, Report& report) {
-  const Devices devices = described(chain, words, report);
+  Devices devices = described(chain, words, report);
   for (const Device& d : devices) {
     check_idcode(d, report);
     check_irlength(d, report);
   }
   check_lengths(devices, report);
+  check_numbers(devices, report);
   Numbers numbers;
   const bool areDistinct = check_distinct(devices, numbers, report);
   const bool areOrdered = check_order(devices, numbers, report);

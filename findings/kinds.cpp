@@ -417,9 +417,9 @@ const std::vector<FindingKind>& kinds() {
        .advice = "Number the devices 1, 2, 3 in their order in the chain."},
       {.code = "device-number-gap",
        .severity = Severity::warning,
-       .title = "gap in the device numbers",
-       .meaning = "The devices of a chain are numbered from 1 on, and a number is left out. A device may be "
-                  "missing, and then all positions behind it are wrong.",
+       .title = "gap in the device numbers, or none",
+       .meaning = "The devices of a chain are numbered from 1 on, and a number is left out, or a device has none or 0. "
+                  "A device may be missing, and then all positions behind it are wrong.",
        .example = "connect ov odm -configdevice devicenr 1 partname prom irlength 16 idcode 0x05059093 "
                   "-configdevice devicenr 3 partname fpga irlength 10 idcode 0x0a001093 -debugdevice deviceNr 3",
        .advice = "Add the device that is missing, or number the devices anew, and 'deviceNr' with them."},

@@ -333,6 +333,15 @@ TEST(Diagnose, AsksForTheTypeOfTheCable) {
             "'-cable' has no effect: the connection uses no cable; remove it, or change what it depends on");
 }
 
+TEST(Diagnose, FindsDevicesThatSayTooLittle) {
+  const auto all = ElementsAre("15-28 warning invalid-idcode", "15-28 warning short-instruction-register",
+                               "15-28 warning device-number-gap");
+  EXPECT_THAT(found("connect ov odm -configdevice -debugdevice deviceNr 1"), all);
+  EXPECT_THAT(found("connect ov odm -configdevice partname x -debugdevice deviceNr 1"), all);
+  EXPECT_THAT(found("connect ov odm -configdevice jtagport cpu -debugdevice deviceNr 1"),
+              ElementsAre("29-37 warning not-read-back"));
+}
+
 TEST(Diagnose, FindsWhatIsLostInAWriting) {
   EXPECT_THAT(found("connect ov odm -bscan USER3"), ElementsAre("15-27 warning lost-when-written"));
   // Host and port are two settings of the same words.
