@@ -43,6 +43,11 @@ Finding& Report::add(Code code, const Place& place, std::string message, std::st
 
 bool Report::has(const Place& place) const { return m_places.contains({place.begin, place.end}); }
 
+Finding* Report::find(Code code) {
+  const auto found = std::ranges::find(m_findings, &kind_of(code), &Finding::kind);
+  return found != m_findings.end() ? &*found : nullptr;
+}
+
 std::optional<Finding> Report::take_warning(const Place& place) {
   if (!has(place)) return std::nullopt;
   const auto found = std::ranges::find_if(m_findings, [&](const Finding& f) {

@@ -49,6 +49,8 @@ class Report {
   std::size_t errors() const { return m_errors; }
   // Whether something was found at this very place.
   bool has(const Place& place) const;
+  // The first finding of a kind that is listed; null if there is none.
+  Finding* find(Code code);
   // Removes the first warning at this very place.
   std::optional<Finding> take_warning(const Place& place);
   // For a finding whose severity is not that of its kind.

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdio>
 #include <string>
+#include <utility>
 
 #include "SdkDebugDialog/OptionFile.h"
 #include "findings/checks.h"
@@ -81,12 +82,24 @@ Oddities oddities_of(const Subject& subject) {
   return found;
 }
 
+// What is no text is an error where the reader refuses it, which is at the head.
+void add_not_text(const Place& place, std::string message, std::string remedy, Report& report) {
+  Finding* const head = report.find(Code::unknownHead);
+  if (head == nullptr || place.begin < head->begin || place.begin >= head->end) {
+    report.add(Code::notText, place, std::move(message), std::move(remedy));
+    return;
+  }
+  head->kind = &kind_of(Code::notText);
+  head->message = std::move(message);
+  if (head->fixes.empty()) head->remedy = std::move(remedy);
+}
+
 // False if it is a file of another encoding, of which nothing else can be told.
 bool check_bytes(const Subject& subject, Report& report) {
   const std::string_view text = subject.text;
   if (is_utf16(text)) {
-    report.add(Code::notText, {0, std::min<std::size_t>(text.size(), 2)}, "the file is UTF-16: two bytes a character",
-               "save the file as UTF-8");
+    const Place place = {subject.line.begin, std::min(subject.line.begin + 2, text.size())};
+    add_not_text(place, "the file is UTF-16: two bytes a character", "save the file as UTF-8", report);
     return false;
   }
   const Oddities found = oddities_of(subject);
@@ -95,8 +108,8 @@ bool check_bytes(const Subject& subject, Report& report) {
     std::snprintf(byte, sizeof byte, "0x%02x", static_cast<unsigned char>(text[found.firstByte]));
     std::string message = std::string("the byte ") + byte + " is no text";
     if (found.bytes > 1) message.append("; there are ").append(counted(found.bytes, "such byte"));
-    report.add(Code::notText, {found.firstByte, found.firstByte + 1}, std::move(message),
-               "save the file as UTF-8, and remove what is no text");
+    add_not_text({found.firstByte, found.firstByte + 1}, std::move(message),
+                 "save the file as UTF-8, and remove what is no text", report);
   }
   if (found.marks > 0) {
     std::string message = "a byte-order mark stands inside the file";

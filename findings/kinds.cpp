@@ -236,7 +236,8 @@ const std::vector<FindingKind>& kinds() {
        .severity = Severity::warning,
        .title = "bytes that are not text",
        .meaning = "The file has bytes that are not text: control characters, or bytes that are not UTF-8. The "
-                  "reader takes them as parts of words, and few other programs show them.",
+                  "reader takes them as parts of words, and few other programs show them. In the first word it is "
+                  "an error.",
        .example = "connect ov stub -comm serial -port /dev/tty\x01"
                   " -baud 115200",
        .exampleKind = TextKind::optionFile,

@@ -149,6 +149,26 @@ TEST(Diagnose, FixesSeparators) {
   EXPECT_EQ(fixed("connect ov odm -cable\xC2\xA0type\xC2\xA0zarvek_tcf"), "connect ov odm -cable type zarvek_tcf");
 }
 
+TEST(Diagnose, RefusesFilesOfAnotherEncoding) {
+  const std::string little("c\0o\0n\0n\0e\0c\0t\0 \0o\0v\0", 20);
+  EXPECT_THAT(found_in_file("\xFF\xFE" + little), ElementsAre("0-16 error not-text"));
+  EXPECT_THAT(found_in_file(little), ElementsAre("0-14 error not-text"));
+  EXPECT_EQ(said("\xFF\xFE" + little, TextKind::optionFile),
+            "the file is UTF-16: two bytes a character; save the file as UTF-8");
+  EXPECT_EQ(said("\x7F\x45LF\x02 x\x03", TextKind::optionFile),
+            "the byte 0x7f is no text; there are 3 such bytes; save the file as UTF-8, and remove what is no text");
+  // It is one byte too many.
+  EXPECT_THAT(found_in_file("\x01"
+                            "connect ov odm"),
+              ElementsAre("0-8 error not-text"));
+  EXPECT_EQ(fixed("\x01"
+                  "connect ov odm",
+                  TextKind::optionFile),
+            "connect ov odm");
+  EXPECT_THAT(found_in_file("connec ov odm -cable port \x01 -quiet"),
+              ElementsAre("0-6 error unknown-head", "26-27 warning not-text"));
+}
+
 TEST(Diagnose, OnlyGuessesWhereSeveralNamesOrDigitsAreNear) {
   EXPECT_EQ(fixed("connect ov odm -bscan USER5"), "connect ov odm -bscan USER5");
   EXPECT_EQ(fixed("connect ov odm -bscan USER5", TextKind::command, FixChoice::allFirst),
