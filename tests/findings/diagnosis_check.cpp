@@ -4,7 +4,9 @@
 #include <exception>
 #include <initializer_list>
 #include <optional>
+#include <set>
 #include <stdexcept>
+#include <tuple>
 #include <utility>
 
 #include "fuzz/input.h"
@@ -234,9 +236,13 @@ std::string fault_of(const Finding& finding, std::string_view text) {
 
 std::string fault_of(const std::vector<Finding>& findings, std::string_view text) {
   std::size_t from = 0;
+  std::set<std::tuple<std::size_t, std::size_t, std::string_view>> met;
   for (const Finding& finding : findings) {
     if (std::string fault = fault_of(finding, text); !fault.empty()) return fault;
     if (finding.begin < from) return "findings out of order";
+    if (!met.emplace(finding.begin, finding.end, finding.kind->code).second) {
+      return "the same finding twice: " + finding.message;
+    }
     from = finding.begin;
   }
   return "";
