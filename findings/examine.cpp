@@ -433,7 +433,9 @@ void Examiner::option_joined_to_number(const Keyword& row) {
   const Piece number = {word.text.substr(0, dash), word.begin, word.begin + dash};
   const Piece option = {word.text.substr(dash), number.end, word.end};
   const bool isPlain = number.text.find_first_not_of("0123456789") == std::string_view::npos;
-  if (!isPlain || find_option(option.text, *run(), letter_case()) == nullptr || !accepts(row, number.text)) return;
+  const Option* const known = find_option(option.text, *run(), letter_case());
+  if (!isPlain || known == nullptr || known->takes != Takes::pairs) return;
+  if (!is_one_of(ahead(1)->text, keyword_names(known->group)) || !accepts(row, number.text)) return;
   Finding& finding =
       m_report.add(code_of_second(), place_of(*ahead(1)),
                    "in front of it, " + quoted(option.text) + " is joined to the number " + quoted(number.text));
@@ -645,19 +647,20 @@ void Examiner::check_end_of_cable() {
 
 void Examiner::report_frequency(const Said& frequency) {
   const CableType& type = cable_type(m_imp.cable->type);
-  const std::string hz = number_text(m_imp.cable->frequency, Scale::decimal, "Hz");
-  if (type.accepted.empty()) {
-    const bool isNone = type.names.empty();
-    Finding& finding =
-        m_report.add(Code::unsupportedFrequency, frequency.value,
-                     isNone ? "a frequency is given, but no type of cable"
-                            : "a cable of the type " + quoted(type.names.back().text()) + " has no frequency",
-                     isNone ? "write 'type' and the type" : "remove 'frequency'");
-    if (!isNone)
-      finding.fixes.push_back(fix("remove 'frequency'", false, {frequency.word.begin, frequency.value.end}, ""));
+  if (!type.accepted.empty()) {
+    add_frequency(type, m_imp.cable->frequency, frequency, m_report);
     return;
   }
-  add_frequency(type, m_imp.cable->frequency, frequency, m_report);
+  m_report.take_warning(frequency.value);
+  if (type.names.empty()) {
+    m_report.add(Code::unsupportedFrequency, frequency.value, "a frequency is given, but no type of cable",
+                 "write 'type' and the type");
+    return;
+  }
+  Finding& finding = m_report.add(Code::unsupportedFrequency, frequency.value,
+                                  "a cable of the type " + quoted(type.names.back().text()) + " has no frequency",
+                                  "remove 'frequency'");
+  finding.fixes.push_back(fix(finding.remedy, false, {frequency.word.begin, frequency.value.end}, ""));
 }
 
 }  // namespace

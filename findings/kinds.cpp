@@ -329,7 +329,8 @@ const std::vector<FindingKind>& kinds() {
        .severity = Severity::warning,
        .title = "setting that does not apply",
        .meaning = "The setting is stored, but nothing uses it: it is for another connection, another cable or "
-                  "another kind of processor. It is lost when the command is written anew.",
+                  "another kind of processor. It is lost when the command is written anew. A frequency does not apply "
+                  "either where another '-cable' without one ends the text: that gives the cable its default.",
        .example = "connect ov odm -baud 115200 -debugdevice deviceNr 2",
        .advice = "Remove it, or choose the connection that it is for: the stub for '-comm', '-port', '-baud' and "
                  "'-timeout'."},
