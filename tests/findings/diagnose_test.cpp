@@ -261,9 +261,9 @@ TEST(Diagnose, FindsWhatHasNoEffect) {
 }
 
 TEST(Diagnose, FindsOptionsWithoutEffectEachTime) {
-  EXPECT_THAT(found("connect ov odm -quiet -QUIET -noattach -quiet"),
-              ElementsAre("15-21 warning no-effect", "22-28 warning no-effect", "29-38 warning no-effect",
-                          "39-45 warning no-effect"));
+  EXPECT_THAT(found("connect ov odm -noattach -NOATTACH -quiet -noattach"),
+              ElementsAre("15-24 warning no-effect", "25-34 warning no-effect", "35-41 warning no-effect",
+                          "42-51 warning no-effect"));
   EXPECT_THAT(found("connect ov odm -pfsl -cable -debugdevice"),
               ElementsAre("15-20 warning no-effect", "21-27 warning no-effect", "28-40 warning no-effect"));
   EXPECT_THAT(found("connect ov odm -pfsl port a port b -pfsl port c"),
