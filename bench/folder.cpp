@@ -37,7 +37,7 @@ const std::filesystem::path& work_folder() {
 }
 
 std::filesystem::path many_option_files(std::size_t count) {
-  const std::filesystem::path folder = work_folder() / ("files_" + std::to_string(count));
+  std::filesystem::path folder = work_folder() / ("files_" + std::to_string(count));
   std::filesystem::create_directories(folder / "etc");
   for (std::size_t i = 0; i < count; ++i) {
     const std::string number = std::to_string(i);
