@@ -25,6 +25,15 @@ void* operator new(std::size_t size) {
   return block;
 }
 
+// The sanitizers have one of their own, whose blocks the operator below could not release.
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  try {
+    return operator new(size);
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+
 void operator delete(void* block) noexcept {
   if (block == nullptr) return;
   --heldBlocks;
