@@ -95,7 +95,7 @@ Use measure(const std::string& text, TextKind kind, int runs) {
 class LongDiagnosis : public testing::TestWithParam<Long> {};
 
 TEST_P(LongDiagnosis, TakesTimeAndMemoryInProportion) {
-  constexpr std::size_t kSize = 100000;
+  constexpr std::size_t kSize = 40000;
   constexpr std::size_t kTimes = 10;
   const std::string smaller = text_of(GetParam(), kSize);
   const std::string larger = text_of(GetParam(), kSize * kTimes);
