@@ -198,7 +198,10 @@ bool Examiner::refused(Slot slot) {
   if (slot == Slot::head && (without_mark() || written_head() || with_head())) return true;
   const Refusal at = refusal(slot);
   std::optional<Repair> found;
-  if (stands_behind_blank(word) && !is_known_elsewhere(at, word.text)) found = repair(at, word);
+  // Without a separator, an option joined to the number in front of it would be seen.
+  const bool isBehindJoined =
+      is_separator(word.text) && m_lastRole == Role::value && m_lastValue.find('-', 1) != std::string_view::npos;
+  if (stands_behind_blank(word) && !isBehindJoined && !is_known_elsewhere(at, word.text)) found = repair(at, word);
   if (!found) {
     report_unknown(at);
     return false;
