@@ -46,18 +46,15 @@ void check_given_twice(const Examined& examined, Report& report) {
   }
 }
 
-void check_port(const Examined& examined, Report& report) {
+void check_port(const Examined& examined, const State& state, Report& report) {
   const Said* const type = examined.said(kCable, "type");
   const Said* const port = examined.said(kCable, "port");
   if (type == nullptr || port == nullptr || port->word.begin > type->word.begin) return;
-  const auto is_named = [&](const CableType& cable) {
-    return std::ranges::any_of(cable.names, [&](const Name& name) { return same_word(name.text(), type->text); });
-  };
-  const auto cable = std::ranges::find_if(cable_types(), is_named);
-  if (cable == cable_types().end() || cable->defaultPort.empty() || cable->defaultPort == port->text) return;
+  const std::string_view ofType = cable_type(state.cable.type).defaultPort;
+  if (ofType.empty() || ofType == port->text) return;
   Finding& finding =
       report.add(Code::portBeforeType, port->word,
-                 "'type' behind it sets the port to " + quoted(cable->defaultPort) + ", so that this one has no effect",
+                 "'type' behind it sets the port to " + quoted(ofType) + ", so that this one has no effect",
                  "write 'port' behind 'type'");
   finding.remarks.push_back({type->word.begin, type->value.end, "the type brings its own port"});
   if (port->group != type->group) return;
@@ -245,7 +242,7 @@ Finding& add_frequency(const CableType& type, std::uint32_t hz, const Said& freq
 
 void check_effects(const Subject& subject, const Examined& examined, const State& state, Report& report) {
   check_given_twice(examined, report);
-  check_port(examined, report);
+  check_port(examined, state, report);
   check_frequency(examined, state, report);
   check_module(examined, state, report);
   check_esn(examined, state, report);

@@ -565,7 +565,6 @@ void Examiner::target_known(const WalkedWord& word) {
 
 // The debug access port is no processor of a design, which is not asked then.
 void Examiner::connection_known(const WalkedWord& word) {
-  m_said.connection = word.connection;
   if (word.target->admits == 0) not_admitted(word, word.connection->type);
 }
 

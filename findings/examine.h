@@ -47,7 +47,6 @@ struct Examined {
   std::vector<BareOption> bare;
   std::vector<DeviceWords> devices;
   const Target* target = nullptr;
-  const Connection* connection = nullptr;
   Place targetWord;
   std::optional<Place> notReached;  // words that are not looked at
   std::optional<Place> lastCable;   // the "-cable" that ends the text, so that the reader has checked the cable
