@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/HHSMHwManager.h"
+#include "HHSMHwManager.h"
 
 // A design file that cannot be read or is not valid. what() is one line with the file name, the place in the file (line
 // and column, or a JSON pointer), what was found and what was expected.

@@ -1,14 +1,14 @@
 // What a configuration dialog does, without its windows: dialog DESIGN PROCESSOR OPTION-FILE
 
+#include <SdkDebugDialog/Configuration.h>
+#include <SdkDebugDialog/platform/DesignFile.h>
+
 #include <exception>
 #include <fstream>
 #include <iostream>
 #include <memory>
 #include <string>
 #include <string_view>
-
-#include "SdkDebugDialog/Configuration.h"
-#include "platform/DesignFile.h"
 
 using namespace SdkDebugDialog;
 

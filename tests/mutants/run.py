@@ -31,7 +31,7 @@ BASE = WORK / "base"
 
 FOLDERS = [name for name in ("model", "options", "hwquery", "settings", "findings", "util") if (ROOT / name).is_dir()]
 HELPER = "faults_helper"
-CORE = "CMakeFiles/core.dir/"  # the library's objects
+CORE = "CMakeFiles/SdkDebugDialogObjects.dir/"  # the library's objects
 SAMPLE = 30  # mutants of a file that is compiled by itself
 HEADER_SAMPLE = 10
 MEMORY = 4 << 30  # what a test program may take

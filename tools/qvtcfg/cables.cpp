@@ -1,10 +1,11 @@
 // qvtcfg cables
 
+#include <SdkDebugDialog/CableCatalogue.h>
+#include <SdkDebugDialog/Configuration.h>
+
 #include <iterator>
 #include <sstream>
 
-#include "SdkDebugDialog/CableCatalogue.h"
-#include "SdkDebugDialog/Configuration.h"
 #include "command_line.h"
 #include "output.h"
 #include "text.h"

@@ -2,10 +2,10 @@
 
 // The changes that `qvtcfg set` and `qvtcfg unset` make.
 
+#include <SdkDebugDialog/Configuration.h>
+
 #include <string>
 #include <vector>
-
-#include "SdkDebugDialog/Configuration.h"
 
 namespace qvtcfg {
 

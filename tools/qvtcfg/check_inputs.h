@@ -2,11 +2,12 @@
 
 // Which texts qvtcfg check checks.
 
+#include <SdkDebugDialog/Configuration.h>
+
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "SdkDebugDialog/Configuration.h"
 #include "checked.h"
 #include "command_line.h"
 

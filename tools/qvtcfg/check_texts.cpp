@@ -1,5 +1,6 @@
 #include "check_texts.h"
 
+#include <SdkDebugDialog/OptionFile.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -12,7 +13,6 @@
 #include <map>
 #include <utility>
 
-#include "SdkDebugDialog/OptionFile.h"
 #include "given_text.h"
 #include "parallel.h"
 #include "text.h"

@@ -2,10 +2,11 @@
 
 // Reads texts and finds what is wrong with them.
 
+#include <SdkDebugDialog/Configuration.h>
+
 #include <optional>
 #include <vector>
 
-#include "SdkDebugDialog/Configuration.h"
 #include "checked.h"
 
 namespace qvtcfg {

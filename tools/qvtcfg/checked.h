@@ -2,14 +2,15 @@
 
 // What qvtcfg check has found.
 
+#include <SdkDebugDialog/Configuration.h>
+#include <SdkDebugDialog/Diagnosis.h>
+
 #include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "SdkDebugDialog/Configuration.h"
-#include "SdkDebugDialog/Diagnosis.h"
 #include "lines.h"
 
 namespace qvtcfg {

@@ -1,9 +1,10 @@
 // qvtcfg check --explain
 
+#include <SdkDebugDialog/Diagnosis.h>
+
 #include <string>
 #include <vector>
 
-#include "SdkDebugDialog/Diagnosis.h"
 #include "command_line.h"
 #include "finding_text.h"
 #include "output.h"

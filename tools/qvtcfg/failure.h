@@ -2,16 +2,16 @@
 
 // Exit codes and errors.
 
+#include <SdkDebugDialog/Configuration.h>
+#include <SdkDebugDialog/Diagnosis.h>
+#include <SdkDebugDialog/Expected.h>
+
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
 #include <vector>
-
-#include "SdkDebugDialog/Configuration.h"
-#include "SdkDebugDialog/Diagnosis.h"
-#include "SdkDebugDialog/Expected.h"
 
 namespace qvtcfg {
 

@@ -8,10 +8,11 @@
 //       = fix: write '-cable'
 //     + | connect ov odm -cable type zarvek_platformusb
 
+#include <SdkDebugDialog/Diagnosis.h>
+
 #include <string>
 #include <string_view>
 
-#include "SdkDebugDialog/Diagnosis.h"
 #include "lines.h"
 #include "output.h"
 

@@ -1,3 +1,4 @@
+#include <SdkDebugDialog/platform/ComMsgMgr.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -11,7 +12,6 @@
 #include "failure.h"
 #include "finding_text.h"
 #include "output.h"
-#include "platform/ComMsgMgr.h"
 #include "print.h"
 #include "report.h"
 #include "text.h"

@@ -1,12 +1,13 @@
 #include "origin.h"
 
+#include <SdkDebugDialog/Annotation.h>
+
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <map>
 #include <string>
 
-#include "SdkDebugDialog/Annotation.h"
 #include "text.h"
 
 namespace qvtcfg {

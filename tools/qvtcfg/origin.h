@@ -2,11 +2,11 @@
 
 // Where the value of a setting comes from.
 
+#include <SdkDebugDialog/Configuration.h>
+
 #include <cstddef>
 #include <string_view>
 #include <vector>
-
-#include "SdkDebugDialog/Configuration.h"
 
 namespace qvtcfg {
 

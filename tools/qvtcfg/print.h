@@ -2,11 +2,12 @@
 
 // Settings and their values, as text and as JSON.
 
+#include <SdkDebugDialog/Configuration.h>
+
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "SdkDebugDialog/Configuration.h"
 #include "output.h"
 
 namespace qvtcfg {

@@ -1,8 +1,9 @@
 // The answer of qvtcfg check for people and for editors.
 
+#include <SdkDebugDialog/OptionFile.h>
+
 #include <algorithm>
 
-#include "SdkDebugDialog/OptionFile.h"
 #include "finding_text.h"
 #include "report.h"
 #include "text.h"

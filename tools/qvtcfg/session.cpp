@@ -1,5 +1,8 @@
 #include "session.h"
 
+#include <SdkDebugDialog/OptionFile.h>
+#include <SdkDebugDialog/platform/DesignFile.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -7,10 +10,8 @@
 #include <memory>
 #include <system_error>
 
-#include "SdkDebugDialog/OptionFile.h"
 #include "failure.h"
 #include "given_text.h"
-#include "platform/DesignFile.h"
 #include "text.h"
 
 namespace qvtcfg {

@@ -2,12 +2,13 @@
 
 // The design, and the option files of its processors.
 
+#include <SdkDebugDialog/Configuration.h>
+
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "SdkDebugDialog/Configuration.h"
 #include "command_line.h"
 
 namespace qvtcfg {
