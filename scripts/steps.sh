@@ -14,6 +14,7 @@ packages_of() {
       ;;
     fuzz) echo clang libclang-rt-14-dev ;;
     clang) echo clang ;;
+    consumers) echo clang pkg-config ;;
     locales) echo locales ;;
     valgrind) echo valgrind ;;
     arm64 | armhf | i386 | s390x)
@@ -28,7 +29,7 @@ tree_state() {
   {
     git ls-files -z --cached --others --exclude-standard | xargs -0 sha256sum 2>&1
     g++ --version
-    case $1 in lint | contrast | fuzz | clang) clang --version ;; esac
+    case $1 in lint | contrast | fuzz | clang | consumers) clang --version ;; esac
   } | sha256sum
 }
 
@@ -139,6 +140,13 @@ step_locales() {
 step_fuzz() {
   build fuzz --preset fuzz -DSDKDEBUGDIALOG_TESTS=OFF
   run_tests fuzz "fuzz: test"
+}
+
+# Projects of users, outside of this one.
+step_consumers() {
+  build release --preset release
+  run "consumers: configure" cmake -S tests/consumers -B build/consumers -DSOURCE="$PWD" -DBUILD="$PWD/build/release"
+  run_tests consumers "consumers: test"
 }
 
 # The tests that have several threads.
