@@ -1,6 +1,9 @@
 #pragma once
 
-// Marks the symbols that the shared library exports; all others are hidden.
+/// @file
+/// What the shared library exports.
+
+/// Marks the symbols that the shared library exports; all others are hidden.
 #if defined(__GNUC__)
 #define SDKDEBUGDIALOG_API __attribute__((visibility("default")))
 #else
