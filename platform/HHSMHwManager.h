@@ -21,6 +21,7 @@ enum HwIpType : int {
 
 /// Operations with a parameter out append to it. Names are names of instances in the design. For a name that is not in
 /// the design, nothing is appended, or an empty string is returned.
+/// Operations are added at its end, in a major version only, since users implement them.
 class HHSM_API HHSMHwManager {
  public:
   virtual ~HHSMHwManager() = default;

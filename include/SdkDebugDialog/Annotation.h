@@ -35,6 +35,7 @@ enum class Role {
 };
 
 /// One word of a text.
+/// Fields are added at its end, in a major version only.
 struct Annotation {
   std::size_t begin = 0;      ///< in bytes
   std::size_t end = 0;        ///< behind its last byte

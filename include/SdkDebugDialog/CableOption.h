@@ -13,6 +13,7 @@
 namespace SdkDebugDialog {
 
 /// Plain data; each engine owns one (EngineImp::cable). Copies are independent.
+/// Fields are added at its end, in a major version only.
 struct SDKDEBUGDIALOG_API CableOption {
   Engine::CableType type = Engine::CABLE_NONE;  ///< CABLE_NONE for no cable
   std::uint32_t frequency = 0;                  ///< Hz; 0 counts as not set

@@ -78,6 +78,7 @@ class SDKDEBUGDIALOG_API Design {
 };
 
 /// A setting in one configuration.
+/// Fields are added at its end, in a major version only.
 struct SettingState {
   SettingValue value;                ///< at the moment
   SettingValue initial;              ///< the default in this configuration
@@ -91,6 +92,7 @@ struct SettingState {
 };
 
 /// A setting that differs between two configurations.
+/// Fields are added at its end, in a major version only.
 struct Difference {
   const Setting* setting = nullptr;  ///< never null
   SettingValue before;               ///< in the first of them
@@ -98,6 +100,7 @@ struct Difference {
 };
 
 /// Something that an edited text no longer has, or a setting that was not copied.
+/// Fields are added at its end, in a major version only.
 struct Loss {
   const Setting* setting = nullptr;  ///< null for words that set nothing
   std::string what;                  ///< "bscan USER3", "-quiet"
@@ -105,6 +108,7 @@ struct Loss {
 };
 
 /// A text after an edit.
+/// Fields are added at its end, in a major version only.
 struct Edit {
   std::string text;                     ///< the whole text
   bool anew = false;                    ///< written anew; otherwise every byte that needed no change is as it was
@@ -120,6 +124,7 @@ struct Edit {
 };
 
 /// A change of a setting: a value as text, or back to the default.
+/// Fields are added at its end, in a major version only.
 struct Change {
   std::string setting;     ///< the name of the setting
   std::string value;       ///< as text; see parse_value

@@ -30,6 +30,7 @@ enum class Severity {
 };
 
 /// A kind of finding. Kinds exist once, as long as the library is loaded; compare their addresses.
+/// Fields are added at its end, in a major version only.
 struct FindingKind {
   std::string_view code;                     ///< such as "unknown-option": stable, for scripts
   Severity severity = Severity::error;       ///< as a rule; see Finding::severity
@@ -46,6 +47,7 @@ SDKDEBUGDIALOG_API const std::vector<FindingKind>& finding_kinds();
 SDKDEBUGDIALOG_API const FindingKind* find_finding_kind(std::string_view code);
 
 /// A part of the text, in bytes, and what is to stand there instead.
+/// Fields are added at its end, in a major version only.
 struct Replacement {
   std::size_t begin = 0;  ///< the first byte that is replaced
   std::size_t end = 0;    ///< behind the last one; begin: something is inserted
@@ -53,6 +55,7 @@ struct Replacement {
 };
 
 /// A change of the text that removes a finding.
+/// Fields are added at its end, in a major version only.
 struct Fix {
   std::string title;  ///< such as "write '-cable'"
   /// Safe: it keeps the meaning, or makes it certain. Otherwise it is a guess.
@@ -61,6 +64,7 @@ struct Fix {
 };
 
 /// Another place of the same text, or another text, that explains a finding.
+/// Fields are added at its end, in a major version only.
 struct Remark {
   std::size_t begin = 0;  ///< in bytes; begin and end are 0 for no place
   std::size_t end = 0;    ///< behind its last byte
@@ -68,6 +72,7 @@ struct Remark {
 };
 
 /// Something that is wrong with a text.
+/// Fields are added at its end, in a major version only.
 struct Finding {
   const FindingKind* kind = nullptr;  ///< never null
   /// Some kinds are errors only where the reader refuses the text.
@@ -97,6 +102,7 @@ SDKDEBUGDIALOG_API std::string with_fixes(std::string_view text, const std::vect
                                           FixChoice choice = FixChoice::safe);
 
 /// A finding about two configurations that are kept side by side, such as the option files of one folder.
+/// Fields are added at its end, in a major version only.
 struct SharedFinding {
   std::size_t configuration = 0;  ///< the index of the one that it is about
   std::size_t other = 0;          ///< and of the one that it disagrees with
@@ -104,6 +110,7 @@ struct SharedFinding {
 };
 
 /// One of several configurations that are used side by side.
+/// Fields are added at its end, in a major version only.
 struct SideBySide {
   std::string_view name;                         ///< for messages
   const Configuration* configuration = nullptr;  ///< never null

@@ -22,6 +22,7 @@ namespace SdkDebugDialog {
 struct ProcessorIndex;
 
 /// The whole debug configuration of one Engine. The fields are public: readers, writers and queries work on them.
+/// Fields are added at its end, in a major version only.
 class SDKDEBUGDIALOG_API EngineImp {
  public:
   /// The hardware description passed to Engine::GetProcessorList; not owned, may be null. While it is null the

@@ -24,6 +24,7 @@ enum class ErrorCode {
 };
 
 /// Why an operation failed.
+/// Fields are added at its end, in a major version only.
 struct Error {
   ErrorCode code = ErrorCode::refused;  ///< for programs
   std::string message;                  ///< one line, never empty: what is wrong and what is accepted

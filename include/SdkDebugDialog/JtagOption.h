@@ -13,6 +13,7 @@ namespace SdkDebugDialog {
 /// Engine::GetJtagChainOptions, Engine::ParseJtagCableInfo) owns the records. Chains are vectors of plain pointers and
 /// may share records. The engine deletes no record that a caller may hold; it deletes only those of a failed read that
 /// were never handed out.
+/// Fields are added at its end, in a major version only.
 struct JtagOption {
   std::string partname = "UNKNOWN";  ///< the name of the part
   std::uint32_t idcode = 0;          ///< JTAG IDCODE

@@ -15,6 +15,7 @@ namespace SdkDebugDialog {
 inline constexpr std::uint32_t kAddressNotSet = 0xFFFFFFFFU;
 
 /// The kind of the selected processor; filled by Engine::SetProcessor and Engine::ParseProcessorInfo.
+/// Fields are added at its end, in a major version only.
 struct ProcessorInfo {
   std::uint32_t procVariant = 0;         ///< see ProcessorInfoImp::procVariant
   std::uint32_t procFamily = 0;          ///< see ProcessorInfoImp::procFamily
@@ -26,6 +27,7 @@ struct ProcessorInfo {
 ///
 /// Records are plain data. The engine points to them and never deletes them: the caller deletes both the records found
 /// by discovery (EngineImp::processorList) and those returned by EngineImp::GetProcessorInfo.
+/// Fields are added at its end, in a major version only.
 struct SDKDEBUGDIALOG_API ProcessorInfoImp {
   /// @name Identity
   /// Set when the record is created, and kept by ProcessorInfoImpInit.

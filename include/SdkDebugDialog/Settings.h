@@ -47,6 +47,7 @@ using SettingValue =
     std::variant<std::monostate, bool, std::int64_t, std::string, std::vector<std::string>, std::vector<JtagOption>>;
 
 /// One setting. Settings exist once, as long as the library is loaded; compare their addresses.
+/// Fields are added at its end, in a major version only.
 struct Setting {
   std::string_view name;                 ///< such as "stub-port": stable, for scripts and files
   std::string_view group;                ///< such as "stub": settings of a group follow each other
