@@ -2,9 +2,12 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cstdio>
 #include <span>
+#include <string_view>
 
 #include "changes.h"
+#include "description.h"
 #include "failure.h"
 #include "output.h"
 #include "text.h"
@@ -272,6 +275,48 @@ void declare_program(CLI::App& app, Arguments& arguments) {
   declare(app, kProgram, arguments);
 }
 
+// --- Description ---
+
+std::vector<std::string> names_of(const CLI::Option& option) {
+  if (option.get_positional()) return {option.get_name(true)};
+  std::vector<std::string> names;
+  for (const std::string& name : option.get_snames()) names.push_back("-" + name);
+  for (const std::string& name : option.get_lnames()) names.push_back("--" + name);
+  return names;
+}
+
+Parameter described(const CLI::Option& option) {
+  Parameter parameter;
+  parameter.names = names_of(option);
+  parameter.meaning = option.get_description();
+  parameter.required = option.get_required();
+  parameter.repeated = option.get_expected_max() > 1;
+  for (const CLI::Option* const needed : option.get_needs()) parameter.needs.push_back(needed->get_name());
+  // Words to choose from follow the name of the value: "KIND:{command,file,cable}".
+  const std::string type = option.get_type_name();
+  const std::size_t words = type.find(":{");
+  parameter.value = type.substr(0, words);
+  if (words != std::string::npos) {
+    parameter.choices = CLI::detail::split(type.substr(words + 2, type.size() - words - 3), ',');
+  }
+  parameter.valueOptional = !parameter.value.empty() && option.get_items_expected_min() == 0;
+  return parameter;
+}
+
+CommandDescription described(const CLI::App& app, const Command& command, const std::string& name) {
+  CommandDescription description;
+  description.name = name;
+  description.purpose = command.purpose;
+  for (const CLI::Option* const option : app.get_options()) {
+    (option->get_positional() ? description.arguments : description.options).push_back(described(*option));
+  }
+  const std::string path = &command == &kProgram ? "" : name + " ";
+  for (const Command& c : commands_of(command)) {
+    description.commands.push_back(described(*app.get_subcommand(c.name), c, path + c.name));
+  }
+  return description;
+}
+
 // An argument that begins with a dash and contains white space is an option text, such as "-cable type x", not an
 // option of this program. A blank in front hides it from the parser. It is removed after parsing, so that the column
 // numbers in messages are right.
@@ -340,6 +385,18 @@ Run chosen_run(const CLI::App& program) {
 }
 
 }  // namespace
+
+void complain(const std::string& text) {
+  constexpr std::size_t kLongest = 4000;
+  std::fprintf(stderr, "qvtcfg: %s\n", one_line(text, kLongest).c_str());
+}
+
+CommandDescription describe() {
+  CLI::App app;
+  Arguments arguments;
+  declare_program(app, arguments);
+  return described(app, kProgram, kProgram.name);
+}
 
 std::string Arguments::seen_from_outside(const std::string& path) const {
   if (directory.empty() || path.starts_with('/')) return path;

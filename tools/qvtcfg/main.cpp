@@ -17,12 +17,6 @@
 #include "text.h"
 
 namespace qvtcfg {
-
-void complain(const std::string& text) {
-  constexpr std::size_t kLongest = 4000;
-  std::fprintf(stderr, "qvtcfg: %s\n", one_line(text, kLongest).c_str());
-}
-
 namespace {
 
 // Discards the engine's messages: their texts are reported as Failure.
