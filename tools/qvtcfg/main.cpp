@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "command_line.h"
+#include "complete.h"
 #include "failure.h"
 #include "finding_text.h"
 #include "output.h"
@@ -29,6 +30,7 @@ void enter(const std::string& directory) {
 
 ExitCode run(int argc, const char* const* argv) {
   Output out;
+  if (argc > 1 && argv[1] == std::string_view("complete")) return complete({argv + 2, argv + argc}, out);
   Arguments arguments;
   ExitCode code = kDone;
   if (const Run command = parse_command_line(argc, argv, arguments, out)) {
