@@ -5,7 +5,8 @@ jobs=$(nproc 2>/dev/null || echo 2)
 
 # packages_of STEP: what it needs.
 packages_of() {
-  echo "$build_packages git make libgtest-dev libgmock-dev librapidcheck-dev strace"
+  echo "$build_packages git make libgtest-dev libgmock-dev librapidcheck-dev strace \
+    bash zsh fish mandoc groff man-db"
   case $1 in
     format) echo clang-format ;;
     lint | contrast)

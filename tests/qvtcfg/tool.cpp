@@ -82,7 +82,8 @@ Result Tool::qvtcfg_on_terminal(std::vector<std::string> arguments, std::vector<
   return on_terminal(arguments, std::move(environment));
 }
 
-Result Tool::on_terminal(const std::vector<std::string>& command, std::vector<std::string> environment) const {
+Result Tool::on_terminal(const std::vector<std::string>& command, std::vector<std::string> environment,
+                         const std::string& keys) const {
   int terminal = -1;
   const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
   if (child < 0) throw std::system_error(errno, std::generic_category(), "no pseudo-terminal; is /dev/pts mounted?");
@@ -91,6 +92,7 @@ Result Tool::on_terminal(const std::vector<std::string>& command, std::vector<st
     for (std::string& variable : environment) putenv(variable.data());
     become(command, m_folder);
   }
+  EXPECT_EQ(::write(terminal, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
   Result result;
   char block[4096];
   for (ssize_t count = 0; (count = ::read(terminal, block, sizeof block)) > 0;) {

@@ -28,8 +28,9 @@ class Tool : public testing::Test {
   Result qvtcfg_on_terminal(std::vector<std::string> arguments,
                             std::vector<std::string> environment = {"TERM=xterm"}) const;
 
-  // The same for another program.
-  Result on_terminal(const std::vector<std::string>& command, std::vector<std::string> environment) const;
+  // The same for another program, to which the keys are typed.
+  Result on_terminal(const std::vector<std::string>& command, std::vector<std::string> environment,
+                     const std::string& keys = "") const;
 
   // Runs a shell script; $QVTCFG is the program.
   Result shell(const std::string& script) const;

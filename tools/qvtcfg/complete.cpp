@@ -277,10 +277,12 @@ void offer_options(const CommandDescription& program, const TypedLine& line, Off
 Offer offer_of(const CommandDescription& program, const TypedLine& line) {
   Offer offer;
   const bool is_option = line.word.starts_with('-') && !line.options_ended;
-  if (line.option != nullptr) offer_for(*line.option, line, offer);
-  if (line.option != nullptr && !line.option->valueOptional) return offer;
+  if (line.option != nullptr) {
+    offer_for(*line.option, line, offer);
+    return offer;
+  }
   if (is_option) {
-    if (line.start.empty()) offer_options(program, line, offer);
+    offer_options(program, line, offer);
     return offer;
   }
   if (line.operands.empty()) {

@@ -23,7 +23,7 @@ struct TypedLine {
   std::vector<std::string> operands;  // in front of the word and behind it
   std::size_t place = 0;              // of the word among the operands
   std::string word;                   // what is there of the word to be completed
-  const Parameter* option = nullptr;  // the word is the value of this option, or may be
+  const Parameter* option = nullptr;  // the word is the value of this option
   std::string start;                  // what stands in front of the value in the word, such as "--format="
   bool options_ended = false;         // a "--" stands in front of the word
 
