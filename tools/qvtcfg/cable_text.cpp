@@ -61,7 +61,7 @@ ExitCode run_cable_parse(const Arguments& arguments, Output& out) {
   find_debug_device(configuration);
   const Choice choice{.changed_only = arguments.changed_only, .all = arguments.all, .cable_text_only = true};
   if (arguments.json) {
-    out.json({{"text", given.text}, {"settings", settings_json(configuration, choice)}});
+    out.result({{"text", given.text}, {"settings", settings_json(configuration, choice)}});
     return kDone;
   }
   out.line(out.styled(Style::kHeading, "cable and chain") + " as in " + given.source);
@@ -75,11 +75,11 @@ ExitCode run_cable_format(const Arguments& arguments, Output& out) {
   const std::vector<std::string> warnings = apply_changes(changes_of(arguments.cable), configuration, "");
   const Edit edit = require(configuration.written_anew(), "", "; 'qvtcfg cables' lists the cables that can be written");
   if (!edit.notReadBack.empty()) throw Failure(kRefused, join({edit.notReadBack, join(warnings, "; ")}, "; "));
-  for (const std::string& warning : warnings) complain("warning: " + warning);
+  for (const std::string& warning : warnings) warn(warning);
   const std::string text = edit.text.substr(std::min(edit.text.find_first_not_of(' '), edit.text.size()));
   if (text.empty()) throw Failure(kUsage, "nothing to write; give --type, --device or --debug-device");
   if (arguments.json) {
-    out.json({{"text", text}});
+    out.result({{"text", text}});
   } else {
     out.line(visible(text));
   }

@@ -5,7 +5,9 @@
 
 #include <iterator>
 #include <sstream>
+#include <utility>
 
+#include "answer.h"
 #include "command_line.h"
 #include "output.h"
 #include "text.h"
@@ -66,12 +68,13 @@ std::vector<std::string> row(const Cable& cable) {
 }
 
 Json member(const Cable& cable) {
-  return {{"type", cable.type},
-          {"name", cable.name},
+  return {{"cable", cable.name},
+          {"type", cable.type},
           {"written", cable.written},
           {"frequency", cable.frequency != 0 ? Json(cable.frequency) : Json()},
-          {"port", cable.port.empty() ? Json() : Json(cable.port)},
-          {"frequencies", cable.frequencies}};
+          {"port", text_or_null(cable.port)},
+          {"frequencies", cable.frequencies},
+          {"unit", find_setting("frequency")->unit}};
 }
 
 }  // namespace
@@ -86,7 +89,7 @@ ExitCode run_cables(const Arguments& arguments, Output& out) {
     list.push_back(member(cable));
   }
   if (arguments.json) {
-    out.json({{"cables", list}});
+    out.result({{"cables", std::move(list)}});
   } else {
     out.table(rows);
   }

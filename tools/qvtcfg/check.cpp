@@ -35,13 +35,15 @@ CheckReport checked(const Arguments& arguments) {
   return report;
 }
 
-void print(const CheckReport& report, const std::string& format, Output& out) {
-  if (format == "text") {
+void print(const CheckReport& report, const Arguments& arguments, Output& out) {
+  if (arguments.json) {
+    out.result(report_json(report));
+  } else if (arguments.format == "text") {
     print_text(report, out);
-  } else if (format == "short") {
+  } else if (arguments.format == "short") {
     print_short(report, out);
   } else {
-    out.json(format == "json" ? report_json(report) : sarif(report));
+    out.json(sarif(report));
   }
 }
 
@@ -54,7 +56,7 @@ ExitCode run_check(const Arguments& arguments, Output& out) {
   for (const Checked& text : report.texts) {
     if (!text.error.empty()) complain(text.input.shown + ": " + text.error);
   }
-  print(report, arguments.json ? "json" : arguments.format, out);
+  print(report, arguments, out);
   const Totals totals = report.totals();
   if (totals.unreadable != 0) return kFile;
   return totals.errors != 0 || (arguments.strict && totals.warnings != 0) ? kNotUnderstood : kDone;

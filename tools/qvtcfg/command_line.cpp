@@ -132,7 +132,8 @@ void take_check(CLI::App& app, Arguments& a) {
       ->check(CLI::IsMember({"command", "file", "cable"}));
   app.add_option("--format", a.format, "How to answer: text, short (a line for each finding), json or sarif")
       ->type_name("FORMAT")
-      ->check(CLI::IsMember({"text", "short", "json", "sarif"}));
+      ->check(CLI::IsMember({"text", "short", "json", "sarif"}))
+      ->each([&a](const std::string& format) { a.json |= format == "json"; });
   app.add_flag("--strict", a.strict, "Exit with 3 for warnings as well");
   CLI::Option* const fix = app.add_flag("--fix", a.fix, "Make the fixes that are safe, in the files");
   app.add_flag("--dry-run", a.dry_run, "Show what --fix would change and store nothing")->needs(fix);
@@ -375,21 +376,46 @@ std::string why_left_over(const std::string& argument, const Command& command) {
   return "unknown command" + quoted + suggestion(argument, command);
 }
 
-Run chosen_run(const CLI::App& program) {
-  const Command& command = *chosen_command(program).command;
+Run chosen_run(const CLI::App& program, Arguments& arguments) {
+  const Chosen chosen = chosen_command(program);
+  const Command& command = *chosen.command;
   std::vector<std::string> left_over = program.remaining(true);
   std::erase(left_over, "--");  // the end-of-options separator
   if (!left_over.empty()) throw usage(program, why_left_over(left_over.front(), command));
   if (command.run == nullptr) throw usage(program, "a command is missing: one of " + join(names_of_commands(command)));
+  arguments.subcommand = chosen.name.substr(0, chosen.name.size() - 1);
   return command.run;
+}
+
+// Whether JSON is wanted by a command line that cannot be parsed.
+bool asks_for_json(std::span<const char* const> given) {
+  std::string_view before;
+  for (const std::string_view argument : given) {
+    if (argument == "--") break;
+    if (argument == "--json" || argument == "--format=json" || (before == "--format" && argument == "json"))
+      return true;
+    before = argument;
+  }
+  return false;
+}
+
+std::vector<std::string>& warnings_so_far() {
+  static std::vector<std::string> all;
+  return all;
 }
 
 }  // namespace
 
 void complain(const std::string& text) {
-  constexpr std::size_t kLongest = 4000;
-  std::fprintf(stderr, "qvtcfg: %s\n", one_line(text, kLongest).c_str());
+  std::fprintf(stderr, "qvtcfg: %s\n", one_line(text, kLongestMessage).c_str());
 }
+
+void warn(const std::string& text) {
+  complain("warning: " + text);
+  warnings_so_far().push_back(one_line(text, kLongestMessage));
+}
+
+const std::vector<std::string>& warnings() { return warnings_so_far(); }
 
 CommandDescription describe() {
   CLI::App app;
@@ -418,10 +444,11 @@ Run parse_command_line(int argc, const char* const* argv, Arguments& arguments, 
     out.line(version.what());
     return nullptr;
   } catch (const CLI::ParseError& error) {
+    arguments.json = asks_for_json({argv, argv + argc});
     throw usage(app, one_line(error.what()));
   }
   unprotect(arguments.text);
-  return chosen_run(app);
+  return chosen_run(app, arguments);
 }
 
 }  // namespace qvtcfg

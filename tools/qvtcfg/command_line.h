@@ -22,6 +22,7 @@ struct CableArguments {
 struct Arguments {
   std::string directory;              // working directory; empty: the current one
   std::optional<std::string> design;  // path of the design file; not set: the default path
+  std::string subcommand;             // "cable parse"; empty until the command line is understood
   bool json = false;
   std::optional<std::string> processor;
   std::optional<std::string> setting;    // for explain
@@ -66,10 +67,14 @@ ExitCode explain_finding(const std::string& code, bool json, Output& out);
 using Run = ExitCode (*)(const Arguments&, Output&);
 
 // Fills the arguments and returns the function to run. Returns null after printing help or version to out. Throws
-// Failure for an invalid command line.
+// Failure for an invalid command line; whether JSON is wanted is known then as well.
 Run parse_command_line(int argc, const char* const* argv, Arguments& arguments, Output& out);
 
 // Writes the text as one line, after "qvtcfg: ", to standard error.
 void complain(const std::string& text);
+
+// The same for a warning, which an answer in JSON has as well.
+void warn(const std::string& text);
+const std::vector<std::string>& warnings();
 
 }  // namespace qvtcfg

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "answer.h"
 #include "command_line.h"
 #include "failure.h"
 #include "given_text.h"
@@ -69,6 +70,14 @@ Configuration configuration_of(const Side& side, const Processor& processor) {
                  TextRead{side.name, side.command.text, TextKind::command, processor});
 }
 
+// What was read, as in the answers of show and read.
+Json side_json(const Side& side, const Configuration& configuration) {
+  const bool has_file = side.file && side.file->content;
+  return {{"processor", text_or_null(configuration.processor().name())},
+          {"file", has_file ? Json(side.file->shown) : Json()},
+          {"command", text_or_null(has_file ? command_in(*side.file->content) : side.command.text)}};
+}
+
 }  // namespace
 
 ExitCode run_diff(const Arguments& arguments, Output& out) {
@@ -83,7 +92,10 @@ ExitCode run_diff(const Arguments& arguments, Output& out) {
   if (arguments.json) {
     Json list = Json::array();
     for (const Difference& difference : found) list.push_back(difference_json(difference));
-    out.json({{"from", first_name}, {"to", b.name}, {"differences", std::move(list)}});
+    const Json from =
+        two ? side_json(a, first)
+            : Json{{"processor", text_or_null(last.processor().name())}, {"file", nullptr}, {"command", nullptr}};
+    out.result({{"from", from}, {"to", side_json(b, last)}, {"differences", std::move(list)}});
   } else {
     out.line(out.styled(Style::kHeading, visible(first_name + " -> " + b.name)));
     for (const Difference& difference : found) out.line(difference_line(difference));

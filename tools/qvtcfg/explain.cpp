@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "answer.h"
 #include "command_line.h"
 #include "failure.h"
 #include "finding_text.h"
@@ -162,11 +163,7 @@ void print_details(const Explained& e, const OptionFile& file, const Lines& line
 Json words_json(const Origin& origin, const Lines& lines) {
   Json list = Json::array();
   for (const Words& words : origin.words) {
-    const Position at = lines.position(words.begin);
-    list.push_back({{"line", at.line},
-                    {"column", at.column},
-                    {"begin", words.begin},
-                    {"end", words.end},
+    list.push_back({{"place", place_json(words.begin, words.end, lines)},
                     {"text", lines.text().substr(words.begin, words.end - words.begin)}});
   }
   return list;
@@ -174,24 +171,18 @@ Json words_json(const Origin& origin, const Lines& lines) {
 
 Json explained_json(const Explained& e, const Lines& lines) {
   const SettingState& state = e.state;
-  Json member = {{"name", e.setting.name},
-                 {"group", e.setting.group},
-                 {"label", e.setting.label},
+  Json member = setting_json(e.setting, state);
+  member.update({{"label", e.setting.label},
                  {"meaning", e.setting.meaning},
-                 {"unit", e.setting.unit},
-                 {"value", json_value(e.setting, state.value)},
                  {"default", json_value(e.setting, state.initial)},
                  {"from", origin_name(e.origin.kind)},
+                 {"fromSetting", e.origin.other != nullptr ? Json(e.origin.other->name) : Json()},
                  {"words", words_json(e.origin, lines)},
                  {"written", state.written},
-                 {"applies", state.applies},
-                 {"changeable", state.changeable},
+                 {"whyNotWritten", text_or_null(state.whyNotWritten)},
                  {"choices", state.choices},
                  {"otherValues", state.freeText},
-                 {"warnings", e.warnings}};
-  if (e.origin.other != nullptr) member["of"] = e.origin.other->name;
-  if (!state.written) member["whyNotWritten"] = state.whyNotWritten;
-  if (!state.whyNot.empty()) member["whyNot"] = state.whyNot;
+                 {"warnings", e.warnings}});
   return member;
 }
 
@@ -206,13 +197,14 @@ ExitCode run_explain(const Arguments& arguments, Output& out) {
   const Lines lines(text);
   std::vector<Explained> all = explained(configuration, text);
   if (arguments.json) {
-    Json list = Json::array();
+    Json groups = Json::object();
     for (const Explained& e : all) {
-      if (one == nullptr || one == &e.setting) list.push_back(explained_json(e, lines));
+      if (one == nullptr || one == &e.setting) groups[e.setting.group][e.setting.name] = explained_json(e, lines);
     }
-    out.json({{"processor", processor.name()},
-              {"file", file.content ? Json(file.shown) : Json()},
-              {"settings", std::move(list)}});
+    out.result({{"processor", processor.name()},
+                {"file", file.content ? Json(file.shown) : Json()},
+                {"command", text_or_null(command_in(text))},
+                {"settings", std::move(groups)}});
   } else if (one != nullptr) {
     print_details(*std::ranges::find(all, one, [](const Explained& e) { return &e.setting; }), file, lines, out);
   } else {

@@ -88,22 +88,19 @@ void print_kinds(Output& out) {
 }  // namespace
 
 ExitCode explain_finding(const std::string& code, bool json, Output& out) {
-  if (code.empty() || code == "all") {
-    if (!json) {
-      print_kinds(out);
-    } else {
-      Json list = Json::array();
-      for (const FindingKind& kind : finding_kinds()) list.push_back(kind_json(kind));
-      out.json({{"findings", std::move(list)}});
-    }
-    return kDone;
-  }
-  const FindingKind* const kind = find_finding_kind(code);
-  if (kind == nullptr) throw no_such_code(code);
+  const bool all = code.empty() || code == "all";
+  const FindingKind* const one = find_finding_kind(code);
+  if (!all && one == nullptr) throw no_such_code(code);
   if (json) {
-    out.json(kind_json(*kind));
+    Json list = Json::array();
+    for (const FindingKind& kind : finding_kinds()) {
+      if (all || &kind == one) list.push_back(kind_json(kind));
+    }
+    out.result({{"kinds", std::move(list)}});
+  } else if (all) {
+    print_kinds(out);
   } else {
-    print_kind(*kind, out);
+    print_kind(*one, out);
   }
   return kDone;
 }

@@ -1,5 +1,8 @@
 #include "failure.h"
 
+#include <algorithm>
+#include <new>
+
 #include "text.h"
 
 namespace qvtcfg {
@@ -9,24 +12,49 @@ using SdkDebugDialog::ErrorCode;
 using SdkDebugDialog::Finding;
 using SdkDebugDialog::Severity;
 
-ExitCode exit_code(ErrorCode code) {
+constexpr ErrorName kErrorNames[] = {
+    {"noSuchProcessor", kRefused, "the design has no processor of this name that can be debugged"},
+    {"refused", kRefused, "a value is not accepted, a setting does not apply, or the design does not admit it"},
+    {"cannotBeWritten", kRefused, "there is no connect command for these settings"},
+    {"wouldLose", kRefused, "storing would lose something, or what is stored would not be read back"},
+    {"changedMeanwhile", kRefused, "another program has changed the file meanwhile"},
+    {"usage", kUsage, "the command line is wrong"},
+    {"noSuchSetting", kUsage, "no setting has this name"},
+    {"invalidValue", kUsage, "the setting can never have this value"},
+    {"notUnderstood", kNotUnderstood,
+     "a connect command, an option file, or a text of cable and chain is not understood"},
+    {"file", kFile, "a file, a folder, or standard input cannot be used"},
+    {"outOfMemory", kFile, "there is not enough memory"},
+    {"system", kFile, "another error of the system"},
+};
+
+const ErrorName& error_named(std::string_view name) { return *std::ranges::find(kErrorNames, name, &ErrorName::name); }
+
+const ErrorName& error_of(ErrorCode code) {
+  // In the order of ErrorCode.
+  constexpr const char* kNames[] = {"noSuchProcessor", "noSuchSetting", "invalidValue",     "refused", "notUnderstood",
+                                    "cannotBeWritten", "wouldLose",     "changedMeanwhile", "file"};
+  return error_named(kNames[static_cast<std::size_t>(code)]);
+}
+
+// The error of this exit code that says least.
+const ErrorName& error_of(ExitCode code) {
   switch (code) {
-    case ErrorCode::noSuchSetting:
-    case ErrorCode::invalidValue:
-      return kUsage;
-    case ErrorCode::notUnderstood:
-      return kNotUnderstood;
-    case ErrorCode::file:
-      return kFile;
-    case ErrorCode::noSuchProcessor:
-    case ErrorCode::refused:
-    case ErrorCode::cannotBeWritten:
-    case ErrorCode::wouldLose:
-    case ErrorCode::changedMeanwhile:
+    case kUsage:
+      return error_named("usage");
+    case kNotUnderstood:
+      return error_named("notUnderstood");
+    case kFile:
+      return error_named("file");
+    case kDone:
+    case kRefused:
+    case kDiffers:
       break;
   }
-  return kRefused;
+  return error_named("refused");
 }
+
+bool is_about_memory(const std::exception& error) { return dynamic_cast<const std::bad_alloc*>(&error) != nullptr; }
 
 std::string without_name(const std::string& message, std::string_view name) {
   const std::string start = std::string(name) + ": ";
@@ -49,10 +77,21 @@ std::string not_understood(const TextRead& text, const std::vector<Finding>& err
 
 }  // namespace
 
+std::span<const ErrorName> error_names() { return kErrorNames; }
+
+Failure::Failure(ExitCode code, const std::string& text) : std::runtime_error(text), m_kind(&error_of(code)) {}
+
+Failure::Failure(const std::string& text, std::vector<SdkDebugDialog::Loss> losses)
+    : std::runtime_error(text), m_kind(&error_named("wouldLose")), m_losses(std::move(losses)) {}
+
+Failure::Failure(const std::exception& error)
+    : std::runtime_error(is_about_memory(error) ? "out of memory" : error.what()),
+      m_kind(&error_named(is_about_memory(error) ? "outOfMemory" : "system")) {}
+
 Failure::Failure(const SdkDebugDialog::Error& error, const std::string& subject, const std::string& advice,
                  std::string_view name)
     : std::runtime_error((subject.empty() ? "" : subject + ": ") + without_name(error.message, name) + advice),
-      m_code(exit_code(error.code)),
+      m_kind(&error_of(error.code)),
       m_engine_text(error.engineText) {}
 
 Failure::Failure(const SdkDebugDialog::Error& error, const TextRead& text, const std::string& advice,
@@ -64,7 +103,7 @@ Failure::Failure(const SdkDebugDialog::Error& error, const TextRead& text, std::
     : std::runtime_error(text.name + ": " +
                          (findings.empty() ? without_name(error.message, name) : not_understood(text, findings)) +
                          advice),
-      m_code(exit_code(error.code)),
+      m_kind(&error_of(error.code)),
       m_engine_text(error.engineText),
       m_text(text),
       m_findings(std::move(findings)) {}

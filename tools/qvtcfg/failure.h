@@ -6,6 +6,7 @@
 #include <SdkDebugDialog/Diagnosis.h>
 #include <SdkDebugDialog/Expected.h>
 
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -24,6 +25,16 @@ enum ExitCode : int {
   kDiffers = 5,        // diff found a difference; something would change
 };
 
+// An error, as an answer in JSON names it.
+struct ErrorName {
+  const char* name;
+  ExitCode code;
+  const char* meaning;
+};
+
+// All of them, in the order of the exit codes.
+std::span<const ErrorName> error_names();
+
 // A text that is read, for the errors in it.
 struct TextRead {
   std::string name;  // where it comes from
@@ -32,14 +43,19 @@ struct TextRead {
   SdkDebugDialog::Processor processor = {};
 };
 
+// A message is cut there, in bytes.
+inline constexpr std::size_t kLongestMessage = 4000;
+
 // what() names the subject, the error and what to do. It is printed as one line after "qvtcfg: ".
 class Failure : public std::runtime_error {
  public:
-  Failure(ExitCode code, const std::string& text) : std::runtime_error(text), m_code(code) {}
+  Failure(ExitCode code, const std::string& text);
 
   // Something would be lost: each loss is printed on a line of its own.
-  Failure(const std::string& text, std::vector<SdkDebugDialog::Loss> losses)
-      : std::runtime_error(text), m_code(kRefused), m_losses(std::move(losses)) {}
+  Failure(const std::string& text, std::vector<SdkDebugDialog::Loss> losses);
+
+  // No memory, or another error of the system.
+  explicit Failure(const std::exception& error);
 
   // An error of the library, with the subject in front of its message and the advice behind it. A message that begins
   // with the name that the library has for the subject goes on without it.
@@ -50,7 +66,8 @@ class Failure : public std::runtime_error {
   // place of its first error, and its errors are shown.
   Failure(const SdkDebugDialog::Error& error, const TextRead& text, const std::string& advice, std::string_view name);
 
-  ExitCode code() const { return m_code; }
+  ExitCode code() const { return m_kind->code; }
+  const char* name() const { return m_kind->name; }
   const std::string& engine_text() const { return m_engine_text; }
   const std::vector<SdkDebugDialog::Loss>& losses() const { return m_losses; }
   const TextRead& text() const { return m_text; }
@@ -61,11 +78,17 @@ class Failure : public std::runtime_error {
   Failure(const SdkDebugDialog::Error& error, const TextRead& text, std::vector<SdkDebugDialog::Finding> findings,
           const std::string& advice, std::string_view name);
 
-  ExitCode m_code;
+  const ErrorName* m_kind;
   std::string m_engine_text;
   std::vector<SdkDebugDialog::Loss> m_losses;
   TextRead m_text;
   std::vector<SdkDebugDialog::Finding> m_findings;
+};
+
+// Standard output cannot be used.
+class OutputFailure : public Failure {
+ public:
+  using Failure::Failure;
 };
 
 // The value, or its error as Failure. The subject is a name or the text that was read.

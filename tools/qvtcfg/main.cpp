@@ -6,15 +6,16 @@
 #include <cstdio>
 #include <cstring>
 #include <exception>
+#include <string>
 #include <string_view>
+#include <vector>
 
+#include "answer.h"
 #include "command_line.h"
 #include "complete.h"
 #include "failure.h"
 #include "finding_text.h"
 #include "output.h"
-#include "print.h"
-#include "report.h"
 #include "text.h"
 
 namespace qvtcfg {
@@ -28,38 +29,22 @@ void enter(const std::string& directory) {
   throw Failure(kFile, one_line(directory) + ": " + std::strerror(errno) + "; -C needs a folder");
 }
 
-ExitCode run(int argc, const char* const* argv) {
+ExitCode run(int argc, const char* const* argv, Arguments& arguments) {
   Output out;
   if (argc > 1 && argv[1] == std::string_view("complete")) return complete({argv + 2, argv + argc}, out);
-  Arguments arguments;
   ExitCode code = kDone;
   if (const Run command = parse_command_line(argc, argv, arguments, out)) {
     enter(arguments.directory);
     code = command(arguments, out);
+    if (arguments.json) out.json(answer(arguments.subcommand, code, out.take_result()));
   }
   out.flush();
   return code;
 }
 
-// Also for a command line that cannot be parsed.
-bool wants_json(int argc, const char* const* argv) {
-  const auto* const end = std::find(argv, argv + argc, std::string_view("--"));
-  return std::find(argv, end, std::string_view("--json")) != end;
-}
-
-void print_json(const Failure& failure) {
-  Json error = {
-      {"code", failure.code()}, {"message", one_line(failure.what())}, {"losses", losses_json(failure.losses())}};
-  if (!failure.engine_text().empty()) error["note"] = one_line(failure.engine_text());
-  if (!failure.findings().empty()) {
-    const Lines lines(failure.text().text);
-    Json& findings = error["findings"] = Json::array();
-    for (const auto& finding : failure.findings()) {
-      findings.push_back(finding_json(finding, lines, failure.text().name, lines));
-    }
-  }
+void print_json(const Failure& failure, const Arguments& arguments) {
   Output out;
-  out.json({{"error", std::move(error)}});
+  out.json(answer(arguments.subcommand, failure));
   out.flush();
 }
 
@@ -77,19 +62,38 @@ void print_findings(const Failure& failure) {
   }
 }
 
-ExitCode report(const Failure& failure, bool json) {
+void print(const Failure& failure) {
   complain(failure.what());
   print_findings(failure);
   if (!failure.engine_text().empty()) complain("note: the engine says: " + one_line(failure.engine_text()));
   for (const auto& loss : failure.losses()) {
     std::fprintf(stderr, "  %s: %s\n", one_line(loss.what).c_str(), one_line(loss.why).c_str());
   }
+}
+
+ExitCode report(const Failure& failure, const Arguments& arguments) {
+  print(failure);
   try {
-    if (json) print_json(failure);
-  } catch (const Failure&) {
-    // Standard output cannot be used; the error is on standard error.
+    if (arguments.json) print_json(failure, arguments);
+  } catch (const OutputFailure&) {
+    // The error is on standard error.
   }
   return failure.code();
+}
+
+ExitCode run_and_report(int argc, const char* const* argv) {
+  Arguments arguments;
+  try {
+    return run(argc, argv, arguments);
+  } catch (const OutputFailure& failure) {
+    // A part of an answer may have been written: nothing may follow it.
+    print(failure);
+    return failure.code();
+  } catch (const Failure& failure) {
+    return report(failure, arguments);
+  } catch (const std::exception& error) {
+    return report(Failure(error), arguments);
+  }
 }
 
 }  // namespace
@@ -97,13 +101,5 @@ ExitCode report(const Failure& failure, bool json) {
 
 int main(int argc, char** argv) {
   ComMsgMgr::setSink(qvtcfg::ignore_message);
-  const bool json = qvtcfg::wants_json(argc, argv);
-  try {
-    return qvtcfg::run(argc, argv);
-  } catch (const qvtcfg::Failure& failure) {
-    return qvtcfg::report(failure, json);
-  } catch (const std::exception& error) {
-    // Other system errors, such as no memory or no working directory.
-    return qvtcfg::report(qvtcfg::Failure(qvtcfg::kFile, error.what()), json);
-  }
+  return qvtcfg::run_and_report(argc, argv);
 }

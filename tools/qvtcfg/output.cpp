@@ -47,7 +47,7 @@ void Output::line(std::string_view text) {
   m_text += '\n';
 }
 
-void Output::json(const Json& value) { line(value.dump(2, ' ', false, Json::error_handler_t::replace)); }
+void Output::json(const Json& document) { line(document.dump(2, ' ', false, Json::error_handler_t::replace)); }
 
 void Output::table(const std::vector<std::vector<std::string>>& rows) {
   std::vector<std::size_t> widths;
@@ -66,7 +66,7 @@ void Output::table(const std::vector<std::vector<std::string>>& rows) {
 void Output::flush() {
   const bool written = std::fwrite(m_text.data(), 1, m_text.size(), stdout) == m_text.size();
   if (!written || std::fflush(stdout) != 0) {
-    throw Failure(kFile, std::string("standard output: ") + std::strerror(errno) + "; the output is incomplete");
+    throw OutputFailure(kFile, std::string("standard output: ") + std::strerror(errno) + "; the output is incomplete");
   }
   m_text.clear();
 }

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace qvtcfg {
@@ -32,7 +33,11 @@ class Output {
   void line(std::string_view text);
   // Whole lines.
   void text(std::string_view lines) { m_text += lines; }
-  void json(const Json& value);
+  void json(const Json& document);
+
+  // The result of the subcommand, which goes into the answer in JSON.
+  void result(Json value) { m_result = std::move(value); }
+  Json take_result() { return std::exchange(m_result, nullptr); }
 
   // Columns as wide as their widest cell; the first row is the heading.
   void table(const std::vector<std::vector<std::string>>& rows);
@@ -40,12 +45,13 @@ class Output {
   const Look& look() const { return m_look; }
   std::string styled(Style style, const std::string& text) const { return m_look.styled(style, text); }
 
-  // Writes the buffer; throws Failure on an error.
+  // Writes the buffer; throws OutputFailure on an error.
   void flush();
 
  private:
   Look m_look;
   std::string m_text;
+  Json m_result;
 };
 
 // The text padded with blanks to the width.

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <variant>
 
+#include "answer.h"
 #include "text.h"
 
 namespace qvtcfg {
@@ -19,12 +20,6 @@ using SdkDebugDialog::settings;
 using SdkDebugDialog::SettingState;
 using SdkDebugDialog::SettingValue;
 using Devices = std::vector<JtagOption>;
-
-// Members of a group that had another name before; JSON has both.
-constexpr struct {
-  std::string_view setting;
-  const char* member;
-} kFormerNames[] = {{"hardware-simulator-host", "host"}, {"hardware-simulator-port", "port"}};
 
 constexpr const char* kHardPpcs[] = {"none", "ppc405", "other"};
 
@@ -67,25 +62,32 @@ std::string device_line(const JtagOption& device) {
   return join(members);
 }
 
-// Calls visit(setting, state, differs) for every setting that is chosen; differs: the value is not the default.
+Json unit_json(const Setting& setting) { return text_or_null(std::string(setting.unit)); }
+
+// Whether the value is not the default. The identity has no defaults.
+bool differs(const Setting& setting, const SettingState& state) {
+  return !is_identity(setting) && state.value != state.initial;
+}
+
+// Calls visit(setting, state) for every setting that is chosen.
 template <typename Visit>
 void for_each_setting(const Configuration& configuration, const Choice& choice, Visit visit) {
   for (const Setting& setting : settings()) {
     if (choice.cable_text_only && !is_in_cable_text(setting)) continue;
     const SettingState state = configuration.state(setting);
-    const bool differs = !is_identity(setting) && state.value != state.initial;
     const bool usual = !choice.changed_only && (choice.all || state.applies);
-    if (usual || differs || is_identity(setting)) visit(setting, state, differs);
+    if (usual || differs(setting, state) || is_identity(setting)) visit(setting, state);
   }
 }
 
-void print_setting(const Setting& setting, const SettingState& state, bool differs, Output& out) {
+void print_setting(const Setting& setting, const SettingState& state, Output& out) {
+  const bool set = differs(setting, state);
   const auto* const devices = std::get_if<Devices>(&state.value);
   const bool listed = devices != nullptr && !devices->empty();
-  std::string text = std::string(differs ? "* " : "  ") + padded(std::string(setting.name), 18) + "  " +
+  std::string text = std::string(set ? "* " : "  ") + padded(std::string(setting.name), 18) + "  " +
                      (listed ? std::to_string(devices->size()) : shown_value(setting, state.value));
   if (!state.applies && !is_identity(setting)) text += "  (" + state.whyNot + ")";
-  out.line(is_identity(setting) ? text : out.styled(differs ? Style::kSet : Style::kDefault, text));
+  out.line(is_identity(setting) ? text : out.styled(set ? Style::kSet : Style::kDefault, text));
   if (!listed) return;
   for (const JtagOption& device : *devices) out.line("    " + device_line(device));
 }
@@ -110,31 +112,33 @@ Json json_value(const Setting& setting, const SettingValue& value) {
 void print_settings(const Configuration& configuration, const Choice& choice, Output& out) {
   std::string_view group;
   bool any_differs = false;
-  for_each_setting(configuration, choice, [&](const Setting& setting, const SettingState& state, bool differs) {
+  for_each_setting(configuration, choice, [&](const Setting& setting, const SettingState& state) {
     if (group != setting.group) {
       out.line("");
       out.line(out.styled(Style::kHeading, std::string(setting.group)));
     }
     group = setting.group;
-    any_differs |= differs;
-    print_setting(setting, state, differs, out);
+    any_differs |= differs(setting, state);
+    print_setting(setting, state, out);
   });
   out.line("");
   out.line(any_differs ? "* differs from its default" : "every setting has its default");
 }
 
+Json setting_json(const Setting& setting, const SettingState& state) {
+  return {{"value", json_value(setting, state.value)},
+          {"unit", unit_json(setting)},
+          {"changed", differs(setting, state)},
+          {"applies", state.applies},
+          {"changeable", state.changeable},
+          {"whyNot", text_or_null(state.whyNot)}};
+}
+
 Json settings_json(const Configuration& configuration, const Choice& choice) {
   const Choice complete{choice.changed_only, true, choice.cable_text_only};
   Json groups = Json::object();
-  for_each_setting(configuration, complete, [&](const Setting& setting, const SettingState& state, bool differs) {
-    Json& group = groups[std::string(setting.group)];
-    Json& member = group[std::string(setting.name)] = json_value(setting, state.value);
-    if (is_identity(setting)) return;
-    member = {{"value", member}, {"default", !differs}};
-    if (!state.applies) member.update({{"applies", false}, {"whyNot", state.whyNot}});
-    const auto* const former =
-        std::ranges::find(kFormerNames, setting.name, [](const auto& row) { return row.setting; });
-    if (former != std::end(kFormerNames)) group[former->member] = Json(member);
+  for_each_setting(configuration, complete, [&](const Setting& setting, const SettingState& state) {
+    groups[setting.group][setting.name] = setting_json(setting, state);
   });
   return groups;
 }
@@ -148,6 +152,7 @@ std::string difference_line(const Difference& difference) {
 Json difference_json(const Difference& difference) {
   const Setting& setting = *difference.setting;
   return {{"setting", setting.name},
+          {"unit", unit_json(setting)},
           {"before", json_value(setting, difference.before)},
           {"after", json_value(setting, difference.after)}};
 }

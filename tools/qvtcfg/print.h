@@ -29,9 +29,10 @@ Json json_value(const SdkDebugDialog::Setting& setting, const SdkDebugDialog::Se
 // apply is shown only if it differs.
 void print_settings(const SdkDebugDialog::Configuration& configuration, const Choice& choice, Output& out);
 
-// {group: {setting: {"value": ..., "default": true or false}}}, with "applies" and "whyNot" for a setting that does not
-// apply. Members of the identity are plain values, because they have no default. The JSON is complete unless
-// choice.changed_only is set.
+// A setting, the members that every answer has.
+Json setting_json(const SdkDebugDialog::Setting& setting, const SdkDebugDialog::SettingState& state);
+
+// {group: {setting: ...}}; complete unless choice.changed_only is set.
 Json settings_json(const SdkDebugDialog::Configuration& configuration, const Choice& choice);
 
 // Such as "frequency  6 MHz -> 12 MHz".

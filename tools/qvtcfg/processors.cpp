@@ -1,6 +1,7 @@
 // qvtcfg processors
 
 #include <unordered_map>
+#include <utility>
 
 #include "command_line.h"
 #include "output.h"
@@ -29,11 +30,11 @@ std::vector<std::string> row(const std::string& name, const Processor* processor
 }
 
 Json member(const std::string& name, const Processor* processor) {
-  if (processor == nullptr) return {{"name", name}, {"debuggable", false}};
-  const Configuration defaults(*processor);
-  Json object = {{"name", name}, {"debuggable", true}};
-  for (const char* setting : kShown) {
-    object[setting] = json_value(*find_setting(setting), defaults.value(*find_setting(setting)));
+  Json object = {{"processor", name}, {"debuggable", processor != nullptr}};
+  const Configuration defaults(processor != nullptr ? *processor : Processor());
+  for (const char* name_of_setting : kShown) {
+    const auto& setting = *find_setting(name_of_setting);
+    object[name_of_setting] = processor != nullptr ? json_value(setting, defaults.value(setting)) : Json();
   }
   return object;
 }
@@ -51,7 +52,7 @@ ExitCode run_processors(const Arguments& arguments, Output& out) {
   if (arguments.json) {
     Json list = Json::array();
     for (const std::string& name : design.names()) list.push_back(member(name, found(name)));
-    out.json({{"processors", list}});
+    out.result({{"processors", std::move(list)}});
     return kDone;
   }
   std::vector<std::vector<std::string>> rows = {{"NAME", "FAMILY", "VARIANT", "CPU", "FPU", "CONNECTIONS"}};

@@ -13,11 +13,12 @@ void print_text(const CheckReport& report, Output& out);
 // A line for each finding, for editors.
 void print_short(const CheckReport& report, Output& out);
 
-// A document of this program's own.
+// The result of the answer with --json.
 Json report_json(const CheckReport& report);
 
-// A finding with its places, as in report_json.
-Json finding_json(const SdkDebugDialog::Finding& finding, const Lines& lines, std::string_view remarks_name,
+// A finding with its places, as in report_json. The places of the remarks are in a file, which is null for another
+// text.
+Json finding_json(const SdkDebugDialog::Finding& finding, const Lines& lines, const Json& remarks_file,
                   const Lines& remarks);
 
 // A document in the format SARIF 2.1.0.

@@ -1,5 +1,6 @@
 // The answer of qvtcfg check as JSON.
 
+#include "answer.h"
 #include "finding_text.h"
 #include "report.h"
 #include "text.h"
@@ -13,9 +14,6 @@ using SdkDebugDialog::Remark;
 using SdkDebugDialog::Replacement;
 using SdkDebugDialog::TextKind;
 
-// Raised when a member changes its meaning or goes; new members may come at any time.
-constexpr int kFormatVersion = 1;
-
 const char* kind_name(TextKind kind) {
   switch (kind) {
     case TextKind::command:
@@ -28,78 +26,69 @@ const char* kind_name(TextKind kind) {
   return "file";
 }
 
-// Lines and columns from 1, bytes from 0; the end is the first byte behind.
-Json place_json(std::size_t begin, std::size_t end, const Lines& lines) {
-  const Position first = lines.position(begin);
-  const Position last = lines.position(end);
-  return {{"line", first.line},       {"column", first.column}, {"endLine", last.line},
-          {"endColumn", last.column}, {"begin", begin},         {"end", end}};
-}
-
 Json fix_json(const Fix& fix, const Lines& lines) {
   Json replacements = Json::array();
   for (const Replacement& replacement : fix.replacements) {
-    Json member = place_json(replacement.begin, replacement.end, lines);
-    member["text"] = replacement.text;
-    replacements.push_back(std::move(member));
+    replacements.push_back(
+        {{"place", place_json(replacement.begin, replacement.end, lines)}, {"text", replacement.text}});
   }
   return {{"title", fix.title}, {"safe", fix.safe}, {"replacements", std::move(replacements)}};
 }
 
-Json remark_json(const Remark& remark, std::string_view name, const Lines& lines) {
-  Json member = Json::object();
-  if (remark.end > 0) {
-    member["file"] = visible(name);
-    member.update(place_json(remark.begin, remark.end, lines));
-  }
-  member["message"] = visible(remark.message);
-  return member;
+Json remark_json(const Remark& remark, const Json& file, const Lines& lines) {
+  const bool has_place = remark.end > 0;
+  return {{"message", visible(remark.message)},
+          {"file", has_place ? file : Json()},
+          {"place", has_place ? place_json(remark.begin, remark.end, lines) : Json()}};
 }
+
+// Null for standard input.
+Json file_json(const Input& input) { return input.path.empty() ? Json() : Json(input.shown); }
 
 Json checked_json(const CheckReport& report, const Checked& checked) {
   const Input& input = checked.input;
   Json findings = Json::array();
   for (const Located& located : checked.findings) {
     const Checked& other = located.remarks_in ? report.texts[*located.remarks_in] : checked;
-    findings.push_back(finding_json(located.finding, checked.lines(), other.input.shown, other.lines()));
+    findings.push_back(finding_json(located.finding, checked.lines(), file_json(other.input), other.lines()));
   }
   Json fixed = Json::array();
   if (!checked.fixed.empty()) {
     const Lines before(checked.before);
     for (const Finding& finding : checked.fixed) {
-      fixed.push_back(finding_json(finding, before, input.shown, before));
+      fixed.push_back(finding_json(finding, before, file_json(input), before));
     }
   }
-  Json member = {{"file", input.shown},
-                 {"kind", kind_name(input.kind)},
-                 {"processor", input.processor.empty() ? Json() : Json(input.processor)},
-                 {"error", checked.error.empty() ? Json() : Json(checked.error)},
-                 {"truncated", checked.cut},
-                 {"findings", std::move(findings)}};
-  if (!fixed.empty()) member["fixed"] = std::move(fixed);
-  return member;
+  return {{"file", file_json(input)},
+          {"kind", kind_name(input.kind)},
+          {"processor", text_or_null(input.processor)},
+          {"error", text_or_null(checked.error)},
+          {"truncated", checked.cut},
+          {"findings", std::move(findings)},
+          {"fixed", std::move(fixed)}};
 }
 
 }  // namespace
 
-Json finding_json(const Finding& finding, const Lines& lines, std::string_view remarks_name, const Lines& remarks) {
-  Json member = {{"code", finding.kind->code}, {"severity", severity_name(finding.severity)}};
-  member.update(place_json(finding.begin, finding.end, lines));
-  member["message"] = visible(finding.message);
-  member["remedy"] = visible(finding.remedy);
-  Json& remark_list = member["remarks"] = Json::array();
-  for (const Remark& remark : finding.remarks) remark_list.push_back(remark_json(remark, remarks_name, remarks));
-  Json& fixes = member["fixes"] = Json::array();
+Json finding_json(const Finding& finding, const Lines& lines, const Json& remarks_file, const Lines& remarks) {
+  Json remark_list = Json::array();
+  for (const Remark& remark : finding.remarks) remark_list.push_back(remark_json(remark, remarks_file, remarks));
+  Json fixes = Json::array();
   for (const Fix& fix : finding.fixes) fixes.push_back(fix_json(fix, lines));
-  return member;
+  return {{"code", finding.kind->code},
+          {"severity", severity_name(finding.severity)},
+          {"place", place_json(finding.begin, finding.end, lines)},
+          {"message", visible(finding.message)},
+          {"remedy", text_or_null(visible(finding.remedy))},
+          {"remarks", std::move(remark_list)},
+          {"fixes", std::move(fixes)}};
 }
 
 Json report_json(const CheckReport& report) {
   Json files = Json::array();
   for (const Checked& checked : report.texts) files.push_back(checked_json(report, checked));
   const Totals totals = report.totals();
-  return {{"formatVersion", kFormatVersion},
-          {"files", std::move(files)},
+  return {{"files", std::move(files)},
           {"withoutOptionFile", report.defaults},
           {"dryRun", report.dry_run},
           {"totals",

@@ -89,8 +89,8 @@ Configuration open_configuration(const Processor& processor, const OptionFile& f
     throw Failure(configuration.error(), text, advice, file.path);
   }
   if (line.size() > kLongestLine) {
-    complain("warning: " + file.shown + ": the command is longer than " + std::to_string(kLongestLine) +
-             " characters, and the rest is not read");
+    warn(file.shown + ": the command is longer than " + std::to_string(kLongestLine) +
+         " characters, and the rest is not read");
   }
   return *configuration;
 }
@@ -99,7 +99,7 @@ std::string command_in(std::string_view content) { return std::string(SdkDebugDi
 
 void require_safe(const Edit& edit, const OptionFile& file, bool force, const std::vector<std::string>& warnings) {
   for (const std::string& warning : warnings) {
-    if (force || edit.is_safe()) complain("warning: " + warning);
+    if (force || edit.is_safe()) warn(warning);
   }
   if (edit.is_safe()) return;
   std::vector<std::string> lost;
@@ -107,7 +107,7 @@ void require_safe(const Edit& edit, const OptionFile& file, bool force, const st
   std::string text = file.shown + ": " + edit.notReadBack;
   if (!lost.empty()) text += (edit.notReadBack.empty() ? "would lose " : "; would lose ") + join(lost);
   if (force) {
-    complain("warning: " + text);
+    warn(text);
   } else {
     for (const std::string& warning : warnings) text += "; " + warning;
     throw Failure(text + "; --force stores it nevertheless", edit.losses);

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <optional>
 
+#include "answer.h"
 #include "changes.h"
 #include "command_line.h"
 #include "failure.h"
@@ -175,33 +176,30 @@ void print_target(const Plan& plan, const Target& target, const Arguments& argum
   for (const Loss& loss : target.not_taken) out.line(visible("not taken: " + loss.what + ": " + loss.why));
 }
 
-Json target_json(const Plan& plan, const Target& target, const Arguments& arguments) {
+Json target_json(const Plan& plan, const Target& target) {
   Json differences = Json::array();
   for (const Difference& difference : target.edit.differences) {
     Json member = difference_json(difference);
     member["follows"] = !is_given(plan, difference);
     differences.push_back(std::move(member));
   }
-  Json answer = {{"processor", target.processor},
-                 {"file", target.file.shown},
-                 {"old", target.file.content ? Json(command_in(*target.file.content)) : Json()},
-                 {"new", target.command()},
-                 {"dryRun", arguments.dry_run},
-                 {"changes", target.changes()},
-                 {"differences", std::move(differences)},
-                 {"losses", losses_json(target.edit.losses)}};
-  if (plan.given.empty()) answer["notTaken"] = losses_json(target.not_taken);
-  return answer;
+  return {{"processor", target.processor},
+          {"file", target.file.shown},
+          {"before", target.file.content ? Json(command_in(*target.file.content)) : Json()},
+          {"after", target.command()},
+          {"changes", target.changes()},
+          {"differences", std::move(differences)},
+          {"losses", losses_json(target.edit.losses)},
+          {"notReadBack", text_or_null(target.edit.notReadBack)},
+          {"notTaken", losses_json(target.not_taken)}};
 }
 
 Json plan_json(const Plan& plan, const Arguments& arguments) {
-  const bool one = plan.targets.size() == 1 && !arguments.all;
-  if (one) return target_json(plan, plan.targets.front(), arguments);
   Json targets = Json::array();
-  for (const Target& target : plan.targets) targets.push_back(target_json(plan, target, arguments));
+  for (const Target& target : plan.targets) targets.push_back(target_json(plan, target));
   Json skipped = Json::array();
   for (const Skipped& s : plan.skipped) skipped.push_back({{"processor", s.processor}, {"why", s.why}});
-  return {{"processors", std::move(targets)}, {"skipped", std::move(skipped)}};
+  return {{"dryRun", arguments.dry_run}, {"processors", std::move(targets)}, {"skipped", std::move(skipped)}};
 }
 
 // --- Storing ---
@@ -227,7 +225,7 @@ ExitCode carry_out(Plan plan, const Arguments& arguments, Output& out) {
     store(target.configuration, target.edit, target.file, arguments);
     if (!arguments.json) out.line(visible("written to " + target.file.shown));
   }
-  if (arguments.json) out.json(plan_json(plan, arguments));
+  if (arguments.json) out.result(plan_json(plan, arguments));
   return arguments.exit_code && any_changes ? kDiffers : kDone;
 }
 

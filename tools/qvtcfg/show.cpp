@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "answer.h"
 #include "command_line.h"
 #include "failure.h"
 #include "given_text.h"
@@ -30,10 +31,10 @@ void show_settings(const Arguments& arguments, const Configuration& configuratio
   const std::string& processor = configuration.processor().name();
   const Choice choice{.changed_only = arguments.changed_only, .all = arguments.all};
   if (arguments.json) {
-    out.json({{"processor", processor.empty() ? Json() : Json(processor)},
-              {"file", source.file},
-              {"command", source.command.empty() ? Json() : Json(source.command)},
-              {"settings", settings_json(configuration, choice)}});
+    out.result({{"processor", text_or_null(processor)},
+                {"file", source.file},
+                {"command", text_or_null(source.command)},
+                {"settings", settings_json(configuration, choice)}});
     return;
   }
   const std::string name = processor.empty() ? "no processor of a design," : processor;
@@ -108,7 +109,8 @@ ExitCode run_command(const Arguments& arguments, Output& out) {
   } else if (!arguments.json) {
     out.line(visible(command));
   }
-  if (arguments.json) out.json({{"processor", processor.name()}, {"command", command}});
+  const bool in_file = file.content || arguments.write;
+  out.result({{"processor", processor.name()}, {"file", in_file ? Json(file.shown) : Json()}, {"command", command}});
   return kDone;
 }
 
