@@ -60,7 +60,8 @@ if(TARGET qvtcfg)
   set_target_properties(qvtcfg PROPERTIES INSTALL_RPATH "$ORIGIN/${library_from_tool}")
   install(TARGETS qvtcfg RUNTIME COMPONENT tool)
   install(FILES docs/qvtcfg.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
-  install(FILES docs/design-file.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/SdkDebugDialog COMPONENT tool)
+  install(FILES docs/design-file.schema.json docs/qvtcfg-answer.schema.json
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/SdkDebugDialog COMPONENT tool)
 endif()
 
 # --- The documents ---

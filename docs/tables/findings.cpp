@@ -10,18 +10,6 @@
 namespace SdkDebugDialog {
 namespace {
 
-const char* name(Severity severity) {
-  switch (severity) {
-    case Severity::error:
-      return "error";
-    case Severity::warning:
-      return "warning";
-    case Severity::note:
-      return "note";
-  }
-  return "";
-}
-
 // The texts have words of the command in single quotes, and no apostrophes.
 std::string with_code(std::string_view text) {
   std::string out(text);
@@ -54,11 +42,23 @@ std::string heading(const FindingKind& kind) { return "### " + std::string(kind.
 
 }  // namespace
 
+const char* severity_name(Severity severity) {
+  switch (severity) {
+    case Severity::error:
+      return "error";
+    case Severity::warning:
+      return "warning";
+    case Severity::note:
+      return "note";
+  }
+  return "";
+}
+
 std::string print_finding_table() {
   std::vector<markdown::Row> rows;
   for (const FindingKind& kind : finding_kinds()) {
     rows.push_back({'[' + markdown::code(kind.code) + "](" + markdown::link_to(heading(kind)) + ')',
-                    name(kind.severity), std::string(kind.title)});
+                    severity_name(kind.severity), std::string(kind.title)});
   }
   return markdown::table({"code", "severity", "what is wrong"}, rows);
 }
@@ -66,7 +66,7 @@ std::string print_finding_table() {
 std::string print_finding_descriptions() {
   std::string text;
   for (const FindingKind& kind : finding_kinds()) {
-    text += '\n' + heading(kind) + "\n\n" + name(kind.severity) + ": **" + std::string(kind.title) + "**\n\n" +
+    text += '\n' + heading(kind) + "\n\n" + severity_name(kind.severity) + ": **" + std::string(kind.title) + "**\n\n" +
             with_code(kind.meaning) + "\n\n" + (kind.exampleKind == TextKind::optionFile ? "An option file:\n\n" : "") +
             "```\n" + visible(kind.example) + "\n```\n\n" + with_code(kind.advice) + '\n';
   }

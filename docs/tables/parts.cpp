@@ -1,5 +1,6 @@
 #include "docs/tables/parts.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <sstream>
@@ -7,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "docs/tables/json.h"
 #include "docs/tables/markdown.h"
 #include "docs/tables/print.h"
 #include "options/groups.h"
@@ -16,19 +18,29 @@ namespace {
 
 // The name of the part that begins with this line.
 std::optional<std::string> part_of(std::string_view line) {
-  constexpr std::string_view kMarks[] = {" printed from the syntax: ", " printed from the kinds of findings: "};
-  constexpr std::string_view kCommentEnd = " -->";
+  constexpr std::string_view kMarks[] = {
+      "printed from the syntax: ", "printed from the kinds of findings: ", "printed from the tables of qvtcfg: "};
+  constexpr std::string_view kCommentEnds[] = {" -->", "\","};
   for (const std::string_view mark : kMarks) {
     const std::size_t found = line.find(mark);
     if (found == std::string_view::npos) continue;
     line.remove_prefix(found + mark.size());
-    if (line.ends_with(kCommentEnd)) line.remove_suffix(kCommentEnd.size());
+    for (const std::string_view end : kCommentEnds) {
+      if (line.ends_with(end)) line.remove_suffix(end.size());
+    }
     return std::string(line);
   }
   return {};
 }
 
 bool is_end(std::string_view line) { return line == "<!-- end -->" || line == "# end"; }
+
+// The indentation of a comment in JSON; none for other lines.
+std::optional<std::string> json_indentation(std::string_view line) {
+  const std::size_t start = std::min(line.find_first_not_of(' '), line.size());
+  if (!line.substr(start).starts_with("\"$comment\"")) return {};
+  return std::string(line.substr(0, start));
+}
 
 // The options of "general: -comm -port"; none if the part is none of options.
 std::vector<const Option*> options_of(const std::string& part) {
@@ -71,6 +83,7 @@ std::string print(const std::string& part, const Links& links) {
   if (part == "not read back") return print_not_read_back();
   if (part == "all words") return print_dictionary();
   if (part == "table") return print_finding_table();
+  if (part == "errors") return print_errors();
   if (part == "descriptions") return print_finding_descriptions();
   const std::vector<const Option*> options = options_of(part);
   if (options.empty()) throw std::runtime_error("there is no part of this name: " + part);
@@ -87,11 +100,16 @@ std::string with_parts(const std::string& document) {
     text += line + '\n';
     const std::optional<std::string> part = part_of(line);
     if (!part) continue;
-    text += print(*part, links);
+    const std::optional<std::string> indentation = json_indentation(line);
+    text += indentation ? print_schema_part(*part, *indentation) : print(*part, links);
+    // A part of JSON ends with its own last line.
+    const auto ends = [&] {
+      return indentation ? line == *indentation + ']' || line == *indentation + '}' : is_end(line);
+    };
     do {
       if (!std::getline(lines, line)) throw std::runtime_error("this part has no end: " + *part);
-    } while (!is_end(line));
-    text += line + '\n';
+    } while (!ends());
+    if (!indentation) text += line + '\n';
   }
   return text;
 }

@@ -10,13 +10,19 @@
 //
 //   <!-- printed from the syntax: general: -comm -port -baud -timeout -->
 //
-// Parts about findings are "printed from the kinds of findings".
+// Parts about findings are "printed from the kinds of findings", and those about qvtcfg "printed from the tables of
+// qvtcfg". In a JSON Schema a part is one member, whose value is an array or an object. It follows
+//
+//   "$comment": "printed from the tables of qvtcfg: setting names",
+//
+// and is the last member of its object.
 
 #include <string>
 
 namespace SdkDebugDialog {
 
-inline constexpr const char* kDocuments[] = {"docs/connect-command.md", "docs/findings.md", "fuzz/command.dict"};
+inline constexpr const char* kDocuments[] = {"docs/connect-command.md", "docs/findings.md", "docs/qvtcfg.md",
+                                             "docs/qvtcfg-answer.schema.json", "fuzz/command.dict"};
 
 // The document with all its parts printed anew; the rest stays. Throws std::runtime_error for a part that there is
 // not, for one without an end, and for an option that the index links to and no part describes.

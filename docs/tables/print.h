@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "SdkDebugDialog/Diagnosis.h"
 #include "options/syntax.h"
 
 namespace SdkDebugDialog {
@@ -22,6 +23,7 @@ std::string print_cable_types();
 std::string print_never_written();
 std::string print_not_read_back();
 std::string print_dictionary();
+const char* severity_name(Severity severity);
 std::string print_finding_table();
 std::string print_finding_descriptions();
 

@@ -1,0 +1,16 @@
+#pragma once
+
+// What the tables say about the answers of qvtcfg in JSON.
+
+#include <string>
+
+namespace SdkDebugDialog {
+
+// A part of the JSON Schema: a member whose value is an array or an object, in lines that begin with the indentation.
+// Throws std::runtime_error for a part that there is not.
+std::string print_schema_part(const std::string& part, const std::string& indentation);
+
+// The errors, in Markdown.
+std::string print_errors();
+
+}  // namespace SdkDebugDialog
