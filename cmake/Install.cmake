@@ -65,8 +65,9 @@ if(TARGET qvtcfg)
 endif()
 
 # --- The documents ---
-file(GLOB guides CONFIGURE_DEPENDS docs/*.md)
+file(GLOB guides CONFIGURE_DEPENDS docs/*.md docs/*.svg)
 install(FILES ${guides} DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
+install(DIRECTORY docs/guides DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
 # Built by scripts/docs.

@@ -5,7 +5,7 @@ jobs=$(nproc 2>/dev/null || echo 2)
 
 # packages_of STEP: what it needs.
 packages_of() {
-  echo "$build_packages git make libgtest-dev libgmock-dev librapidcheck-dev strace \
+  echo "$build_packages git make libgtest-dev libgmock-dev librapidcheck-dev pkg-config strace \
     bash zsh fish mandoc groff-base man-db"
   case $1 in
     format) echo clang-format ;;
@@ -15,7 +15,7 @@ packages_of() {
       ;;
     fuzz) echo clang libclang-rt-14-dev ;;
     clang) echo clang ;;
-    consumers) echo clang pkg-config ;;
+    consumers) echo clang ;;
     locales) echo locales ;;
     valgrind) echo valgrind ;;
     arm64 | armhf | i386 | s390x)

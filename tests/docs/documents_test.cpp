@@ -18,6 +18,7 @@
 #include "docs/tables/parts.h"
 #include "options/QvtOption_Parser.h"
 #include "options/syntax.h"
+#include "tests/support/Blocks.h"
 #include "tests/support/SelectedEngine.h"
 
 namespace SdkDebugDialog {
@@ -162,9 +163,7 @@ TEST(Documents, LinkToHeadings) {
 
   // "](file#heading)", one of them or both; what is elsewhere begins with a scheme.
   const std::regex link(R"(\]\(([a-zA-Z0-9_./-]*)(#[^)]*)?\))");
-  for (const std::string document : {"README.md", "CONTRIBUTING.md", "docs/checking.md", "docs/connect-command.md",
-                                     "docs/design-file.md", "docs/findings.md", "docs/glossary.md", "docs/library.md",
-                                     "docs/performance.md", "docs/qvtcfg.md", "docs/testing.md"}) {
+  for (const std::string& document : all_documents()) {
     SCOPED_TRACE(document);
     const std::filesystem::path root = PROJECT_SOURCE_DIR;
     const std::string text = content(document);

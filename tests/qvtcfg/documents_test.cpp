@@ -1,12 +1,14 @@
-// The sessions that the documents show print what they show.
+// The sessions that the documents show print what they show, and the programs that they show do what they show.
 
-#include <fstream>
+#include <algorithm>
+#include <filesystem>
 #include <regex>
 #include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "tests/support/Blocks.h"
 #include "tool.h"
 
 namespace {
@@ -16,37 +18,6 @@ std::vector<std::string> lines_of(const std::string& text) {
   std::istringstream in(text);
   for (std::string line; std::getline(in, line);) lines.push_back(line);
   return lines;
-}
-
-// --- Code blocks ---
-
-struct Block {
-  std::string before;  // the line above it
-  std::string kind;    // "sh" of "```sh"
-  std::vector<std::string> lines;
-
-  std::string text() const {
-    std::string all;
-    for (const std::string& line : lines) all += line + '\n';
-    return all;
-  }
-};
-
-std::vector<Block> blocks_of(const std::string& document) {
-  std::ifstream in(PROJECT_SOURCE_DIR "/" + document);
-  EXPECT_TRUE(in) << document;
-  std::vector<Block> blocks;
-  bool inBlock = false;
-  std::string before;
-  for (std::string line; std::getline(in, line); before = line) {
-    if (line.starts_with("```")) {
-      inBlock = !inBlock;
-      if (inBlock) blocks.push_back({before, line.substr(3), {}});
-    } else if (inBlock) {
-      blocks.back().lines.push_back(line);
-    }
-  }
-  return blocks;
 }
 
 // The block of this kind, which the document has once.
@@ -70,7 +41,7 @@ void trim(std::string& text) { text.erase(text.find_last_not_of('\n') + 1); }
 std::vector<Step> session_in(const std::vector<Block>& blocks) {
   std::vector<Step> steps;
   for (const Block& block : blocks) {
-    if (block.lines.empty() || !block.lines.front().starts_with("$ ")) continue;
+    if (!block.is_session()) continue;
     for (const std::string& line : block.lines) {
       if (line.starts_with("$ ")) {
         steps.push_back({line.substr(2), ""});
@@ -85,6 +56,16 @@ std::vector<Step> session_in(const std::vector<Block>& blocks) {
 
 class DocumentedSessions : public Tool, public testing::WithParamInterface<const char*> {
  protected:
+  // Sessions begin in the folder of the project, with a build in build/release.
+  void link_project() const {
+    for (const auto& entry : std::filesystem::directory_iterator(PROJECT_SOURCE_DIR)) {
+      const std::filesystem::path name = entry.path().filename();
+      if (name != "build" && name != ".git") std::filesystem::create_symlink(entry.path(), folder() / name);
+    }
+    std::filesystem::create_directory(folder() / "build");
+    if (!std::string_view(COMPILER).empty()) std::filesystem::create_symlink(BUILD_FOLDER, folder() / "build/release");
+  }
+
   // A block below "<!-- file: PATH -->" is the content of a file.
   void write_files(const std::vector<Block>& blocks) const {
     const std::regex mark("<!-- file: (.*) -->");
@@ -95,18 +76,47 @@ class DocumentedSessions : public Tool, public testing::WithParamInterface<const
       write(path.str(1), block.text());
     }
   }
+
+  static bool has_programs(const std::vector<Block>& blocks) {
+    return std::ranges::any_of(blocks, [](const Block& block) { return block.kind == "cpp"; });
+  }
+
+  // A program below "<!-- program: PATH -->" is compiled, and can be started at that path. Behind the path, the file of
+  // the project may be named that has the same text. "c++" is the compiler of this build, with its sanitizers.
+  void compile_programs(const std::vector<Block>& blocks) const {
+    const std::regex mark("<!-- program: ([^ ]*)( from (.*))? -->");
+    std::filesystem::create_directory(folder() / ".bin");
+    write(".bin/c++", "#!/bin/sh\nexec " COMPILER " -Wall -Wextra -Wpedantic -Werror \"$@\"\n");
+    std::filesystem::permissions(folder() / ".bin/c++", std::filesystem::perms::owner_all);
+    for (const Block& block : blocks) {
+      std::smatch found;
+      if (!std::regex_match(block.before, found, mark)) continue;
+      const std::string path = found.str(1);
+      if (found[3].matched) {
+        EXPECT_EQ(block.text(), read(PROJECT_SOURCE_DIR "/" + found.str(3)));
+      }
+      std::filesystem::create_directories((folder() / path).parent_path());
+      write(path + ".cpp", block.text());
+      const Result compiled =
+          shell(".bin/c++ -std=c++17 -I" PROJECT_SOURCE_DIR "/include -I" BUILD_FOLDER "/include " + path + ".cpp -o " +
+                path + " -L" BUILD_FOLDER " -lSdkDebugDialogDesignFile -lSdkDebugDialog -Wl,-rpath," BUILD_FOLDER);
+      EXPECT_EQ(compiled.code, 0) << path << ": " << compiled.err;
+    }
+  }
 };
 
 TEST_P(DocumentedSessions, PrintWhatIsShown) {
   constexpr char kEnd = '\1';
-  std::filesystem::create_directory_symlink(PROJECT_SOURCE_DIR "/examples", folder() / "examples");
   const std::vector<Block> blocks = blocks_of(GetParam());
+  if (std::string_view(COMPILER).empty() && has_programs(blocks)) GTEST_SKIP() << "built for another machine";
+  link_project();
   write_files(blocks);
+  compile_programs(blocks);
   const std::vector<Step> steps = session_in(blocks);
   ASSERT_FALSE(steps.empty());
   // The user's settings of git, and a repository that the tests are run from, must not matter.
   std::string script =
-      "exec 2>&1; PATH=${QVTCFG%/*}:$PATH\n"
+      "exec 2>&1; PATH=$PWD/.bin:${QVTCFG%/*}:$PATH\n"
       "unset $(git rev-parse --local-env-vars); export GIT_CONFIG_GLOBAL=/dev/null\n"
       "export GIT_AUTHOR_NAME=tester GIT_AUTHOR_EMAIL=tester@localhost\n";
   for (const Step& step : steps) script += step.command + "\nprintf '\\001'\n";
@@ -119,7 +129,7 @@ TEST_P(DocumentedSessions, PrintWhatIsShown) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, DocumentedSessions, testing::Values("README.md", "docs/qvtcfg.md", "docs/checking.md"));
+INSTANTIATE_TEST_SUITE_P(All, DocumentedSessions, testing::ValuesIn(kSessions));
 
 // --- Editors ---
 
