@@ -17,6 +17,7 @@ packages_of() {
     clang) echo clang ;;
     consumers) echo clang ;;
     locales) echo locales ;;
+    docs) echo doxygen python3 ;;
     valgrind) echo valgrind ;;
     arm64 | armhf | i386 | s390x)
       machine "$1"
@@ -158,6 +159,12 @@ step_tsan() {
   fi
   build tsan --preset tsan
   run_tests tsan "tsan: test" -R '^threads/|Threads'
+}
+
+# The reference documentation, without warnings and dead links.
+step_docs() {
+  run "docs" build_reference
+  summarise "$what" "$beginning"
 }
 
 # A program at a time: to start valgrind for every test would take most of the time. tests/faults is left out: it

@@ -30,6 +30,7 @@
 
 class HHSMHwManager;
 
+/// Everything of the library. The interfaces of the surrounding tool suite are outside of it.
 namespace SdkDebugDialog {
 
 /// A processor of a design, or none. Copies share the hardware description.

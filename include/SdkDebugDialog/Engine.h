@@ -89,9 +89,9 @@ class SDKDEBUGDIALOG_API Engine {
   /// Needs no processor.
   /// @{
 
-  /// Replaces the text of the last error. A null pointer clears it.
+  /// Replaces the text of the last error.
   void SetErrorStr(std::string& text);
-  /// The same.
+  /// The same. A null pointer clears it.
   void SetErrorStr(const char* text);
 
   /// Copies the text of the last error. A successful operation does not clear it; selecting a processor does.
