@@ -21,13 +21,14 @@ struct NotRun {
 
 constexpr NotRun kNotRun[] = {
     {"README.md", " design file ──▶", "a picture"},
-    {"README.md", "./scripts/demo", "would build everything again; the scripts are run by hand"},
+    {"README.md", "apt-get update", "installs packages and builds everything"},
     {"README.md", "cmake --preset release", "this build was made so; DocumentedSessions installs it"},
     {"docs/checking.md", "FILE:LINE:COLUMN:", "a form; DocumentedEditors match what is printed against it"},
     {"docs/checking.md", "set makeprg", "DocumentedEditors run it"},
     {"docs/checking.md", "{\n  \"version\": \"2.0.0\"", "DocumentedEditors use it"},
     {"docs/connect-command.md", "connect ", "read and written by documents_test.cpp; the first one alone shows a form"},
     {"docs/findings.md", "", "printed from the kinds of findings; tests/findings/kinds_test.cpp checks the examples"},
+    {"docs/licences.md", "", "texts of licences"},
     {"docs/performance.md", "scripts/bench", "takes minutes"},
     {"docs/qvtcfg.md", "qvtcfg [-C DIR]", "the form of a command line"},
     {"docs/testing.md", "EDIT_COUNT=", "takes hours"},
