@@ -1,7 +1,7 @@
 # Installs what is built, in components:
 #   runtime      the shared library
 #   development  headers, the link to the shared library, static libraries, the files of CMake and pkg-config
-#   tool         qvtcfg, with the schemas of what it reads and answers
+#   tool         qvtcfg, with man pages, completions, and the schemas of what it reads and answers
 #   documents    the guides and examples
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -59,7 +59,16 @@ if(TARGET qvtcfg)
   file(RELATIVE_PATH library_from_tool ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
   set_target_properties(qvtcfg PROPERTIES INSTALL_RPATH "$ORIGIN/${library_from_tool}")
   install(TARGETS qvtcfg RUNTIME COMPONENT tool)
-  install(FILES docs/qvtcfg.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+  file(GLOB commands CONFIGURE_DEPENDS docs/man/*.1)
+  file(GLOB formats CONFIGURE_DEPENDS docs/man/*.5)
+  install(FILES ${commands} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+  install(FILES ${formats} DESTINATION ${CMAKE_INSTALL_MANDIR}/man5 COMPONENT tool)
+  set(completions tools/qvtcfg/completions)
+  install(FILES ${completions}/qvtcfg.bash RENAME qvtcfg
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tool)
+  install(FILES ${completions}/_qvtcfg DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions COMPONENT tool)
+  install(FILES ${completions}/qvtcfg.fish
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tool)
   install(FILES docs/design-file.schema.json docs/qvtcfg-answer.schema.json
     DESTINATION ${CMAKE_INSTALL_DATADIR}/SdkDebugDialog COMPONENT tool)
 endif()

@@ -6,6 +6,7 @@
 #include "SdkDebugDialog/Diagnosis.h"
 #include "docs/tables/markdown.h"
 #include "docs/tables/print.h"
+#include "docs/tables/roff.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -54,13 +55,22 @@ const char* severity_name(Severity severity) {
   return "";
 }
 
-std::string print_finding_table() {
+markdown::Table finding_table() {
   std::vector<markdown::Row> rows;
   for (const FindingKind& kind : finding_kinds()) {
     rows.push_back({'[' + markdown::code(kind.code) + "](" + markdown::link_to(heading(kind)) + ')',
                     severity_name(kind.severity), std::string(kind.title)});
   }
-  return markdown::table({"code", "severity", "what is wrong"}, rows);
+  return {{"code", "severity", "what is wrong"}, rows};
+}
+
+std::string print_finding_codes() {
+  std::string items;
+  for (const FindingKind& kind : finding_kinds()) {
+    items +=
+        ".It Sy " + std::string(kind.code) + " Pq " + severity_name(kind.severity) + '\n' + roff::lines(kind.title);
+  }
+  return roff::list(items);
 }
 
 std::string print_finding_descriptions() {

@@ -159,12 +159,12 @@ std::string print_schema_part(const std::string& part, const std::string& indent
   throw std::runtime_error("there is no part of this name: " + part);
 }
 
-std::string print_errors() {
+markdown::Table error_table() {
   std::vector<markdown::Row> rows;
   for (const qvtcfg::ErrorName& error : qvtcfg::error_names()) {
     rows.push_back({markdown::code(error.name), std::to_string(error.code), error.meaning});
   }
-  return markdown::table({"code", "exit code", "means"}, rows);
+  return {{"code", "exit code", "means"}, rows};
 }
 
 }  // namespace SdkDebugDialog

@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "docs/tables/markdown.h"
+
 namespace SdkDebugDialog {
 
 // A part of the JSON Schema: a member whose value is an array or an object, in lines that begin with the indentation.
@@ -11,6 +13,6 @@ namespace SdkDebugDialog {
 std::string print_schema_part(const std::string& part, const std::string& indentation);
 
 // The errors, in Markdown.
-std::string print_errors();
+markdown::Table error_table();
 
 }  // namespace SdkDebugDialog

@@ -1,5 +1,5 @@
-// Prints the parts of the project's documents anew that come from the tables of the syntax and from the kinds of
-// findings, and says which documents have changed: syntax_tables FOLDER, where FOLDER holds the project.
+// Prints the parts of the project's documents anew that come from tables of the code, and says which documents have
+// changed: syntax_tables FOLDER, where FOLDER holds the project.
 
 #include <exception>
 #include <fstream>

@@ -17,7 +17,8 @@ std::string joined(const std::vector<std::string>& texts, std::string_view separ
   return all;
 }
 
-std::string table(const Row& head, const std::vector<Row>& rows) {
+std::string table(const Table& table) {
+  const auto& [head, rows] = table;
   const auto line = [&](const Row& cells) {
     std::string text = "|";
     for (std::size_t column = 0; column < head.size(); ++column) {

@@ -15,8 +15,13 @@ std::string joined(const std::vector<std::string>& texts, std::string_view separ
 
 using Row = std::vector<std::string>;
 
+struct Table {
+  Row head;
+  std::vector<Row> rows;
+};
+
 // A column that is empty in every row is left out.
-std::string table(const Row& head, const std::vector<Row>& rows);
+std::string table(const Table& table);
 
 // What a link to the heading leads to: "#-comm--port" for "### -comm, -port".
 std::string link_to(std::string_view heading);

@@ -11,6 +11,7 @@
 #include "docs/tables/json.h"
 #include "docs/tables/markdown.h"
 #include "docs/tables/print.h"
+#include "docs/tables/roff.h"
 #include "options/groups.h"
 
 namespace SdkDebugDialog {
@@ -19,7 +20,8 @@ namespace {
 // The name of the part that begins with this line.
 std::optional<std::string> part_of(std::string_view line) {
   constexpr std::string_view kMarks[] = {
-      "printed from the syntax: ", "printed from the kinds of findings: ", "printed from the tables of qvtcfg: "};
+      "printed from the syntax: ", "printed from the kinds of findings: ", "printed from the tables of qvtcfg: ",
+      "printed from the command line: ", "printed from the settings: "};
   constexpr std::string_view kCommentEnds[] = {" -->", "\","};
   for (const std::string_view mark : kMarks) {
     const std::size_t found = line.find(mark);
@@ -33,7 +35,9 @@ std::optional<std::string> part_of(std::string_view line) {
   return {};
 }
 
-bool is_end(std::string_view line) { return line == "<!-- end -->" || line == "# end"; }
+constexpr std::string_view kRoffComment = ".\\\"";
+
+bool is_end(std::string_view line) { return line == "<!-- end -->" || line == "# end" || line == ".\\\" end"; }
 
 // The indentation of a comment in JSON; none for other lines.
 std::optional<std::string> json_indentation(std::string_view line) {
@@ -74,20 +78,37 @@ Links links_of(const std::string& document) {
   return links;
 }
 
-std::string print(const std::string& part, const Links& links) {
-  if (part == "option index") return print_option_index(links);
-  if (part == "heads") return print_heads();
-  if (part == "targets") return print_targets();
-  if (part == "cable types") return print_cable_types();
-  if (part == "never written") return print_never_written();
-  if (part == "not read back") return print_not_read_back();
-  if (part == "all words") return print_dictionary();
-  if (part == "table") return print_finding_table();
-  if (part == "errors") return print_errors();
-  if (part == "descriptions") return print_finding_descriptions();
+std::optional<markdown::Table> table_of(const std::string& part, const Links& links) {
+  if (part == "option index") return option_index_table(links);
+  if (part == "heads") return head_table();
+  if (part == "targets") return target_table();
+  if (part == "cable types") return cable_type_table();
+  if (part == "never written") return never_written_table();
+  if (part == "not read back") return not_read_back_table();
+  if (part == "table") return finding_table();
+  if (part == "errors") return error_table();
   const std::vector<const Option*> options = options_of(part);
-  if (options.empty()) throw std::runtime_error("there is no part of this name: " + part);
-  return options.front()->takes == Option::Takes::pairs ? print_keywords(*options.front()) : print_options(options);
+  if (options.empty()) return std::nullopt;
+  return options.front()->takes == Option::Takes::pairs ? keyword_table(*options.front()) : option_table(options);
+}
+
+// What follows the word in front, in "synopsis cable format".
+std::optional<std::string> behind(std::string_view word, const std::string& part) {
+  if (!part.starts_with(word)) return std::nullopt;
+  return part.substr(word.size());
+}
+
+std::string print(const std::string& part, const Links& links, bool roff) {
+  if (part == "all words") return print_dictionary();
+  if (part == "descriptions") return print_finding_descriptions();
+  if (part == "codes") return print_finding_codes();
+  if (part == "commands") return print_commands();
+  if (part == "keys") return print_keys();
+  if (const auto command = behind("synopsis ", part)) return print_synopsis(*command);
+  if (const auto command = behind("options ", part)) return print_parameters(*command);
+  const std::optional<markdown::Table> table = table_of(part, links);
+  if (!table) throw std::runtime_error("there is no part of this name: " + part);
+  return roff ? roff::list(*table) : markdown::table(*table);
 }
 
 }  // namespace
@@ -101,7 +122,7 @@ std::string with_parts(const std::string& document) {
     const std::optional<std::string> part = part_of(line);
     if (!part) continue;
     const std::optional<std::string> indentation = json_indentation(line);
-    text += indentation ? print_schema_part(*part, *indentation) : print(*part, links);
+    text += indentation ? print_schema_part(*part, *indentation) : print(*part, links, line.starts_with(kRoffComment));
     // A part of JSON ends with its own last line.
     const auto ends = [&] {
       return indentation ? line == *indentation + ']' || line == *indentation + '}' : is_end(line);

@@ -18,6 +18,7 @@ namespace {
 using markdown::code;
 using markdown::joined;
 using markdown::Row;
+using markdown::Table;
 
 const char* yes_or_no(bool yes) { return yes ? "yes" : "no"; }
 
@@ -187,7 +188,7 @@ std::vector<Row> reasons(Reason reason) {
 
 // --- Options and keywords ---
 
-std::string print_option_index(const Links& links) {
+Table option_index_table(const Links& links) {
   constexpr const Run* kColumns[] = {&kGeneralOptions, &kOdmOptions, &kDccOptions, &kQmtcOptions, &kPpcSimOptions};
   const unsigned inFiles = runs_in_files();
   Row head = {"option", "for", "in a file"};
@@ -206,39 +207,38 @@ std::string print_option_index(const Links& links) {
     rows.push_back(std::move(row));
   }
   std::ranges::stable_sort(rows, {}, [](const Row& row) { return row.front(); });
-  return markdown::table(head, rows);
+  return {head, rows};
 }
 
-std::string print_keywords(const Option& option) {
+Table keyword_table(const Option& option) {
   std::vector<Row> rows;
   for (const Keyword& row : rows_of(option)) {
     rows.push_back({code(row.name), value_of(row), default_of(row), written(row)});
   }
-  return markdown::table({"keyword", "value", "default", "written"}, rows);
+  return {{"keyword", "value", "default", "written"}, rows};
 }
 
-std::string print_options(const std::vector<const Option*>& described) {
+Table option_table(const std::vector<const Option*>& described) {
   std::vector<Row> rows;
   for (const Option* const option : described) {
     const Keyword& row = rows_of(*option).front();
     rows.push_back({code(option->name), value_of(row), default_of(row), without_value(*option), written(row)});
   }
-  return markdown::table({"option", "value", "default", "without a value", "written"}, rows);
+  return {{"option", "value", "default", "without a value", "written"}, rows};
 }
 
-std::string print_never_written() {
-  return markdown::table({"where", "what", "because"}, reasons([](const Keyword& row) {
-                           return row.written.holds == nullptr ? row.written.words : "";
-                         }));
+Table never_written_table() {
+  return {{"where", "what", "because"},
+          reasons([](const Keyword& row) { return row.written.holds == nullptr ? row.written.words : ""; })};
 }
 
-std::string print_not_read_back() {
-  return markdown::table({"where", "what", "because"}, reasons([](const Keyword& row) { return row.notReadBack; }));
+Table not_read_back_table() {
+  return {{"where", "what", "because"}, reasons([](const Keyword& row) { return row.notReadBack; })};
 }
 
 // --- Heads and targets ---
 
-std::string print_heads() {
+Table head_table() {
   std::vector<Row> rows;
   for (const Head& head : heads()) {
     const auto following = [&](const Target& target) {
@@ -247,10 +247,10 @@ std::string print_heads() {
     rows.push_back(
         {code(head.name), yes_or_no(head.inFile), "yes", yes_or_no(head.written), listed(targets(), following)});
   }
-  return markdown::table({"head", "in a file", "in a command", "written", "targets that may follow"}, rows);
+  return {{"head", "in a file", "in a command", "written", "targets that may follow"}, rows};
 }
 
-std::string print_targets() {
+Table target_table() {
   std::vector<Row> rows;
   const auto add = [&](const Target& target, const std::string& connection, const Run& run) {
     const auto head = std::ranges::find(heads(), target.virtualPlatform, &Head::virtualPlatform);
@@ -263,12 +263,12 @@ std::string print_targets() {
     }
     if (target.options != nullptr) add(target, "", *target.options);
   }
-  return markdown::table({"target", "for", "connection", "in a file", "in a command", "options"}, rows);
+  return {{"target", "for", "connection", "in a file", "in a command", "options"}, rows};
 }
 
 // --- Cables ---
 
-std::string print_cable_types() {
+Table cable_type_table() {
   std::vector<Row> rows;
   for (const CableType& type : cable_types()) {
     const std::string names = listed(type.names, [](const Name& name) { return code(name); });
@@ -280,7 +280,7 @@ std::string print_cable_types() {
     rows.push_back({names, port, std::to_string(type.defaultFrequency), accepted,
                     all ? "all of these" : frequencies(type.offered), write});
   }
-  return markdown::table({"type", "default port", "default Hz", "accepted Hz", "offered Hz", "written"}, rows);
+  return {{"type", "default port", "default Hz", "accepted Hz", "offered Hz", "written"}, rows};
 }
 
 // --- Dictionary ---

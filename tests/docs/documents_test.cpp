@@ -20,6 +20,7 @@
 #include "options/syntax.h"
 #include "tests/support/Blocks.h"
 #include "tests/support/SelectedEngine.h"
+#include "tools/qvtcfg/description.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -80,9 +81,75 @@ TEST(Documents, PrintTheKindsOfFindings) {
   EXPECT_NE(text.find("\nThere are no comments in an option file. "), text.npos);
 }
 
+TEST(Documents, PrintListsInManPages) {
+  EXPECT_EQ(with_parts(".\\\" printed from the syntax: `ov sim`: -memsize\n"
+                       ".\\\" end\n"),
+            ".\\\" printed from the syntax: `ov sim`: -memsize\n"
+            ".Bl -tag -width Ds\n"
+            ".It \\fB\\-memsize\\fR\n"
+            "Number: memory.\n"
+            "Default: 16.\n"
+            "Without a value: error; an option in its place is its value.\n"
+            "Written: no: \\fBov sim\\fR is written alone.\n"
+            ".El\n"
+            ".\\\" end\n");
+}
+
+TEST(Documents, PrintTheCommandLine) {
+  EXPECT_EQ(with_parts(".\\\" printed from the command line: synopsis unset\n.\\\" end\n"),
+            ".\\\" printed from the command line: synopsis unset\n"
+            ".Sh NAME\n"
+            ".Nm qvtcfg-unset\n"
+            ".Nd put settings of a processor back to their defaults\n"
+            ".Sh SYNOPSIS\n"
+            ".Nm qvtcfg\n"
+            ".Op Fl C Ar DIR\n"
+            ".Op Fl \\-design Ar FILE\n"
+            ".Op Fl \\-json\n"
+            ".Cm unset\n"
+            ".Op Ar PROC ...\n"
+            ".Ar NAME ...\n"
+            ".Op Fl \\-all\n"
+            ".Op Fl \\-force\n"
+            ".Op Fl \\-dry-run Op Fl \\-exit-code\n"
+            ".\\\" end\n");
+  const std::string text = with_parts(
+      ".\\\" printed from the command line: options check\n.\\\" end\n"
+      ".\\\" printed from the settings: keys\n.\\\" end\n");
+  EXPECT_NE(text.find("\n.It Fl \\-explain Op Ar CODE\nExplain the findings with this code; all codes without it.\n"),
+            text.npos);
+  EXPECT_NE(text.find("\nOnly with\n.Fl \\-fix .\n"), text.npos);
+  EXPECT_NE(text.find("\n.It Cm frequency= Ns Ar FREQUENCY\nJTAG clock of the cable.\nIn Hz.\n"), text.npos);
+}
+
+TEST(Documents, HaveAManPageForEveryCommand) {
+  for (const qvtcfg::CommandDescription& command : qvtcfg::describe().commands) {
+    const std::string page = "docs/man/qvtcfg-" + command.name + ".1";
+    EXPECT_TRUE(std::ranges::find(kDocuments, page) != std::end(kDocuments)) << page;
+    const std::string text = content(page);
+    EXPECT_NE(text.find(" printed from the command line: synopsis " + command.name + '\n'), text.npos) << page;
+    const auto expect_options = [&](const qvtcfg::CommandDescription& c) {
+      const bool none = c.arguments.empty() && c.options.size() == 1;  // --help
+      EXPECT_NE(none, text.find(" printed from the command line: options " + c.name + '\n') != text.npos) << page;
+    };
+    if (command.commands.empty()) expect_options(command);
+    std::ranges::for_each(command.commands, expect_options);
+  }
+}
+
+TEST(Documents, DescribeEveryOptionInTheManPageOfTheFile) {
+  const std::string text = content("docs/man/qvt_option_file.5");
+  for (const Option& option : options()) {
+    const std::string name = "\\-" + std::string(option.name.text().substr(1));
+    EXPECT_TRUE(text.find("\n.It \\fB" + name + "\\fR\n") != text.npos ||
+                text.find("\n.Ss " + name + '\n') != text.npos || text.find("\n.Cm " + name + "\n") != text.npos)
+        << name;
+  }
+}
+
 TEST(Documents, RefuseAPartThatThereIsNot) {
-  for (const char* const part :
-       {"foo\n# end\n", "heads\n", "nowhere: -cable\n# end\n", "general: -foo\n# end\n", "option index\n# end\n"}) {
+  for (const char* const part : {"foo\n# end\n", "synopsis foo\n# end\n", "heads\n", "nowhere: -cable\n# end\n",
+                                 "general: -foo\n# end\n", "option index\n# end\n"}) {
     EXPECT_THROW(with_parts(std::string("# printed from the syntax: ") + part), std::runtime_error) << part;
   }
 }

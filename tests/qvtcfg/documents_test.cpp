@@ -54,7 +54,7 @@ std::vector<Step> session_in(const std::vector<Block>& blocks) {
   return steps;
 }
 
-class DocumentedSessions : public Tool, public testing::WithParamInterface<const char*> {
+class DocumentedSessions : public Tool, public testing::WithParamInterface<std::string> {
  protected:
   // Sessions begin in the folder of the project, with a build in build/release.
   void link_project() const {
@@ -130,6 +130,29 @@ TEST_P(DocumentedSessions, PrintWhatIsShown) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, DocumentedSessions, testing::ValuesIn(kSessions));
+INSTANTIATE_TEST_SUITE_P(ManPages, DocumentedSessions, testing::ValuesIn(man_pages()));
+
+// --- Man pages ---
+
+class ManPages : public Tool, public testing::WithParamInterface<std::string> {
+ protected:
+  // What the command prints about the page, but for the page itself.
+  std::string complaints(const std::string& command) const {
+    return shell(command + " '" PROJECT_SOURCE_DIR "/" + GetParam() + "'").err;
+  }
+};
+
+TEST_P(ManPages, AreCleanForMandoc) {
+  if (shell("command -v mandoc").code != 0) GTEST_SKIP() << "there is no mandoc";
+  EXPECT_EQ(complaints(">&2 mandoc -T lint -W warning"), "");
+}
+
+TEST_P(ManPages, AreCleanForGroff) {
+  if (shell("man --version && groff --version").code != 0) GTEST_SKIP() << "there is no man, or no groff";
+  EXPECT_EQ(complaints("LC_ALL=C.UTF-8 MANROFFSEQ= MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z"), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ManPages, testing::ValuesIn(man_pages()));
 
 // --- Editors ---
 

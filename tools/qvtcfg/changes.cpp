@@ -170,15 +170,23 @@ std::vector<std::string> apply_changes(const std::vector<GivenChange>& changes, 
   return warnings;
 }
 
-std::string keys_help() {
+std::vector<Key> keys() {
   const Configuration any;
-  std::string text = "Keys:\n";
+  std::vector<Key> keys;
   for (const Setting& setting : settings()) {
     if (setting.readOnly) continue;
-    text += "  " + padded(std::string(setting.name) + "=" + takes(setting), 32) + std::string(setting.meaning);
+    std::string about(setting.meaning);
     const std::vector<std::string> choices = any.state(setting).choices;
-    if (setting.kind == SettingKind::word && choices.size() > 1) text += " One of " + join(choices) + ".";
-    text += "\n";
+    if (setting.kind == SettingKind::word && choices.size() > 1) about += " One of " + join(choices) + ".";
+    keys.push_back({&setting, takes(setting), std::move(about)});
+  }
+  return keys;
+}
+
+std::string keys_help() {
+  std::string text = "Keys:\n";
+  for (const Key& key : keys()) {
+    text += "  " + padded(std::string(key.setting->name) + "=" + key.takes, 32) + key.about + "\n";
   }
   return text +
          "KEY= puts back the default, and devices+=LIST appends devices. Numbers are decimal, or hexadecimal with 0x;\n"

@@ -26,7 +26,15 @@ std::vector<GivenChange> parse_defaults(const std::vector<std::string>& names);
 std::vector<std::string> apply_changes(const std::vector<GivenChange>& changes,
                                        SdkDebugDialog::Configuration& configuration, const std::string& subject);
 
-// Help text: one line per key with what it takes and its meaning.
+// What `qvtcfg set` can set.
+struct Key {
+  const SdkDebugDialog::Setting* setting;
+  std::string takes;  // such as "ADDRESS"
+  std::string about;  // its meaning, and the words that it takes
+};
+std::vector<Key> keys();
+
+// Help text: one line per key.
 std::string keys_help();
 
 }  // namespace qvtcfg
