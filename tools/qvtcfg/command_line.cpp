@@ -167,8 +167,9 @@ void take_cable_format(CLI::App& app, Arguments& a) {
 std::string program_help() {
   return "Exit codes: 0 done, 1 refused, 2 usage, 3 text not understood, 4 file,\n"
          "5 diff found a difference, or --dry-run --exit-code that something would change\n\n"
-         "A design is a JSON file: docs/design-file.md describes it, and the schema design-file.schema.json is\n"
-         "installed in share/SdkDebugDialog.";
+         "A design is a JSON file: docs/design-file.md and 'man qvt_design' describe it, and the schema\n"
+         "design-file.schema.json is installed in share/SdkDebugDialog. Every command has a man page:\n"
+         "'man qvtcfg-set'.";
 }
 
 std::string check_help() {

@@ -36,7 +36,7 @@ _qvtcfg() {
     fi
     # The line asks for names of files or folders, in a folder if it names one.
     IFS=$'\t' read -r about folder <<<"${word#?}"
-    [[ $about == folders ]] && action=directory || action=file
+    [[ $about == folders ]] && action='directory' || action='file'
     compopt -o filenames
     while IFS= read -r word; do
       # Bash itself knows the folders in the current one.
