@@ -67,7 +67,7 @@ std::string list(const markdown::Table& table) {
       const std::string& head = table.head[column];
       if (cell.empty()) continue;
       const bool speaks = (head == "value" && cell != "none") || head == "for" || head == "because";
-      items += lines(sentence(speaks ? cell : head + ": " + cell));
+      items += lines(sentence(speaks ? cell : std::string(head).append(": ").append(cell)));
     }
   }
   return list(items);
