@@ -20,7 +20,7 @@ using Lines = std::vector<std::string>;
 
 std::string quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
 
-std::string reference(std::string_view definition) { return R"({"$ref": "#/$defs/)" + std::string(definition) + "\"}"; }
+std::string reference(std::string_view definition) { return R"({"$ref": "#/definitions/)" + std::string(definition) + "\"}"; }
 
 // A member whose value is an array or an object; the content has the lines of one element each.
 std::string member(std::string_view name, char open, const Lines& elements, char close,
@@ -119,7 +119,7 @@ Lines values_of_settings() {
 
 // A setting as the definition has it, with values of its own.
 std::string setting_member(const Setting& setting, const std::string& definition, const std::string& indentation) {
-  const std::string own = reference("values/$defs/" + std::string(setting.name));
+  const std::string own = reference("values/definitions/" + std::string(setting.name));
   Lines parts = {reference(definition), R"({"properties": {"value": )" + own + "}}"};
   if (definition == "explainedSetting") parts.push_back(R"({"properties": {"default": )" + own + "}}");
   return object(setting.name, {member("allOf", '[', parts, ']', indentation + "  ")}, indentation);
@@ -153,7 +153,7 @@ std::string print_schema_part(const std::string& part, const std::string& indent
   if (part == "subcommands") return enumeration(subcommands(), indentation) + '\n';
   if (part == "error codes") return enumeration(error_codes(), indentation) + '\n';
   if (part == "exit codes of errors") return enumeration(exit_codes(), indentation) + '\n';
-  if (part == "values of settings") return object("$defs", values_of_settings(), indentation) + '\n';
+  if (part == "values of settings") return object("definitions", values_of_settings(), indentation) + '\n';
   if (part == "groups of setting") return groups_of("setting", indentation) + '\n';
   if (part == "groups of explainedSetting") return groups_of("explainedSetting", indentation) + '\n';
   throw std::runtime_error("there is no part of this name: " + part);

@@ -24,10 +24,10 @@ TEST_F(Cables, AreListedAsJson) {
   const auto cables = json({"cables"})["cables"];
   ASSERT_EQ(cables.size(), 8U);
   EXPECT_EQ(cables[4],
-            nlohmann::json::parse(R"({"type": 4, "name": "zarvek_parallel3", "written": true, "frequency": 200000,
-                                                 "port": "LPT1", "frequencies": [200000]})"));
-  EXPECT_EQ(cables[7], nlohmann::json::parse(R"({"type": 7, "name": "zarvek_tcf", "written": false, "frequency": null,
-                                                 "port": null, "frequencies": []})"));
+            nlohmann::json::parse(R"({"cable": "zarvek_parallel3", "type": 4, "written": true, "frequency": 200000,
+                                                 "port": "LPT1", "frequencies": [200000], "unit": "Hz"})"));
+  EXPECT_EQ(cables[7], nlohmann::json::parse(R"({"cable": "zarvek_tcf", "type": 7, "written": false, "frequency": null,
+                                                 "port": null, "frequencies": [], "unit": "Hz"})"));
 }
 
 TEST_F(Cables, NeedNoDesign) {

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "answers.h"
 #include "tool.h"
 
 namespace {
@@ -31,8 +32,8 @@ class Check : public Tool {
   std::vector<std::string> files(std::vector<std::string> arguments) const {
     arguments.insert(arguments.begin(), {"check", "--format=json"});
     std::vector<std::string> names;
-    const auto answer = nlohmann::json::parse(qvtcfg(arguments).out);
-    for (const auto& file : answer["files"]) names.push_back(file["file"]);
+    const auto found = result_of(qvtcfg(arguments).out);
+    for (const auto& file : found["files"]) names.push_back(file["file"].is_null() ? "-" : file["file"]);
     return names;
   }
   std::string without_design(std::vector<std::string> arguments) const {
@@ -212,7 +213,7 @@ TEST_F(Check, ReadsSixteenMegabytesOfAFile) {
   write_option_file("ovrin_0", std::string(kClean) + "\n");
   fs::resize_file(folder() / "etc/qvt_ovrin_0.opt", (16 << 20) + 1);
   EXPECT_THAT(qvtcfg({"check"}).out, HasSubstr("etc/qvt_ovrin_0.opt: note: the file is larger than 16 MiB: "));
-  EXPECT_EQ(nlohmann::json::parse(qvtcfg({"check", "--json"}).out)["files"][0]["truncated"], true);
+  EXPECT_EQ(result_of(qvtcfg({"check", "--json"}).out)["files"][0]["truncated"], true);
   fs::resize_file(folder() / "etc/qvt_ovrin_0.opt", 16 << 20);
   EXPECT_THAT(qvtcfg({"check"}).out, Not(HasSubstr("is larger")));
 }
@@ -303,8 +304,7 @@ TEST_F(CheckFormats, JsonHasPlacesFixesAndTotals) {
   const Result result = qvtcfg({"--json", "check"});
   EXPECT_EQ(result.code, 3);
   EXPECT_EQ(result.out, qvtcfg({"check", "--format=json"}).out);
-  const auto answer = nlohmann::json::parse(result.out);
-  EXPECT_EQ(answer["formatVersion"], 1);
+  const auto answer = result_of(result.out);
   const auto& file = answer["files"][0];
   EXPECT_EQ(file["file"], "etc/qvt_ovrin_0.opt");
   EXPECT_EQ(file["processor"], "ovrin_0");
@@ -313,10 +313,11 @@ TEST_F(CheckFormats, JsonHasPlacesFixesAndTotals) {
   EXPECT_TRUE(file["error"].is_null());
   const auto expected = nlohmann::json::parse(R"([{
       "code": "unknown-option", "severity": "error",
-      "line": 2, "column": 16, "endLine": 2, "endColumn": 22, "begin": 16, "end": 22,
+      "place": {"line": 2, "column": 16, "endLine": 2, "endColumn": 22, "offset": 16, "length": 6},
       "message": "no option '-cabel'", "remedy": "did you mean '-cable'?", "remarks": [],
       "fixes": [{"title": "write '-cable'", "safe": true, "replacements": [
-          {"line": 2, "column": 16, "endLine": 2, "endColumn": 22, "begin": 16, "end": 22, "text": "-cable"}]}]}])");
+          {"place": {"line": 2, "column": 16, "endLine": 2, "endColumn": 22, "offset": 16, "length": 6},
+           "text": "-cable"}]}]}])");
   EXPECT_EQ(file["findings"], expected);
   const auto totals = nlohmann::json::parse(R"({"files": 1, "errors": 1, "warnings": 0, "notes": 0,
       "filesWithFindings": 1, "fixable": 1, "fixed": 0, "notChecked": 0})");
@@ -327,7 +328,7 @@ TEST_F(CheckFormats, JsonTellsWhatCannotBeRead) {
   fs::create_directory(folder() / "etc/qvt_ovrin_1.opt");
   const Result result = qvtcfg({"check", "--json"});
   EXPECT_EQ(result.code, 4);
-  const auto answer = nlohmann::json::parse(result.out);
+  const auto answer = result_of(result.out);
   EXPECT_EQ(answer["files"][0]["error"], "is a directory");
   EXPECT_EQ(answer["totals"]["notChecked"], 1);
 }
@@ -439,7 +440,7 @@ TEST_F(CheckExplains, AFindingWithAnExample) {
   EXPECT_THAT(result.out, StartsWith("unknown-option (error): "));
   EXPECT_THAT(result.out, HasSubstr("\nexample:1:"));
   EXPECT_THAT(result.out, HasSubstr(" [unknown-option]\n   1 | connect "));
-  EXPECT_EQ(json({"check", "--explain=unknown-option"})["code"], "unknown-option");
+  EXPECT_EQ(json({"check", "--explain=unknown-option"})["kinds"][0]["code"], "unknown-option");
 }
 
 TEST_F(CheckExplains, AFindingThatTakesMoreThanAText) {
@@ -459,7 +460,7 @@ TEST_F(CheckExplains, AllFindingsInATable) {
     EXPECT_THAT(result.out, HasSubstr("\nunknown-option "));
     EXPECT_THAT(result.out, HasSubstr("\nshared-cable-chain "));
   }
-  EXPECT_GT(json({"check", "--explain=all"})["findings"].size(), 50U);
+  EXPECT_GT(json({"check", "--explain=all"})["kinds"].size(), 50U);
 }
 
 TEST_F(CheckExplains, TheNearestCodeOfAnUnknownOne) {

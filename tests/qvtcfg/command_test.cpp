@@ -21,7 +21,8 @@ TEST_F(Command, IsWhatTheLibraryWouldWriteForTheOptionFile) {
   EXPECT_EQ(qvtcfg({"command", "ovrin_0"}).out,
             "connect ov odm -cable type zarvek_parallel port LPT1 frequency 0 -debugdevice deviceNr 2 cpunr 1\n");
   EXPECT_EQ(json({"command", "ovrin_0"}),
-            nlohmann::json::parse(R"({"processor": "ovrin_0", "command": "connect ov odm -cable type zarvek_parallel )"
+            nlohmann::json::parse(R"({"processor": "ovrin_0", "file": "etc/qvt_ovrin_0.opt", )"
+                                  R"("command": "connect ov odm -cable type zarvek_parallel )"
                                   R"(port LPT1 frequency 0 -debugdevice deviceNr 2 cpunr 1"})"));
 }
 
@@ -79,8 +80,8 @@ TEST_F(Read, TakesStandardInputForADash) {
 TEST_F(Read, AnswersInJsonWithTheFileOnlyWhenItWasStored) {
   const auto shown = json({"read", "ovrin_0", "connect ov sim"});
   EXPECT_TRUE(shown["file"].is_null());
-  EXPECT_EQ(shown["settings"]["connection"]["connection"],
-            nlohmann::json::parse(R"({"value": "simulator", "default": false})"));
+  EXPECT_EQ(shown["settings"]["connection"]["connection"]["value"], "simulator");
+  EXPECT_EQ(shown["settings"]["connection"]["connection"]["changed"], true);
   EXPECT_EQ(json({"read", "ovrin_0", "connect ov sim", "--write"})["file"], "etc/qvt_ovrin_0.opt");
 }
 
@@ -94,7 +95,7 @@ TEST_F(Read, StoresTheOptionFileOnDemandWhateverWasInIt) {
 
 TEST_F(Read, TakesTargetsThatAnOptionFileCannotHave) {
   const auto settings = json({"read", "ovrin_0", "connect odm -uart -bscan USER1"})["settings"];
-  EXPECT_EQ(settings["identity"]["connections"], nlohmann::json::parse(R"(["odm-target"])"));
+  EXPECT_EQ(settings["identity"]["connections"]["value"], nlohmann::json::parse(R"(["odm-target"])"));
   EXPECT_EQ(settings["debug-device"]["uart"]["value"], true);
   EXPECT_EQ(settings["debug-device"]["bscan"]["value"], "USER1");
 }

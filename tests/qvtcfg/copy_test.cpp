@@ -1,5 +1,6 @@
 // The subcommands "copy" and "diff".
 
+#include "answers.h"
 #include "tool.h"
 
 namespace {
@@ -34,7 +35,7 @@ TEST_F(Copy, ListsWhatAProcessorDoesNotTake) {
   EXPECT_EQ(result.code, 0) << result.err;
   EXPECT_THAT(result.out, HasSubstr("nothing changes\nnot taken: connection stub: "));
   EXPECT_THAT(result.out, HasSubstr("\nnot taken: stub-port COM2: "));
-  EXPECT_EQ(json({"copy", "ovrin_0", "ovrin_1"})["notTaken"][0]["setting"], "connection");
+  EXPECT_EQ(json({"copy", "ovrin_0", "ovrin_1"})["processors"][0]["notTaken"][0]["setting"], "connection");
   EXPECT_FALSE(exists("etc/qvt_ovrin_1.opt"));
 }
 
@@ -92,8 +93,17 @@ TEST_F(Diff, AnswersInJson) {
   write_option_file("ovrin_0", "connect ov odm -debugdevice deviceNr 2");
   const Result result = qvtcfg({"--json", "diff", "ovrin_0", "connect ov odm"});
   EXPECT_EQ(result.code, 5);
-  EXPECT_EQ(nlohmann::json::parse(result.out), nlohmann::json::parse(R"({"from": "ovrin_0", "to": "the command given",
-                                      "differences": [{"setting": "debug-device", "before": 2, "after": 0}]})"));
+  EXPECT_EQ(result_of(result.out), nlohmann::json::parse(R"({
+      "from": {"processor": "ovrin_0", "file": "etc/qvt_ovrin_0.opt",
+               "command": "connect ov odm -debugdevice deviceNr 2"},
+      "to": {"processor": "ovrin_0", "file": null, "command": "connect ov odm"},
+      "differences": [{"setting": "debug-device", "unit": null, "before": 2, "after": 0}]})"));
+}
+
+TEST_F(Diff, NamesNoFileForTheDefaultsInJson) {
+  EXPECT_EQ(json({"diff", "ovrin_0"}), nlohmann::json::parse(R"({
+      "from": {"processor": "ovrin_0", "file": null, "command": null},
+      "to": {"processor": "ovrin_0", "file": null, "command": null}, "differences": []})"));
 }
 
 TEST_F(Diff, NamesTheNearestProcessor) {

@@ -24,10 +24,11 @@ TEST_F(Processors, AreListedInDesignOrderDebuggableOrNot) {
 TEST_F(Processors, AreListedAsJson) {
   const auto processors = json({"processors"})["processors"];
   ASSERT_EQ(processors.size(), 9U);
-  EXPECT_EQ(processors[1], nlohmann::json::parse(R"({"name": "ppc440_0", "debuggable": true, "family": "ppc",
+  EXPECT_EQ(processors[1], nlohmann::json::parse(R"({"processor": "ppc440_0", "debuggable": true, "family": "ppc",
       "variant": "ppc440", "cpu": 2, "fpu": "dp", "connections": ["simulator", "hardware"]})"));
   EXPECT_EQ(processors[4]["connections"], nlohmann::json::parse(R"(["simulator", "hardware", "stub", "stub-uart"])"));
-  EXPECT_EQ(processors[8], nlohmann::json::parse(R"({"name": "vecdsp_0", "debuggable": false})"));
+  EXPECT_EQ(processors[8], nlohmann::json::parse(R"({"processor": "vecdsp_0", "debuggable": false, "family": null,
+      "variant": null, "cpu": null, "fpu": null, "connections": null})"));
 }
 
 TEST_F(Processors, AreListedWithoutReadingOptionFiles) {

@@ -1,5 +1,6 @@
 // "read" without a processor, and with every target.
 
+#include "answers.h"
 #include "tool.h"
 
 namespace {
@@ -9,8 +10,10 @@ using testing::StartsWith;
 
 class Targets : public Tool {
  protected:
-  // Only the settings that a command changes.
-  nlohmann::json settings(const char* command) const { return json({"read", command, "--changed"})["settings"]; }
+  // The values of the settings that a command changes.
+  nlohmann::json settings(const char* command) const {
+    return values_in(json({"read", command, "--changed"})["settings"]);
+  }
 };
 
 class WithoutDesign : public Tool {
@@ -21,12 +24,6 @@ class WithoutDesign : public Tool {
 using ReadAlone = Tool;
 using ReadWithoutDesign = WithoutDesign;
 using Changed = Tool;
-
-nlohmann::json changed(const nlohmann::json& value) { return {{"value", value}, {"default", false}}; }
-
-nlohmann::json unused(const nlohmann::json& value) {
-  return {{"value", value}, {"default", false}, {"applies", false}, {"whyNot", "the cable has no such setting"}};
-}
 
 TEST_F(ReadAlone, FindsTheProcessorByFamilyAndNumber) {
   const Result result = qvtcfg({"read", "connect ppc hw -debugdevice cpunr 2 deviceNr 3 fpuType sp", "--changed"});
@@ -59,7 +56,7 @@ TEST_F(ReadAlone, StoresTheOptionFileOfTheProcessorThatItFound) {
   const auto shown = json({"read", "connect ppc hw -debugdevice cpunr 1 isocmStartAdr 0x100 isocmSize 8", "--write"});
   EXPECT_EQ(shown["processor"], "ppc405_0");
   EXPECT_EQ(shown["file"], "etc/qvt_ppc405_0.opt");
-  EXPECT_EQ(shown["settings"]["identity"]["variant"], "ppc405");
+  EXPECT_EQ(shown["settings"]["identity"]["variant"]["value"], "ppc405");
   EXPECT_THAT(read_option_file("ppc405_0"), StartsWith("connect ppc hw -debugdevice cpunr 1 isocmStartAdr 0x100 "));
 }
 
@@ -150,7 +147,8 @@ TEST_F(ReadWithoutDesign, AnswersNullForTheProcessor) {
   const auto shown = json({"read", "connect ppc hw -debugdevice fpuType dp cpunr 7"});
   EXPECT_TRUE(shown["processor"].is_null());
   EXPECT_TRUE(shown["file"].is_null());
-  EXPECT_EQ(shown["settings"]["identity"], nlohmann::json::parse(R"({"name": null, "family": "ppc", "variant": "other",
+  EXPECT_EQ(values_in(shown["settings"])["identity"],
+            nlohmann::json::parse(R"({"name": null, "family": "ppc", "variant": "other",
       "cpu": 7, "connections": ["simulator", "hardware"], "fpu": "dp"})"));
 }
 
@@ -176,69 +174,65 @@ TEST_F(Targets, PowerPcOverHardware) {
       "tlbStartAdr 0x70040000 dcrStartAdr 0x70050000 cpu_version 1.0 odm_version 2.0 nCpu 4");
   EXPECT_EQ(s["identity"]["variant"], "ppc405");
   EXPECT_EQ(s["identity"]["fpu"], "sp");
-  EXPECT_EQ(s["memories"],
-            (nlohmann::json{{"isocm", changed(0x100)}, {"isocm-size", changed(8192)}, {"isocm-dcr", changed(0x10)}}));
-  EXPECT_EQ(s["address-map"], (nlohmann::json{{"address-map", changed(0x70000000)},
-                                              {"icache", changed(0x70000000)},
-                                              {"itag", changed(0x70010000)},
-                                              {"dcache", changed(0x70020000)},
-                                              {"dtag", changed(0x70030000)},
-                                              {"tlb", changed(0x70040000)},
-                                              {"dcr", changed(0x70050000)}}));
-  EXPECT_EQ(
-      s["debug-device"],
-      (nlohmann::json{{"cpu-version", changed("1.0")}, {"odm-version", changed("2.0")}, {"cpu-count", changed(4)}}));
+  EXPECT_EQ(s["memories"], (nlohmann::json{{"isocm", 0x100}, {"isocm-size", 8192}, {"isocm-dcr", 0x10}}));
+  EXPECT_EQ(s["address-map"], (nlohmann::json{{"address-map", 0x70000000},
+                                              {"icache", 0x70000000},
+                                              {"itag", 0x70010000},
+                                              {"dcache", 0x70020000},
+                                              {"dtag", 0x70030000},
+                                              {"tlb", 0x70040000},
+                                              {"dcr", 0x70050000}}));
+  EXPECT_EQ(s["debug-device"], (nlohmann::json{{"cpu-version", "1.0"}, {"odm-version", "2.0"}, {"cpu-count", 4}}));
   EXPECT_EQ(s.size(), 4U);
 }
 
 TEST_F(Targets, PowerPcSimulator) {
   const auto s = settings("connect ppc sim -icf my.icf -ipcport simhost:6471");
-  EXPECT_EQ(s["connection"], (nlohmann::json{{"connection", changed("simulator")}}));
-  EXPECT_EQ(s["simulator"],
-            (nlohmann::json{
-                {"config-file", changed("my.icf")}, {"sim-host", changed("simhost")}, {"sim-port", changed(6471)}}));
+  EXPECT_EQ(s["connection"], (nlohmann::json{{"connection", "simulator"}}));
+  EXPECT_EQ(s["simulator"], (nlohmann::json{{"config-file", "my.icf"}, {"sim-host", "simhost"}, {"sim-port", 6471}}));
   EXPECT_EQ(s.size(), 3U);
 }
 
 TEST_F(Targets, HardwareSimulator) {
   const auto s = settings("connect ov odm -sim -ipcport vsim:-5");
-  EXPECT_EQ(s["hardware-simulator"], (nlohmann::json{{"enabled", changed(true)},
-                                                     {"hardware-simulator-host", changed("vsim")},
-                                                     {"host", changed("vsim")},
-                                                     {"hardware-simulator-port", changed(-5)},
-                                                     {"port", changed(-5)}}));
+  EXPECT_EQ(s["hardware-simulator"],
+            (nlohmann::json{{"enabled", true}, {"hardware-simulator-host", "vsim"}, {"hardware-simulator-port", -5}}));
   EXPECT_EQ(s.size(), 2U);
 }
 
 TEST_F(Targets, VirtualPlatform) {
   const auto s = settings("qvpconnect ov -ipcport host1:-1");
-  EXPECT_EQ(s["connection"], (nlohmann::json{{"connection", changed("virtual-platform")}}));
-  EXPECT_EQ(s["simulator"], (nlohmann::json{{"sim-host", changed("host1")}, {"sim-port", changed(-1)}}));
+  EXPECT_EQ(s["connection"], (nlohmann::json{{"connection", "virtual-platform"}}));
+  EXPECT_EQ(s["simulator"], (nlohmann::json{{"sim-host", "host1"}, {"sim-port", -1}}));
   EXPECT_EQ(s.size(), 3U);
 }
 
 TEST_F(Targets, StubOverASerialLine) {
   const auto s = settings("connect ov stub -comm serial -port COM1 -baud 9600 -timeout 5");
-  EXPECT_EQ(s["stub"], (nlohmann::json{{"stub", changed("serial")},
-                                       {"stub-port", changed("COM1")},
-                                       {"stub-baud", changed(9600)},
-                                       {"stub-timeout", changed(5)}}));
+  EXPECT_EQ(s["stub"],
+            (nlohmann::json{{"stub", "serial"}, {"stub-port", "COM1"}, {"stub-baud", 9600}, {"stub-timeout", 5}}));
 }
 
 TEST_F(Targets, CableWithAllItsSettings) {
   const auto s = settings(
       "connect ov odm -cable type zarvek_plugin modulename m modulearg a esn e url u fname f port p frequency 7 "
       "-debugdevice romemStartAdr 0 romemSize 4");
-  EXPECT_EQ(s["cable"], (nlohmann::json{{"cable", changed("zarvek_plugin")},
-                                        {"frequency", unused(7)},
-                                        {"port", unused("p")},
-                                        {"esn", unused("e")},
-                                        {"svf-file", changed("f")},
-                                        {"svf-file-named", changed(true)},
-                                        {"module", changed("m")},
-                                        {"module-arguments", changed("a")},
-                                        {"url", changed("u")}}));
-  EXPECT_EQ(s["memories"], (nlohmann::json{{"rom", changed(0)}, {"rom-size", changed(4)}}));
+  EXPECT_EQ(s["cable"], (nlohmann::json{{"cable", "zarvek_plugin"},
+                                        {"frequency", 7},
+                                        {"port", "p"},
+                                        {"esn", "e"},
+                                        {"svf-file", "f"},
+                                        {"svf-file-named", true},
+                                        {"module", "m"},
+                                        {"module-arguments", "a"},
+                                        {"url", "u"}}));
+  EXPECT_EQ(s["memories"], (nlohmann::json{{"rom", 0}, {"rom-size", 4}}));
+}
+
+TEST_F(Targets, ToldIsWhatTheCableDoesNotUse) {
+  const auto shown = json({"read", "connect ov odm -cable type zarvek_plugin modulename m url u fname f frequency 7"});
+  EXPECT_EQ(shown["settings"]["cable"]["frequency"], nlohmann::json::parse(R"({"value": 7, "unit": "Hz",
+      "changed": true, "applies": false, "changeable": false, "whyNot": "the cable has no such setting"})"));
 }
 
 TEST_F(Targets, ThatTellWhatTheProcessorIs) {
@@ -266,8 +260,8 @@ TEST_F(Targets, ThatTellWhatTheProcessorIs) {
 
 TEST_F(Targets, WithTheDebugModulesOwnSettings) {
   EXPECT_EQ(settings("connect odm -uart -bscan USER4")["debug-device"],
-            (nlohmann::json{{"bscan", changed("USER4")}, {"uart", changed(true)}}));
-  EXPECT_EQ(settings("connect dcc -uart")["debug-device"], (nlohmann::json{{"uart", changed(true)}}));
+            (nlohmann::json{{"bscan", "USER4"}, {"uart", true}}));
+  EXPECT_EQ(settings("connect dcc -uart")["debug-device"], (nlohmann::json{{"uart", true}}));
 }
 
 // --- --changed ---
@@ -290,9 +284,9 @@ TEST_F(Changed, ShowsNothingButTheIdentityOfTheDefaults) {
 
 TEST_F(Changed, LeavesOutDefaultsAndEmptyGroups) {
   write_option_file("ovrin_0", "connect ov odm -cable type digilent_plugin -debugdevice deviceNr 2");
-  const auto settings = json({"show", "ovrin_0", "--changed"})["settings"];
-  EXPECT_EQ(settings["debug-device"], (nlohmann::json{{"debug-device", changed(2)}}));
-  EXPECT_EQ(settings["cable"], (nlohmann::json{{"cable", changed("digilent_plugin")}}));
+  const auto settings = values_in(json({"show", "ovrin_0", "--changed"})["settings"]);
+  EXPECT_EQ(settings["debug-device"], (nlohmann::json{{"debug-device", 2}}));
+  EXPECT_EQ(settings["cable"], (nlohmann::json{{"cable", "digilent_plugin"}}));
   EXPECT_EQ(settings.size(), 3U);
 }
 

@@ -1,5 +1,6 @@
 // How the commands refuse a text: every error with its place, and what the engine says.
 
+#include "answers.h"
 #include "tool.h"
 
 namespace {
@@ -73,7 +74,7 @@ TEST_F(Refusals, ShowTenErrors) {
   const std::string err = qvtcfg({"read", text(12)}).err;
   EXPECT_THAT(err, AllOf(HasSubstr("no option '-foo9'"), Not(HasSubstr("no option '-foo10'"))));
   EXPECT_THAT(err, HasSubstr("\n  ... and 2 more; 'qvtcfg check' shows all\n"));
-  EXPECT_EQ(nlohmann::json::parse(qvtcfg({"--json", "read", text(12)}).out)["error"]["findings"].size(), 12U);
+  EXPECT_EQ(error_of(qvtcfg({"--json", "read", text(12)}).out)["findings"].size(), 12U);
 }
 
 TEST_F(Refusals, EndWithWhatTheEngineSays) {
@@ -86,12 +87,13 @@ TEST_F(Refusals, OfAProcessorTakeItsDesignIntoAccount) {
 }
 
 TEST_F(Refusals, InJsonHaveTheErrors) {
-  const auto answer = nlohmann::json::parse(qvtcfg({"--json", "show", "ovrin_0"}).out);
-  const auto& findings = answer["error"]["findings"];
+  const auto error = error_of(qvtcfg({"--json", "show", "ovrin_0"}).out);
+  EXPECT_EQ(error["file"], "etc/qvt_ovrin_0.opt");
+  const auto& findings = error["findings"];
   ASSERT_EQ(findings.size(), 2U);
   EXPECT_EQ(findings[0]["code"], "unknown-option");
-  EXPECT_EQ(findings[1]["column"], 47);
-  EXPECT_FALSE(nlohmann::json::parse(qvtcfg({"--json", "show", "ovrin_9"}).out)["error"].contains("findings"));
+  EXPECT_EQ(findings[1]["place"]["column"], 47);
+  EXPECT_EQ(error_of(qvtcfg({"--json", "show", "ovrin_9"}).out)["findings"], nlohmann::json::array());
 }
 
 TEST_F(Refusals, UseColoursOnATerminal) {

@@ -1,10 +1,17 @@
 #include <chrono>
 
+#include "answers.h"
 #include "tool.h"
 
 namespace {
 
 using testing::HasSubstr;
+
+// The command that the only processor of the result has after the change.
+nlohmann::json after(const nlohmann::json& result) {
+  EXPECT_EQ(result["processors"].size(), 1U);
+  return result["processors"][0]["after"];
+}
 
 using Set = Tool;
 
@@ -63,32 +70,35 @@ TEST_F(Set, SaysWhenNothingChanges) {
 }
 
 TEST_F(Set, AnswersInJson) {
-  EXPECT_EQ(json({"set", "ovrin_0", "debug-device=3"}),
-            nlohmann::json::parse(R"({"processor": "ovrin_0", "file": "etc/qvt_ovrin_0.opt", "old": null,
-                                      "new": "connect ov odm -debugdevice deviceNr 3 cpunr 1", "dryRun": false,
-                                      "changes": true, "losses": [], "differences": [
-                                        {"setting": "debug-device", "before": 0, "after": 3, "follows": false}]})"));
+  EXPECT_EQ(json({"set", "ovrin_0", "debug-device=3"}), nlohmann::json::parse(R"({
+      "dryRun": false,
+      "processors": [{"processor": "ovrin_0", "file": "etc/qvt_ovrin_0.opt", "before": null,
+                      "after": "connect ov odm -debugdevice deviceNr 3 cpunr 1", "changes": true,
+                      "differences": [{"setting": "debug-device", "unit": null, "before": 0, "after": 3,
+                                       "follows": false}],
+                      "losses": [], "notReadBack": null, "notTaken": []}],
+      "skipped": []})"));
   const auto second = json({"set", "ovrin_0", "debug-device=4", "--dry-run"});
-  EXPECT_EQ(second["old"], "connect ov odm -debugdevice deviceNr 3 cpunr 1");
+  EXPECT_EQ(second["processors"][0]["before"], "connect ov odm -debugdevice deviceNr 3 cpunr 1");
   EXPECT_EQ(second["dryRun"], true);
 }
 
 TEST_F(Set, AppliesTheCableBeforeItsOtherSettings) {
-  EXPECT_EQ(json({"set", "ovrin_0", "port=USB22", "frequency=750000", "cable=zarvek_platformusb"})["new"],
+  EXPECT_EQ(after(json({"set", "ovrin_0", "port=USB22", "frequency=750000", "cable=zarvek_platformusb"})),
             "connect ov odm -cable type zarvek_platformusb port USB22 frequency 750000 -debugdevice cpunr 1");
 }
 
 TEST_F(Set, AppliesTheConnectionBeforeTheStub) {
-  EXPECT_EQ(json({"set", "ovrin_0", "stub-baud=0x1C200", "stub-port=COM2", "stub=serial", "connection=stub"})["new"],
+  EXPECT_EQ(after(json({"set", "ovrin_0", "stub-baud=0x1C200", "stub-port=COM2", "stub=serial", "connection=stub"})),
             "connect ov stub -comm serial -port COM2  -baud  115200 -timeout 20000");
 }
 
 TEST_F(Set, EveryConnectionOfASoftProcessor) {
-  EXPECT_EQ(json({"set", "ovrin_0", "connection=simulator", "--dry-run"})["new"], "connect ov sim");
+  EXPECT_EQ(after(json({"set", "ovrin_0", "connection=simulator", "--dry-run"})), "connect ov sim");
   const Result stub = qvtcfg({"set", "ovrin_0", "connection=stub", "--dry-run"});
   EXPECT_THAT(stub.out, testing::HasSubstr("+ connect ov stub -comm jtag\n"));
   EXPECT_THAT(stub.err, IsComplaint("warning: the design has a stub over a serial line only; set stub to serial"));
-  EXPECT_EQ(json({"set", "ovrin_0", "connection=hardware", "--dry-run"})["new"], "connect ov odm -debugdevice cpunr 1");
+  EXPECT_EQ(after(json({"set", "ovrin_0", "connection=hardware", "--dry-run"})), "connect ov odm -debugdevice cpunr 1");
 }
 
 TEST_F(Set, EveryCableThatCanBeWritten) {
@@ -106,37 +116,37 @@ TEST_F(Set, EveryCableThatCanBeWritten) {
       {"digilent_plugin", "connect ov odm -cable type digilent_plugin -debugdevice cpunr 1"},
   };
   for (const auto& cable : kCables) {
-    EXPECT_EQ(json({"set", "ovrin_0", std::string("cable=") + cable.name, "--dry-run"})["new"], cable.command);
+    EXPECT_EQ(after(json({"set", "ovrin_0", std::string("cable=") + cable.name, "--dry-run"})), cable.command);
   }
 }
 
 TEST_F(Set, TheSerialNumberStandsForPortAndFrequencyUntilItIsEmptied) {
-  EXPECT_EQ(json({"set", "ovrin_0", "cable=zarvek_platformusb", "esn=0042"})["new"],
+  EXPECT_EQ(after(json({"set", "ovrin_0", "cable=zarvek_platformusb", "esn=0042"})),
             "connect ov odm -cable type zarvek_platformusb frequency 6000000 esn 0042 -debugdevice cpunr 1");
-  EXPECT_EQ(json({"set", "ovrin_0", "esn=", "frequency=12000000"})["new"],
+  EXPECT_EQ(after(json({"set", "ovrin_0", "esn=", "frequency=12000000"})),
             "connect ov odm -cable type zarvek_platformusb frequency 12000000 -debugdevice cpunr 1");
 }
 
 TEST_F(Set, TheModuleOfAPluginCableReplacesTheOneBefore) {
-  EXPECT_EQ(json({"set", "ovrin_0", "module=m,a,b", "cable=zarvek_plugin"})["new"],
+  EXPECT_EQ(after(json({"set", "ovrin_0", "module=m,a,b", "cable=zarvek_plugin"})),
             "connect ov odm -cable type zarvek_plugin modulename m modulearg a modulearg b -debugdevice cpunr 1");
-  EXPECT_EQ(json({"set", "ovrin_0", "module=n"})["new"],
+  EXPECT_EQ(after(json({"set", "ovrin_0", "module=n"})),
             "connect ov odm -cable type zarvek_plugin modulename n -debugdevice cpunr 1");
 }
 
 TEST_F(Set, TheJtagChainAndItsRemoval) {
-  EXPECT_EQ(json({"set", "ovrin_0", "devices=1,prom32,16,0xa5059093:2,dv5,10,45708435"})["new"],
+  EXPECT_EQ(after(json({"set", "ovrin_0", "devices=1,prom32,16,0xa5059093:2,dv5,10,45708435"})),
             "connect ov odm -configdevice devicenr 1 partname prom32 irlength 16 idcode 0xa5059093 "
             "-configdevice devicenr 2 partname dv5 irlength 10 idcode 0x2b97493 -debugdevice cpunr 1");
-  EXPECT_EQ(json({"set", "ovrin_0", "devices=3,p,6,1"})["new"],
+  EXPECT_EQ(after(json({"set", "ovrin_0", "devices=3,p,6,1"})),
             "connect ov odm -configdevice devicenr 3 partname p irlength 6 idcode 0x1 -debugdevice cpunr 1");
-  EXPECT_EQ(json({"set", "ovrin_0", "devices=none"})["new"], "connect ov odm -debugdevice cpunr 1");
+  EXPECT_EQ(after(json({"set", "ovrin_0", "devices=none"})), "connect ov odm -debugdevice cpunr 1");
 }
 
 TEST_F(Set, ReadOnlyMemoryAndItsRemoval) {
-  EXPECT_EQ(json({"set", "ovrin_0", "rom=0xFFFF0000,65536"})["new"],
+  EXPECT_EQ(after(json({"set", "ovrin_0", "rom=0xFFFF0000,65536"})),
             "connect ov odm -debugdevice cpunr 1 romemStartAdr 0xffff0000 romemSize 65536");
-  EXPECT_EQ(json({"set", "ovrin_0", "rom=unset"})["new"], "connect ov odm -debugdevice cpunr 1");
+  EXPECT_EQ(after(json({"set", "ovrin_0", "rom=unset"})), "connect ov odm -debugdevice cpunr 1");
 }
 
 TEST_F(Set, TheProcessorsOwnJtagPinsOnlyByForce) {
@@ -165,7 +175,7 @@ TEST_F(Set, TakesTheOwnJtagPinsOutOfAFileThatIsRefusedForThemAlone) {
 }
 
 TEST_F(Set, UnderstandsNumbersAsPeopleTypeThem) {
-  EXPECT_EQ(json({"set", "ovrin_0", "cable=zarvek_platformusb", "frequency=12 MHz", "rom=0x1000,64K"})["new"],
+  EXPECT_EQ(after(json({"set", "ovrin_0", "cable=zarvek_platformusb", "frequency=12 MHz", "rom=0x1000,64K"})),
             "connect ov odm -cable type zarvek_platformusb port USB21 frequency 12000000 -debugdevice cpunr 1 "
             "romemStartAdr 0x1000 romemSize 65536");
   EXPECT_THAT(qvtcfg({"set", "ovrin_0", "frequency=12e6"}).out, HasSubstr("\nnothing changes\n"));
@@ -173,7 +183,7 @@ TEST_F(Set, UnderstandsNumbersAsPeopleTypeThem) {
 
 TEST_F(Set, AnEmptyValuePutsBackTheDefault) {
   write_option_file("ovrin_0", "connect ov odm -bscan USER4 -debugdevice deviceNr 2 cpunr 1");
-  EXPECT_EQ(json({"set", "ovrin_0", "bscan=", "debug-device="})["new"], "connect ov odm -debugdevice cpunr 1");
+  EXPECT_EQ(after(json({"set", "ovrin_0", "bscan=", "debug-device="})), "connect ov odm -debugdevice cpunr 1");
 }
 
 TEST_F(Set, AppendsDevicesToTheChain) {
@@ -323,8 +333,8 @@ TEST_F(Several, AnswerInJson) {
   EXPECT_EQ(answer["processors"][0]["processor"], "ppc405_0");
   EXPECT_EQ(answer["processors"][0]["differences"],
             nlohmann::json::parse(
-                R"([{"setting": "address-map", "before": null, "after": 1879048192, "follows": true},
-                    {"setting": "icache", "before": null, "after": 1879048192, "follows": false}])"));
+                R"([{"setting": "address-map", "unit": null, "before": null, "after": 1879048192, "follows": true},
+                    {"setting": "icache", "unit": null, "before": null, "after": 1879048192, "follows": false}])"));
   EXPECT_EQ(answer["skipped"].size(), 6U);
 }
 
@@ -355,8 +365,8 @@ TEST_F(Errors, AreAnswersInJson) {
   const Result losses = qvtcfg({"--json", "set", "ovrin_0", "connection=simulator"});
   EXPECT_EQ(losses.code, 1);
   EXPECT_THAT(losses.err, IsComplaint("would lose bscan USER4, -quiet"));
-  const auto error = nlohmann::json::parse(losses.out)["error"];
-  EXPECT_EQ(error["code"], 1);
+  const auto error = error_of(losses.out);
+  EXPECT_EQ(error["code"], "wouldLose");
   EXPECT_EQ(error["message"], losses.err.substr(8, losses.err.find('\n') - 8));
   EXPECT_EQ(
       error["losses"][0],
@@ -365,8 +375,8 @@ TEST_F(Errors, AreAnswersInJson) {
 
   const Result unread = qvtcfg({"read", "ovrin_0", "connect ov odm -quiet -foo", "--json"});
   EXPECT_EQ(unread.code, 3);
-  EXPECT_EQ(nlohmann::json::parse(unread.out)["error"]["note"], "UNKNOWN Option '-foo'");
-  EXPECT_EQ(nlohmann::json::parse(qvtcfg({"--json", "cabels"}).out)["error"]["code"], 2);
+  EXPECT_EQ(error_of(unread.out)["note"], "UNKNOWN Option '-foo'");
+  EXPECT_EQ(error_of(qvtcfg({"--json", "cabels"}).out)["code"], "usage");
   EXPECT_EQ(qvtcfg({"read", "ovrin_0", "--", "--json"}).out, "");
 }
 

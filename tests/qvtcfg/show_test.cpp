@@ -99,14 +99,16 @@ TEST_F(Show, AnswersInJsonWithNullForWhatIsNotSet) {
   EXPECT_EQ(shown["file"], "etc/qvt_ovrin_0.opt");
   EXPECT_EQ(shown["command"], "connect ov odm -debugdevice deviceNr 2");
   const auto& settings = shown["settings"];
-  EXPECT_EQ(settings["identity"]["family"], "ovrin");
-  EXPECT_EQ(settings["debug-device"]["debug-device"], nlohmann::json::parse(R"({"value": 2, "default": false})"));
-  EXPECT_EQ(settings["memories"]["rom"], nlohmann::json::parse(R"({"value": null, "default": true})"));
-  EXPECT_EQ(settings["stub"]["stub-port"], nlohmann::json::parse(R"({"value": "/dev/ttyS0", "default": true,
-      "applies": false, "whyNot": "it is for the connection 'stub' over a serial line"})"));
-  EXPECT_EQ(settings["hardware-simulator"]["port"]["value"], 9998);
+  EXPECT_EQ(settings["identity"]["family"]["value"], "ovrin");
+  EXPECT_EQ(settings["debug-device"]["debug-device"], nlohmann::json::parse(R"({"value": 2, "unit": null,
+      "changed": true, "applies": true, "changeable": true, "whyNot": null})"));
+  EXPECT_TRUE(settings["memories"]["rom"]["value"].is_null());
+  EXPECT_EQ(settings["memories"]["rom-size"]["unit"], "bytes");
+  EXPECT_EQ(settings["stub"]["stub-port"], nlohmann::json::parse(R"({"value": "/dev/ttyS0", "unit": null,
+      "changed": false, "applies": false, "changeable": false,
+      "whyNot": "it is for the connection 'stub' over a serial line"})"));
   EXPECT_EQ(settings["hardware-simulator"]["hardware-simulator-port"]["value"], 9998);
-  EXPECT_EQ(settings["jtag-chain"]["devices"], nlohmann::json::parse(R"({"value": [], "default": true})"));
+  EXPECT_EQ(settings["jtag-chain"]["devices"]["value"], nlohmann::json::array());
 }
 
 TEST_F(Show, AnswersNullForAMissingFile) {

@@ -11,6 +11,8 @@
 #include <sstream>
 #include <system_error>
 
+#include "answers.h"
+
 namespace {
 
 void write_file(const std::filesystem::path& path, const std::string& text) {
@@ -73,8 +75,11 @@ Result Tool::run(const std::vector<std::string>& command, const std::string& inp
 }
 
 Result Tool::qvtcfg(std::vector<std::string> arguments, const std::string& input) const {
+  const bool answers = asks_for_answer(arguments);
   arguments.insert(arguments.begin(), QVTCFG);
-  return run(arguments, input);
+  const Result result = run(arguments, input);
+  if (answers) expect_answer(result.out, result.code);
+  return result;
 }
 
 Result Tool::qvtcfg_on_terminal(std::vector<std::string> arguments, std::vector<std::string> environment) const {
@@ -112,7 +117,7 @@ nlohmann::json Tool::json(std::vector<std::string> arguments) const {
   const Result result = qvtcfg(arguments);
   EXPECT_EQ(result.code, 0) << result.err;
   EXPECT_EQ(result.err, "");
-  return nlohmann::json::parse(result.out, nullptr, false);
+  return result_of(result.out);
 }
 
 void Tool::use_design(const std::string& name) const {

@@ -21,7 +21,7 @@ class Tool : public testing::Test {
   Tool();
   ~Tool() override;
 
-  // Runs qvtcfg with the arguments; the folder is the working directory.
+  // Runs qvtcfg with the arguments; the folder is the working directory. An answer in JSON must be valid.
   Result qvtcfg(std::vector<std::string> arguments, const std::string& input = "") const;
 
   // Runs it with both outputs on a terminal, so that err stays empty, and with the environment variables NAME=VALUE.
@@ -35,7 +35,7 @@ class Tool : public testing::Test {
   // Runs a shell script; $QVTCFG is the program.
   Result shell(const std::string& script) const;
 
-  // The output of `qvtcfg --json ...`, which must succeed.
+  // The result in the answer of `qvtcfg --json ...`, which must succeed.
   nlohmann::json json(std::vector<std::string> arguments) const;
 
   // Copies a design from examples/designs to the folder's design.json.
