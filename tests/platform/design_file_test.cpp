@@ -4,9 +4,11 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -15,6 +17,7 @@
 
 #include "platform/DesignFile.h"
 #include "tests/support/GlobalLocale.h"
+#include "tests/support/JsonSchema.h"
 
 namespace {
 
@@ -33,6 +36,18 @@ std::string error_of(const auto& operation) {
 
 std::string parse_error(const std::string& text) {
   return error_of([&] { DesignFile::parse(text, "x.json"); });
+}
+
+std::string why_invalid(const std::string& design) {
+  static const JsonSchema schema("design-file");
+  return schema.why_invalid(design);
+}
+
+// A schema cannot tell what is at another place of the design.
+bool is_in_schema(std::string_view message) {
+  constexpr std::string_view kBeyond[] = {"a second member of this name", "which is no instance",
+                                          "expected an instance of class", "expected another name"};
+  return std::ranges::none_of(kBeyond, [&](std::string_view part) { return message.find(part) != message.npos; });
 }
 
 // A design with a processor, a debug module and a UART, and one more instance after them.
@@ -249,6 +264,13 @@ TEST(DesignFile, AcceptsNamesOf200Characters) {
 
 // --- The example designs ---
 
+TEST(DesignFile, HasASchemaForTheExamples) {
+  for (const char* const name : {"small", "large", "old-bus"}) {
+    std::ifstream in(PROJECT_SOURCE_DIR "/examples/designs/" + std::string(name) + ".json", std::ios::binary);
+    EXPECT_EQ(why_invalid({std::istreambuf_iterator<char>(in), {}}), "") << name;
+  }
+}
+
 TEST(DesignFile, AnswersForTheSmallExample) {
   DesignFile design = example("small");
   EXPECT_THAT(processors(design), ElementsAre("ovrin_0"));
@@ -439,6 +461,7 @@ TEST(DesignFile, NamesThePlaceOfWhatIsNoDesign) {
   };
   for (const auto& [text, message] : cases) {
     EXPECT_EQ(parse_error(text), std::string("x.json: ") + message) << text;
+    EXPECT_TRUE(!is_in_schema(message) || !why_invalid(text).empty()) << text;
   }
   EXPECT_EQ(parse_error(design_with(R"({"name": "a", "type": "t", "class": "other", "colour": "red"})")),
             std::string("x.json: /instances/3/colour: found an unknown member, expected ") + kMembers);
@@ -515,6 +538,7 @@ TEST(DesignFile, NamesThePlaceInAWrongInstance) {
   };
   for (const auto& [instance, message] : cases) {
     EXPECT_EQ(parse_error(design_with(instance)), "x.json: " + message) << instance;
+    EXPECT_TRUE(!is_in_schema(message) || !why_invalid(design_with(instance)).empty()) << instance;
   }
 }
 

@@ -16,7 +16,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-constexpr const char* kSchema = "qvtcfg-answer";
 constexpr const char* kMistyped = "connect ov odm -cabel type zarvek_platformusb frequency 12MHz";
 
 class Answers : public Tool {
@@ -160,10 +159,10 @@ TEST_F(Answers, CheckFailsForAWrongOne) {
   wrong["result"]["cables"][0].erase("port");
   EXPECT_NONFATAL_FAILURE(expect_answer(wrong.dump(), 0), "oneOf at #");
   EXPECT_NONFATAL_FAILURE(expect_answer(good.out, 1), "");
-  EXPECT_NE(why_invalid("", kSchema), "");
-  EXPECT_NE(why_invalid("{}", kSchema), "");
-  EXPECT_NE(why_invalid(good.out + good.out, kSchema), "");
-  EXPECT_NE(why_invalid("qvtcfg: no JSON\n" + good.out, kSchema), "");
+  EXPECT_NE(why_invalid(""), "");
+  EXPECT_NE(why_invalid("{}"), "");
+  EXPECT_NE(why_invalid(good.out + good.out), "");
+  EXPECT_NE(why_invalid("qvtcfg: no JSON\n" + good.out), "");
 }
 
 // Each change of one member, at any depth. Settings are left out with --changed.
@@ -181,7 +180,7 @@ class Changes {
  private:
   void expect_invalid(const std::string& change) {
     ++m_count;
-    if (why_invalid(m_answer.dump(), kSchema).empty()) m_unnoticed.push_back(change);
+    if (why_invalid(m_answer.dump()).empty()) m_unnoticed.push_back(change);
   }
 
   static bool is_group(const std::string& path) {
@@ -256,19 +255,26 @@ TEST_F(Answers, AreValidForAnIndependentValidator) {
   write("validate.py", R"(
 import glob, json, sys
 from jsonschema.validators import validator_for
-with open(sys.argv[1] + "/docs/qvtcfg-answer.schema.json", encoding="utf-8") as file:
-    schema = json.load(file)
-validator_for(schema).check_schema(schema)
-validator = validator_for(schema)(schema)
+def validator(name):
+    with open(sys.argv[1] + "/docs/" + name + ".schema.json", encoding="utf-8") as file:
+        schema = json.load(file)
+    validator_for(schema).check_schema(schema)
+    return validator_for(schema)(schema)
+def content(path):
+    with open(path, encoding="utf-8") as file:
+        return json.load(file)
+answers = validator("qvtcfg-answer")
 paths = glob.glob("answers/*.json")
 for path in paths:
-    with open(path, encoding="utf-8") as file:
-        for error in validator.iter_errors(json.load(file)):
-            print(path, error.message)
-with open(paths[0], encoding="utf-8") as file:
-    wrong = json.load(file)
+    for error in answers.iter_errors(content(path)):
+        print(path, error.message)
+wrong = content(paths[0])
 wrong["formatVersion"] = 2
-print(len(paths), "answers;", "a wrong one is", "valid" if validator.is_valid(wrong) else "invalid")
+print(len(paths), "answers;", "a wrong one is", "valid" if answers.is_valid(wrong) else "invalid")
+designs = validator("design-file")
+for path in glob.glob(sys.argv[1] + "/examples/designs/*.json"):
+    for error in designs.iter_errors(content(path)):
+        print(path, error.message)
 )");
   const Result result = shell("python3 validate.py '" PROJECT_SOURCE_DIR "'");
   EXPECT_EQ(result.code, 0) << result.err;

@@ -1,13 +1,13 @@
 #pragma once
 
-// The answers of qvtcfg in JSON, and the JSON Schemas in docs/.
+// The answers of qvtcfg in JSON.
 
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
-// Why the text is no JSON document that is valid by the schema docs/NAME.schema.json; empty if it is.
-std::string why_invalid(const std::string& text, const std::string& schema);
+// Why the text is not one answer that is valid by its schema; empty if it is.
+std::string why_invalid(const std::string& answer);
 
 // Whether the arguments of qvtcfg ask for an answer in JSON.
 bool asks_for_answer(const std::vector<std::string>& arguments);
