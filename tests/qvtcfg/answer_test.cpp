@@ -151,6 +151,24 @@ TEST_F(Answers, EndWithTheFirstErrorOfStandardOutput) {
   EXPECT_EQ(read("answer"), answer({"show", "ovrin_0"}).substr(0, read("answer").size()));
 }
 
+TEST_F(Answers, AreThereWhenMemoryRunsOut) {
+  if (shell("ulimit -v 4000000 && \"$QVTCFG\" --version").code != 0) GTEST_SKIP() << "memory cannot be limited here";
+  Json design = {{"instances", Json::array()}};
+  for (int i = 0; i < 1000; ++i) {
+    design["instances"].push_back({{"name", "ovrin_" + std::to_string(i)}, {"type", "ovrin"}, {"class", "processor"}});
+  }
+  write("design.json", design.dump());
+  std::set<std::string> codes;
+  for (int limit = 8000; limit < 40000; limit += 1500) {
+    const Result result = shell("ulimit -v " + std::to_string(limit) +
+                                "; exec \"$QVTCFG\" --json set --all connection=simulator --dry-run");
+    if (result.code == 127) continue;  // the program is not even loaded
+    expect_answer(result.out, result.code);
+    codes.insert(result.code == 0 ? "done" : error_of(result.out)["code"].get<std::string>());
+  }
+  EXPECT_EQ(codes, (std::set<std::string>{"done", "outOfMemory"}));
+}
+
 // --- The schema ---
 
 TEST_F(Answers, CheckFailsForAWrongOne) {

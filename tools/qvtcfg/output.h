@@ -45,6 +45,8 @@ class Output {
   const Look& look() const { return m_look; }
   std::string styled(Style style, const std::string& text) const { return m_look.styled(style, text); }
 
+  std::string take_text() { return std::exchange(m_text, {}); }
+
   // Writes the buffer; throws OutputFailure on an error.
   void flush();
 
