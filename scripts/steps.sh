@@ -19,6 +19,8 @@ packages_of() {
     locales) echo locales ;;
     docs) echo doxygen python3 ;;
     valgrind) echo valgrind ;;
+    abi) echo abigail-tools binutils ;;
+    packages) echo debhelper debootstrap dpkg-dev lintian ;;
     arm64 | armhf | i386 | s390x)
       machine "$1"
       echo "g++-$triple" qemu-user
@@ -31,7 +33,10 @@ tree_state() {
   {
     git ls-files -z --cached --others --exclude-standard | xargs -0 sha256sum 2>&1
     g++ --version
-    case $1 in lint | contrast | fuzz | clang | consumers) clang --version ;; esac
+    case $1 in
+      lint | contrast | fuzz | clang | consumers) clang --version ;;
+      abi) git tag --list 'v*' ;;
+    esac
   } | sha256sum
 }
 
@@ -165,6 +170,19 @@ step_tsan() {
 step_docs() {
   run "docs" build_reference
   summarise "$what" "$beginning"
+}
+
+step_abi() {
+  run "abi" ./scripts/abi
+  summarise "$what" "$beginning" "$(tail -n 1 "$log")"
+}
+
+step_packages() {
+  run "packages: built twice" ./scripts/package --twice
+  grep '\.deb$' "$log"
+  summarise "$what" "$beginning" "$(grep -c '\.deb$' "$log") packages, the same bytes"
+  run "packages: in a bare system" ./scripts/try-packages
+  summarise "$what" "$beginning" "$(tail -n 1 "$log")"
 }
 
 # A program at a time: to start valgrind for every test would take most of the time. tests/faults is left out: it
