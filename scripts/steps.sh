@@ -20,7 +20,7 @@ packages_of() {
     docs) echo doxygen python3 ;;
     valgrind) echo valgrind ;;
     abi) echo abigail-tools binutils ;;
-    packages) echo debhelper debootstrap dpkg-dev lintian ;;
+    packages) echo build-essential debhelper debootstrap dpkg-dev lintian ;;
     arm64 | armhf | i386 | s390x)
       machine "$1"
       echo "g++-$triple" qemu-user
