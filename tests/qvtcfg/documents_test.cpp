@@ -129,7 +129,8 @@ TEST_P(DocumentedSessions, PrintWhatIsShown) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, DocumentedSessions, testing::ValuesIn(kSessions));
+INSTANTIATE_TEST_SUITE_P(All, DocumentedSessions,
+                         testing::ValuesIn(std::vector<std::string>(std::begin(kSessions), std::end(kSessions))));
 INSTANTIATE_TEST_SUITE_P(ManPages, DocumentedSessions, testing::ValuesIn(man_pages()));
 
 // --- Man pages ---
