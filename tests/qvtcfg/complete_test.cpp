@@ -50,7 +50,7 @@ TEST_F(Complete, OffersCommandsWithTheirPurpose) {
                                         "cables\tList the cables that are known",
                                         "cable\tRead and write the options of cable and chain, without a design"));
   EXPECT_THAT(candidates({"cable", ""}), ElementsAre("parse", "format"));
-  EXPECT_THAT(candidates({"--json", "-C", ".", "proc"}), ElementsAre("processors"));
+  EXPECT_THAT(candidates({"--design", "design.json", "-C", ".", "proc"}), ElementsAre("processors"));
   EXPECT_THAT(candidates({""}), Not(Contains("complete")));
 }
 
