@@ -113,6 +113,9 @@ TEST_F(Shells, OfferWhatTheProcessorAdmitsInBash) {
   // Bash puts in the parts behind "=".
   EXPECT_THAT(typed_in_bash("qvtcfg set ovrin_0 bscan=\x1b*"),
               ElementsAre("set", "ovrin_0", "bscan=USER1", "USER2", "USER3", "USER4"));
+  EXPECT_THAT(typed_in_bash("qvtcfg set ovrin_0 cable=zarvek_platformusb frequency=\x1b*"),
+              ElementsAre("set", "ovrin_0", "cable=zarvek_platformusb", "frequency=750kHz", "1.5MHz", "3MHz", "6MHz",
+                          "12MHz", "24MHz"));
   EXPECT_THAT(typed_in_bash("qvtcfg set ovrin_0 cable=zarvek_platformusb \x1b*"),
               IsSupersetOf({"bscan=", "debug-device=", "frequency=", "port="}));
 }
@@ -126,6 +129,9 @@ TEST_F(Shells, OfferWhatTheProcessorAdmitsInZsh) {
   if (!is_there("zsh")) GTEST_SKIP() << "there is no zsh";
   EXPECT_THAT(typed_in_zsh("qvtcfg set ovrin_0 bscan=\t\x1b*"),
               ElementsAre("set", "ovrin_0", "bscan=USER1", "bscan=USER2", "bscan=USER3", "bscan=USER4"));
+  EXPECT_THAT(typed_in_zsh("qvtcfg set ovrin_0 cable=zarvek_platformusb frequency=\t\x1b*"),
+              ElementsAre("set", "ovrin_0", "cable=zarvek_platformusb", "frequency=750kHz", "frequency=1.5MHz",
+                          "frequency=3MHz", "frequency=6MHz", "frequency=12MHz", "frequency=24MHz"));
   EXPECT_THAT(typed_in_zsh("qvtcfg set ovrin_0 cable=zarvek_platformusb \t\x1b*"),
               IsSupersetOf({"bscan=", "debug-device=", "frequency=", "port="}));
 }

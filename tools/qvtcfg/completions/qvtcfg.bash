@@ -47,4 +47,4 @@ _qvtcfg() {
   done < <("${words[0]}" complete "$((${#words[@]} - 1))" "${words[@]}" 2>/dev/null)
 }
 
-complete -F _qvtcfg qvtcfg
+complete -o nosort -F _qvtcfg qvtcfg

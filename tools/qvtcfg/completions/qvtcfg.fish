@@ -21,4 +21,4 @@ function __qvtcfg_complete
     end
 end
 
-complete -c qvtcfg -f -a '(__qvtcfg_complete)'
+complete -c qvtcfg -f -k -a '(__qvtcfg_complete)'
