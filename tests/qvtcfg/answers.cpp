@@ -36,6 +36,7 @@ std::string why_invalid(const std::string& answer) {
 }
 
 bool asks_for_answer(const std::vector<std::string>& arguments) {
+  if (!arguments.empty() && arguments.front() == "complete") return false;
   const auto end = std::ranges::find(arguments, "--");
   bool json = false;
   for (auto argument = arguments.begin(); argument != end; ++argument) {

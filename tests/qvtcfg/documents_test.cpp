@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "answers.h"
 #include "tests/support/Blocks.h"
 #include "tool.h"
 
@@ -126,6 +127,8 @@ TEST_P(DocumentedSessions, PrintWhatIsShown) {
     std::getline(output, printed, kEnd);
     trim(printed);
     EXPECT_EQ(printed, step.output) << step.command;
+    const bool answers = step.command.find("--json") != std::string::npos && printed.starts_with("{\n");
+    EXPECT_EQ(answers ? why_invalid(printed) : "", "") << step.command;
   }
 }
 
