@@ -20,7 +20,9 @@ using Lines = std::vector<std::string>;
 
 std::string quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
 
-std::string reference(std::string_view definition) { return R"({"$ref": "#/definitions/)" + std::string(definition) + "\"}"; }
+std::string reference(std::string_view definition) {
+  return R"({"$ref": "#/definitions/)" + std::string(definition) + "\"}";
+}
 
 // A member whose value is an array or an object; the content has the lines of one element each.
 std::string member(std::string_view name, char open, const Lines& elements, char close,
@@ -29,7 +31,8 @@ std::string member(std::string_view name, char open, const Lines& elements, char
   for (const std::string& element : elements) {
     all += (&element == &elements.front() ? "\n" : ",\n");
     // Elements of several lines bring their own indentation.
-    all += element.starts_with(' ') ? element : indentation + "  " + element;
+    if (!element.starts_with(' ')) all.append(indentation).append("  ");
+    all += element;
   }
   return all + '\n' + indentation + close;
 }
