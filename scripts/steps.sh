@@ -6,7 +6,7 @@ jobs=$(nproc 2>/dev/null || echo 2)
 # packages_of STEP: what it needs.
 packages_of() {
   echo "$build_packages git make libgtest-dev libgmock-dev librapidcheck-dev pkg-config strace \
-    bash zsh fish mandoc groff-base man-db"
+    bash zsh fish mandoc groff-base man-db python3-jsonschema"
   case $1 in
     format) echo clang-format ;;
     lint | contrast)
