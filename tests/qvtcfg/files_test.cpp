@@ -113,6 +113,19 @@ TEST_F(Files, FullDiskKeepsTheOldFile) {
   EXPECT_EQ(read_option_file("ovrin_0"), "connect ov sim");
 }
 
+TEST_F(Files, FailureOfALaterFileTellsWhichAreWritten) {
+  write_option_file("ovrin_0", "connect ov sim");
+  write_option_file("ovrin_1", "connect ov sim\n" + std::string(2000, '#'));
+  // A limit of a block for files, which the second one does not keep.
+  const Result result = shell(
+      "trap '' XFSZ; (ulimit -f 1; \"$QVTCFG\" --json set ovrin_0 ovrin_1 connection=hardware; echo code $?) | "
+      "cat");
+  EXPECT_THAT(result.err, HasSubstr("qvtcfg: warning: already written: etc/qvt_ovrin_0.opt\n"));
+  EXPECT_THAT(result.out, HasSubstr("\"already written: etc/qvt_ovrin_0.opt\""));
+  EXPECT_THAT(result.out, HasSubstr("\ncode 4\n"));
+  EXPECT_EQ(read_option_file("ovrin_1").size(), 2015U);
+}
+
 TEST_F(Files, StandardOutputThatIsFull) {
   for (const char* command : {"cables", "processors", "--help", "--version", "show ovrin_0"}) {
     const Result result = shell(std::string("exec \"$QVTCFG\" ") + command + " > /dev/full");

@@ -214,6 +214,7 @@ ExitCode carry_out(Plan plan, const Arguments& arguments, Output& out) {
     if (!arguments.json) out.line(visible("skipped " + skipped.processor + ": " + skipped.why));
   }
   bool any_changes = false;
+  std::vector<std::string> stored;
   for (Target& target : plan.targets) {
     any_changes |= target.changes();
     const bool stores = target.changes() && !arguments.dry_run;
@@ -222,7 +223,13 @@ ExitCode carry_out(Plan plan, const Arguments& arguments, Output& out) {
       out.flush();
     }
     if (!stores) continue;
-    store(target.configuration, target.edit, target.file, arguments);
+    try {
+      store(target.configuration, target.edit, target.file, arguments);
+    } catch (const Failure&) {
+      if (!stored.empty()) warn("already written: " + join(stored));
+      throw;
+    }
+    stored.push_back(target.file.shown);
     if (!arguments.json) out.line(visible("written to " + target.file.shown));
   }
   if (arguments.json) out.result(plan_json(plan, arguments));
