@@ -71,13 +71,16 @@ if(TARGET qvtcfg)
     DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tool)
   install(FILES docs/design-file.schema.json docs/qvtcfg-answer.schema.json
     DESTINATION ${CMAKE_INSTALL_DATADIR}/SdkDebugDialog COMPONENT tool)
+  # The notices of the libraries that are compiled into the tool.
+  install(FILES LICENSE docs/licences.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/qvtcfg COMPONENT tool)
 endif()
 
 # --- The documents ---
-file(GLOB guides CONFIGURE_DEPENDS docs/*.md docs/*.svg)
-install(FILES ${guides} DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
-install(DIRECTORY docs/guides DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
-install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
+# In the folders that they have in the project, so that their links lead somewhere.
+install(FILES README.md CHANGELOG.md CONTRIBUTING.md LICENSE SECURITY.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
+  COMPONENT documents)
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents
+  FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "*.schema.json" PATTERN man EXCLUDE PATTERN tables EXCLUDE)
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
-# Built by scripts/docs.
+# The reference, if scripts/docs has built it in this source folder.
 install(DIRECTORY build/docs/html DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents OPTIONAL)

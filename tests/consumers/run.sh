@@ -91,14 +91,29 @@ pkg_config() {
   [ "$("$2/design_file" "$design")" = "connect ov odm -debugdevice cpunr 1" ] || fail "another command"
 }
 
-# subproject FOLDER COMPILER WAY
+# subproject FOLDER COMPILER WAY TARGETS [OPTION...]
 subproject() {
-  rm -rf "$1"
-  cmake -S "$here/parent" -B "$1/build" -G Ninja -DCMAKE_CXX_COMPILER="$2" -DSDKDEBUGDIALOG="$source" -DWAY="$3"
-  cmake --build "$1/build"
-  "$1/build/own_design"
-  cmake --install "$1/build" --prefix "$1/prefix"
-  [ "$(cd "$1/prefix" && find . -type f)" = ./bin/own_design ] || fail "the subproject is installed as well"
+  folder=$1 compiler=$2 way=$3 targets=$4
+  shift 4
+  rm -rf "$folder"
+  cmake -S "$here/parent" -B "$folder/build" -G Ninja -DCMAKE_CXX_COMPILER="$compiler" -DSDKDEBUGDIALOG="$source" \
+    -DWAY="$way" -DTARGETS="$targets" "$@"
+  cmake --build "$folder/build"
+  "$folder/build/own_design"
+  cmake --install "$folder/build" --prefix "$folder/prefix"
+  [ "$(cd "$folder/prefix" && find . -type f)" = ./bin/own_design ] || fail "the subproject is installed as well"
+}
+
+# Each link of an installed document leads to a file.
+documents() {
+  # shellcheck disable=SC2016 # backticks are those of Markdown
+  find "$1/share/doc/SdkDebugDialog" -name '*.md' | while read -r document; do
+    sed 's/`[^`]*`//g' "$document" | grep -o '](\([^)#:]*\)[#)]' | sed 's/^](//; s/[#)]$//' | while read -r link; do
+      [ -z "$link" ] || [ -e "${document%/*}/$link" ] || echo "$document: $link leads nowhere"
+    done
+  done >dead_links
+  [ -e "$1/share/doc/SdkDebugDialog/README.md" ] || fail "there is no README.md"
+  [ ! -s dead_links ] || fail "$(cat dead_links)"
 }
 
 [ "$function" != cmake ] || function=with_cmake

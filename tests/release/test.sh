@@ -79,6 +79,9 @@ expect 1 "NOT: everything is committed: "
 change="git tag v$version"
 release "$version"
 expect 1 "NOT: there is no tag v$version yet: "
+change="git tag v99.0.0"
+release "$version"
+expect 1 "NOT: the version is greater than the last one: "
 change='TEST_RESULT=1'
 release "$version" --tag
 expect 1 "scripts/test all fails"
@@ -92,7 +95,7 @@ change=: commit=
 release 99.0.0
 expect 1 "NOT: CMakeLists.txt: "
 release 1.0
-expect 2 "usage: "
+expect 2 "1.0 is no version"
 
 refuses CMakeLists.txt 'sed -i "s/\(SdkDebugDialog VERSION\) [^ ]*/\1 99.0.0/" CMakeLists.txt'
 refuses CHANGELOG.md 'sed -i "0,/^## /s/^## .*/## 99.0.0 (2026-01-31)/" CHANGELOG.md'
