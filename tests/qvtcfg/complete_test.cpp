@@ -141,6 +141,40 @@ TEST_F(Complete, OffersTheValuesThatTheProcessorAdmitsNow) {
               ElementsAre("debug-device=2\tnow", "debug-device=0\tdefault"));
 }
 
+// The chain with the device would have it twice.
+TEST_F(Complete, OffersNothingToAppend) {
+  write_option_file("ovrin_0", "connect ov odm -configdevice devicenr 1 partname a irlength 4 idcode 0x1");
+  EXPECT_THAT(candidates({"set", "ovrin_0", "devices="}), Contains("devices=1,a,4,0x00000001"));
+  EXPECT_THAT(lines({"set", "ovrin_0", "devices+="}), IsEmpty());
+}
+
+TEST_F(Complete, SaysOfAValueWhatIsTrueForEveryProcessor) {
+  write_option_file("ovrin_0", "connect ov odm -bscan USER3 -debugdevice deviceNr 2");
+  EXPECT_THAT(lines({"set", "ovrin_0", "bscan="}), IsSupersetOf({"bscan=USER2\tdefault", "bscan=USER3\tnow"}));
+  for (const std::vector<std::string>& processors :
+       std::vector<std::vector<std::string>>{{"ovrin_0", "ovrin_1"}, {"ovrin_1", "ovrin_0"}, {"--all"}}) {
+    std::vector<std::string> words = processors;
+    words.insert(words.begin(), "set");
+    words.emplace_back("bscan=");
+    EXPECT_THAT(lines(words), ElementsAre("bscan=USER1", "bscan=USER2\tdefault", "bscan=USER3", "bscan=USER4"));
+  }
+  EXPECT_THAT(lines({"set", "ovrin_1", "ovrin_2", "bscan=USER2"}), ElementsAre("bscan=USER2\tnow, default"));
+}
+
+TEST_F(Complete, OffersTheTypesOfCableThatFormatWrites) {
+  const std::vector<std::string> types = candidates({"cable", "format", "--type", ""});
+  EXPECT_THAT(types, ElementsAre("zarvek_parallel4", "zarvek_platformusb", "zarvek_parallel3", "zarvek_plugin",
+                                 "digilent_plugin"));
+  EXPECT_EQ(candidates({"cable", "format", "--type="}).size(), types.size());
+  for (const std::string& type : types) {
+    std::vector<std::string> words = {"cable", "format", "--type", type};
+    if (type == "zarvek_plugin") words.insert(words.end(), {"--module", "m"});
+    EXPECT_EQ(qvtcfg(words).code, 0) << type;
+  }
+  EXPECT_THAT(lines({"cable", "format", "--type", "zarvek_platformusb", "--frequency", "6"}),
+              ElementsAre("6MHz\tdefault"));
+}
+
 // What is offered for a key is accepted.
 TEST_F(Complete, OffersValuesThatSetAccepts) {
   for (const char* processor : {"ovrin_0", "ppc405_0", "cortexa9_0"}) {
@@ -212,6 +246,15 @@ TEST_F(Complete, IsFastWithTenThousandProcessors) {
               ElementsAre("frequency=12MHz"));
   // A hundredth of that in a release build; the sanitizers and a busy machine take their time.
   EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(3));
+}
+
+TEST_F(Complete, HasAHelp) {
+  for (const char* flag : {"-h", "--help"}) {
+    const Result result = qvtcfg({"complete", flag});
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(result.err, "");
+    EXPECT_THAT(result.out, testing::HasSubstr("\nqvtcfg complete INDEX WORD...\n"));
+  }
 }
 
 TEST_F(Complete, RefusesAnIndexThatIsNone) {

@@ -8,6 +8,7 @@
 #include <exception>
 #include <iterator>
 #include <optional>
+#include <span>
 #include <utility>
 
 #include "SdkDebugDialog/Diagnosis.h"
@@ -34,7 +35,7 @@ using SdkDebugDialog::TextKind;
 
 struct Candidate {
   std::string word;
-  std::string about;
+  std::vector<std::string> about;
 };
 
 struct Offer {
@@ -42,9 +43,16 @@ struct Offer {
   std::string names_of;  // "files" or "folders", if their names are offered
 
   void add(std::string_view word, std::string_view about) {
-    candidates.push_back({std::string(word), std::string(about)});
+    candidates.push_back({std::string(word), {std::string(about)}});
   }
 };
+
+constexpr const char* kNow = "now";
+
+// For an offer that is not for the stored settings of one processor.
+void drop_now(Offer& offer) {
+  for (Candidate& candidate : offer.candidates) std::erase(candidate.about, kNow);
+}
 
 // --- The design and its processors ---
 
@@ -132,9 +140,9 @@ void offer_values(const Setting& setting, const Configuration& configuration, co
   for (const std::string& value : values) {
     if (value.empty()) continue;
     std::vector<std::string> about;
-    if (value == now) about.emplace_back("now");
+    if (value == now) about.emplace_back(kNow);
     if (value == initial) about.emplace_back("default");
-    offer.add(start + one_word(setting, value), join(about));
+    offer.candidates.push_back({start + one_word(setting, value), std::move(about)});
   }
 }
 
@@ -151,8 +159,10 @@ void offer_keys(const Configuration& configuration, const TypedLine& line, Offer
 void offer_changes_of(const Configuration& configuration, const TypedLine& line, Offer& offer) {
   const Configuration now = changed(configuration, line.operands);
   if (!is_change(line.word)) return offer_keys(now, line, offer);
-  const Setting* const setting = find_setting(key_of(line.word));
-  if (setting != nullptr) offer_values(*setting, now, line.word.substr(0, line.word.find('=') + 1), offer);
+  const std::string key = line.word.substr(0, line.word.find('='));
+  // What is stored already must not be appended again.
+  if (key.ends_with('+')) return;
+  if (const Setting* const setting = find_setting(key)) offer_values(*setting, now, key + "=", offer);
 }
 
 // Those that can be put back to a default.
@@ -164,14 +174,21 @@ void offer_names_of(const Configuration& configuration, const TypedLine& line, O
   }
 }
 
+// Keeps what is true for both processors.
+void keep_common(Offer& offer, const Offer& other) {
+  std::erase_if(offer.candidates, [&](Candidate& candidate) {
+    const auto same = std::ranges::find(other.candidates, candidate.word, &Candidate::word);
+    if (same == other.candidates.end()) return true;
+    std::erase_if(candidate.about, [&](const std::string& about) { return !is_among(same->about, about); });
+    return false;
+  });
+}
+
 // What is offered for every one of the processors.
 void offer_common(std::vector<Offer> offers, Offer& offer) {
-  for (Candidate& candidate : offers.front().candidates) {
-    const bool everywhere = std::ranges::all_of(offers, [&](const Offer& o) {
-      return std::ranges::find(o.candidates, candidate.word, &Candidate::word) != o.candidates.end();
-    });
-    if (everywhere) offer.candidates.push_back(std::move(candidate));
-  }
+  Offer common = std::move(offers.front());
+  for (const Offer& other : std::span(offers).subspan(1)) keep_common(common, other);
+  std::ranges::move(common.candidates, std::back_inserter(offer.candidates));
 }
 
 // Processors, then what they have in common. For all processors, what does not depend on one.
@@ -184,7 +201,10 @@ void offer_processors_and(OfferOfOne offer_of_one, const TypedLine& line, Offer&
       offer_of_one(configuration_of(*processor, line), line, offers.emplace_back());
     }
   }
-  if (line.has("--all")) offer_of_one(Configuration(), line, offers.emplace_back());
+  if (line.has("--all")) {
+    offer_of_one(Configuration(), line, offers.emplace_back());
+    drop_now(offers.back());
+  }
   if (!line.has("--all") && line.place <= offers.size()) offer_processors_not_given(design, line, offer);
   if (!offers.empty()) offer_common(std::move(offers), offer);
 }
@@ -218,9 +238,22 @@ void offer_cable_values(const char* setting, const TypedLine& line, Offer& offer
   if (!configuration) return;
   if (const auto type = line.value("--type")) configuration->set("cable", *type);
   offer_values(*find_setting(setting), *configuration, "", offer);
+  drop_now(offer);
 }
 
-void offer_cable_types(const TypedLine& line, Offer& offer) { offer_cable_values("cable", line, offer); }
+// "cable format" refuses a type that leaves nothing to write.
+bool can_be_written(const std::string& type) {
+  auto configuration = Configuration::read({}, "", TextKind::cableText);
+  if (!configuration || !configuration->set("cable", type)) return false;
+  const auto edit = configuration->written_anew();
+  return edit && !edit->text.empty();
+}
+
+void offer_cable_types(const TypedLine& line, Offer& offer) {
+  offer_cable_values("cable", line, offer);
+  std::erase_if(offer.candidates, [](const Candidate& candidate) { return !can_be_written(candidate.word); });
+}
+
 void offer_frequencies(const TypedLine& line, Offer& offer) { offer_cable_values("frequency", line, offer); }
 void offer_ports(const TypedLine& line, Offer& offer) { offer_cable_values("port", line, offer); }
 
@@ -312,12 +345,22 @@ bool is_printable(const Candidate& candidate) { return visible(candidate.word) =
 void print(const Offer& offer, const TypedLine& line, const std::string& directory, Output& out) {
   for (const Candidate& candidate : offer.candidates) {
     if (!candidate.word.starts_with(line.word) || !is_printable(candidate)) continue;
-    out.line(candidate.word + (candidate.about.empty() ? "" : '\t' + visible(candidate.about)));
+    const std::string about = join(candidate.about);
+    out.line(candidate.word + (about.empty() ? "" : '\t' + visible(about)));
   }
   if (offer.names_of.empty()) return;
   const bool inside = !directory.empty() && !(line.option != nullptr && line.option->value == "DIR");
   out.line('\t' + offer.names_of + (inside ? '\t' + directory : ""));
 }
+
+constexpr const char* kHelp =
+    "Print what can stand in place of a word of a command line, for the completions of shells and editors\n\n"
+    "qvtcfg complete INDEX WORD...\n\n"
+    "INDEX is that of the word, counted from 0; the index behind the last word stands for a new word. The first\n"
+    "word is qvtcfg. Each line is a whole word and, behind a tab, a few words about it. A line that begins with\n"
+    "a tab asks for names of files or folders.\n\n"
+    "Example:\n"
+    "  qvtcfg complete 3 qvtcfg set cpu0 bscan=";
 
 void answer(const std::vector<std::string>& words, std::size_t index, Output& out) {
   const CommandDescription program = describe();
@@ -333,6 +376,11 @@ void answer(const std::vector<std::string>& words, std::size_t index, Output& ou
 ExitCode complete(const std::vector<std::string>& arguments, Output& out) {
   std::size_t index = 0;
   const std::string first = arguments.empty() ? "" : arguments.front();
+  if (first == "-h" || first == "--help") {
+    out.line(kHelp);
+    out.flush();
+    return kDone;
+  }
   const auto [end, error] = std::from_chars(first.data(), first.data() + first.size(), index);
   if (error != std::errc() || end != first.data() + first.size() || index == 0 || index >= arguments.size()) {
     throw Failure(kUsage, "complete: expected INDEX WORD..., with the index of one of the words or of the next one");
