@@ -54,7 +54,7 @@ const ErrorName& error_of(ExitCode code) {
   return error_named("refused");
 }
 
-bool is_about_memory(const std::exception& error) { return dynamic_cast<const std::bad_alloc*>(&error) != nullptr; }
+bool is_out_of_memory(const std::exception& error) { return dynamic_cast<const std::bad_alloc*>(&error) != nullptr; }
 
 std::string without_name(const std::string& message, std::string_view name) {
   const std::string start = std::string(name) + ": ";
@@ -85,8 +85,8 @@ Failure::Failure(const std::string& text, std::vector<SdkDebugDialog::Loss> loss
     : std::runtime_error(text), m_kind(&error_named("wouldLose")), m_losses(std::move(losses)) {}
 
 Failure::Failure(const std::exception& error)
-    : std::runtime_error(is_about_memory(error) ? "out of memory" : error.what()),
-      m_kind(&error_named(is_about_memory(error) ? "outOfMemory" : "system")) {}
+    : std::runtime_error(is_out_of_memory(error) ? "out of memory" : error.what()),
+      m_kind(&error_named(is_out_of_memory(error) ? "outOfMemory" : "system")) {}
 
 Failure::Failure(const SdkDebugDialog::Error& error, const std::string& subject, const std::string& advice,
                  std::string_view name)

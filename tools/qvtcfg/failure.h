@@ -54,7 +54,7 @@ class Failure : public std::runtime_error {
   // Something would be lost: each loss is printed on a line of its own.
   Failure(const std::string& text, std::vector<SdkDebugDialog::Loss> losses);
 
-  // No memory, or another error of the system.
+  // Out of memory, or another error of the system.
   explicit Failure(const std::exception& error);
 
   // An error of the library, with the subject in front of its message and the advice behind it. A message that begins

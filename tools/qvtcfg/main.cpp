@@ -31,31 +31,31 @@ void enter(const std::string& directory) {
   throw Failure(kFile, one_line(directory) + ": " + std::strerror(errno) + "; -C needs a folder");
 }
 
-// The answer for want of memory, which is ready before; empty for text.
-std::string& answer_without_memory() {
+// The answer when the program is out of memory, made beforehand; empty for text.
+std::string& out_of_memory_answer() {
   static std::string text;
   return text;
 }
 
 // Ends the program at once: to unwind can need memory too, because the destructors of JSON values allocate.
-[[noreturn]] void end_without_memory() {
+[[noreturn]] void end_out_of_memory() {
   static std::atomic_flag ending;
   while (ending.test_and_set()) pause();  // another thread ends the program
   constexpr std::string_view kMessage = "qvtcfg: out of memory\n";
-  const std::string& answer = answer_without_memory();
+  const std::string& answer = out_of_memory_answer();
   // What cannot be written cannot be told either.
   if (write(STDERR_FILENO, kMessage.data(), kMessage.size()) < 0) _exit(kFile);
   if (!answer.empty() && write(STDOUT_FILENO, answer.data(), answer.size()) < 0) _exit(kFile);
   _exit(kFile);
 }
 
-void prepare_for_want_of_memory(const Arguments& arguments) {
+void prepare_for_out_of_memory(const Arguments& arguments) {
   if (arguments.json) {
     Output out;
     out.json(answer(arguments.subcommand, Failure(std::bad_alloc())));
-    answer_without_memory() = out.take_text();
+    out_of_memory_answer() = out.take_text();
   }
-  std::set_new_handler(end_without_memory);
+  std::set_new_handler(end_out_of_memory);
 }
 
 ExitCode run(int argc, const char* const* argv, Arguments& arguments) {
@@ -63,7 +63,7 @@ ExitCode run(int argc, const char* const* argv, Arguments& arguments) {
   if (argc > 1 && argv[1] == std::string_view("complete")) return complete({argv + 2, argv + argc}, out);
   ExitCode code = kDone;
   if (const Run command = parse_command_line(argc, argv, arguments, out)) {
-    prepare_for_want_of_memory(arguments);
+    prepare_for_out_of_memory(arguments);
     enter(arguments.directory);
     code = command(arguments, out);
     if (arguments.json) out.json(answer(arguments.subcommand, code, out.take_result()));
