@@ -76,7 +76,7 @@ Lines exit_codes() {
   return numbers;
 }
 
-// The names of the subcommands that can be run; null stands for a command line that is not understood.
+// The names of the subcommands that can be run; null stands for a command line that names none.
 void add_subcommands(const qvtcfg::CommandDescription& command, Lines& names) {
   if (command.commands.empty()) names.push_back(quoted(command.name));
   for (const qvtcfg::CommandDescription& below : command.commands) add_subcommands(below, names);

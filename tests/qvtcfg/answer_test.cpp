@@ -68,6 +68,7 @@ class Answers : public Tool {
         {{"show"}, 2},
         {{"--format=json", "show"}, 2},
         {{"check", "--format", "jsn"}, 2},
+        {{"check", "--format", "sarif"}, 2},
         {{"check", "--explain", "octl-number"}, 2},
         {{"set", "ovrin_0"}, 2},
         {{"set", "ovrin_0", "debug-device=x"}, 2},
@@ -105,10 +106,16 @@ TEST_F(Answers, OfEverySubcommandAndErrorAreValid) {
                                           "refused", "usage", "wouldLose"}));
 }
 
-TEST_F(Answers, NameTheSubcommandUnlessTheCommandLineIsNotUnderstood) {
+TEST_F(Answers, NameTheSubcommandThatWasRecognised) {
   EXPECT_EQ(Json::parse(answer({"show", "ovrin_9"}))["subcommand"], "show");
   EXPECT_EQ(Json::parse(answer({"cable", "parse", "-foo 1"}))["subcommand"], "cable parse");
-  EXPECT_TRUE(Json::parse(answer({"show"}))["subcommand"].is_null());
+  EXPECT_EQ(Json::parse(answer({"show"}))["subcommand"], "show");
+  EXPECT_EQ(Json::parse(answer({"show", "ovrin_0", "--bad"}))["subcommand"], "show");
+  EXPECT_EQ(Json::parse(answer({"copy", "ovrin_0"}))["subcommand"], "copy");
+  EXPECT_EQ(Json::parse(answer({"read", "x"}))["subcommand"], "read");
+  EXPECT_EQ(Json::parse(answer({"cable", "format", "--type"}))["subcommand"], "cable format");
+  EXPECT_TRUE(Json::parse(answer({}))["subcommand"].is_null());
+  EXPECT_TRUE(Json::parse(answer({"cabels"}))["subcommand"].is_null());
   EXPECT_TRUE(Json::parse(answer({"cable"}))["subcommand"].is_null());
 }
 

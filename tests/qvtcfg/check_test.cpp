@@ -254,6 +254,19 @@ TEST_F(Check, ExplainsWhatIsWrongWithItsCommandLine) {
   }
 }
 
+TEST_F(Check, AnswersInJsonOrInAnotherFormat) {
+  for (const std::string format : {"text", "short", "sarif"}) {
+    for (const std::vector<std::string>& rest : std::vector<std::vector<std::string>>{{}, {"--explain"}}) {
+      std::vector<std::string> arguments = {"check", "--format", format, "--json"};
+      arguments.insert(arguments.end(), rest.begin(), rest.end());
+      const Result result = qvtcfg(arguments);
+      EXPECT_EQ(result.code, 2);
+      EXPECT_THAT(result.err, IsComplaint("--format=" + format + ": --json asks for another format; see "));
+      EXPECT_EQ(error_of(result.out)["code"], "usage");
+    }
+  }
+}
+
 // --- Many files ---
 
 TEST_F(Check, AnswersInTheOrderOfThePathsWhateverTheThreadsDo) {
@@ -304,6 +317,7 @@ TEST_F(CheckFormats, JsonHasPlacesFixesAndTotals) {
   const Result result = qvtcfg({"--json", "check"});
   EXPECT_EQ(result.code, 3);
   EXPECT_EQ(result.out, qvtcfg({"check", "--format=json"}).out);
+  EXPECT_EQ(result.out, qvtcfg({"--json", "check", "--format=json"}).out);
   const auto answer = result_of(result.out);
   const auto& file = answer["files"][0];
   EXPECT_EQ(file["file"], "etc/qvt_ovrin_0.opt");

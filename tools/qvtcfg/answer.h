@@ -15,7 +15,7 @@ namespace qvtcfg {
 // Rises when a member changes its meaning or goes; new members may come at any time.
 inline constexpr int kFormatVersion = 1;
 
-// The subcommand is empty if the command line is not understood.
+// The subcommand is empty if none was recognised.
 Json answer(const std::string& subcommand, ExitCode code, Json result);
 Json answer(const std::string& subcommand, const Failure& failure);
 

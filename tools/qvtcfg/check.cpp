@@ -16,6 +16,9 @@ namespace {
 constexpr const char* kSeeHelp = "; see 'qvtcfg check --help'";
 
 void require_sense(const Arguments& arguments) {
+  if (arguments.json && arguments.format.value_or("json") != "json") {
+    throw Failure(kUsage, "--format=" + *arguments.format + ": --json asks for another format" + kSeeHelp);
+  }
   const bool standard_input = std::ranges::find(arguments.operands, "-") != arguments.operands.end();
   if (arguments.fix && standard_input) {
     throw Failure(kUsage, std::string("--fix: standard input cannot be changed; name files") + kSeeHelp);
@@ -38,20 +41,20 @@ CheckReport checked(const Arguments& arguments) {
 void print(const CheckReport& report, const Arguments& arguments, Output& out) {
   if (arguments.json) {
     out.result(report_json(report));
-  } else if (arguments.format == "text") {
-    print_text(report, out);
+  } else if (arguments.format == "sarif") {
+    out.json(sarif(report));
   } else if (arguments.format == "short") {
     print_short(report, out);
   } else {
-    out.json(sarif(report));
+    print_text(report, out);
   }
 }
 
 }  // namespace
 
 ExitCode run_check(const Arguments& arguments, Output& out) {
-  if (arguments.explain) return explain_finding(*arguments.explain, arguments.json, out);
   require_sense(arguments);
+  if (arguments.explain) return explain_finding(*arguments.explain, arguments.json, out);
   const CheckReport report = checked(arguments);
   for (const Checked& text : report.texts) {
     if (!text.error.empty()) complain(text.input.shown + ": " + text.error);

@@ -344,7 +344,7 @@ void unprotect(std::string& text) {
 struct Chosen {
   const Command* command = &kProgram;
   const CLI::App* app = nullptr;
-  std::string name;  // without the program's name; with a blank at the end
+  std::string name;  // "cable parse"; empty for the program
 };
 
 Chosen chosen_command(const CLI::App& program) {
@@ -353,13 +353,13 @@ Chosen chosen_command(const CLI::App& program) {
     chosen.app = parsed.front();
     chosen.command = &*std::ranges::find_if(commands_of(*chosen.command),
                                             [&](const Command& c) { return chosen.app->get_name() == c.name; });
-    chosen.name += chosen.app->get_name() + " ";
+    chosen.name += (chosen.name.empty() ? "" : " ") + chosen.app->get_name();
   }
   return chosen;
 }
 
-Failure usage(const CLI::App& program, const std::string& text) {
-  return {kUsage, text + "; see 'qvtcfg " + chosen_command(program).name + "--help'"};
+Failure usage(const Chosen& chosen, const std::string& text) {
+  return {kUsage, text + "; see 'qvtcfg " + chosen.name + (chosen.name.empty() ? "" : " ") + "--help'"};
 }
 
 std::string suggestion(std::string_view name, const Command& command) {
@@ -377,18 +377,16 @@ std::string why_left_over(const std::string& argument, const Command& command) {
   return "unknown command" + quoted + suggestion(argument, command);
 }
 
-Run chosen_run(const CLI::App& program, Arguments& arguments) {
-  const Chosen chosen = chosen_command(program);
+Run require_run(const Chosen& chosen, const CLI::App& program) {
   const Command& command = *chosen.command;
   std::vector<std::string> left_over = program.remaining(true);
   std::erase(left_over, "--");  // the end-of-options separator
-  if (!left_over.empty()) throw usage(program, why_left_over(left_over.front(), command));
-  if (command.run == nullptr) throw usage(program, "a command is missing: one of " + join(names_of_commands(command)));
-  arguments.subcommand = chosen.name.substr(0, chosen.name.size() - 1);
+  if (!left_over.empty()) throw usage(chosen, why_left_over(left_over.front(), command));
+  if (command.run == nullptr) throw usage(chosen, "a command is missing: one of " + join(names_of_commands(command)));
   return command.run;
 }
 
-// Whether JSON is wanted by a command line that cannot be parsed.
+// Whether a command line that cannot be parsed asks for JSON.
 bool asks_for_json(std::span<const char* const> given) {
   std::string_view before;
   for (const std::string_view argument : given) {
@@ -435,6 +433,7 @@ Run parse_command_line(int argc, const char* const* argv, Arguments& arguments, 
   declare_program(app, arguments);
   std::vector<std::string> given = protected_arguments(argc, argv);
   std::ranges::reverse(given);  // the parser expects them in reverse order
+  std::optional<std::string> parse_error;
   try {
     app.parse(std::move(given));
   } catch (const CLI::CallForHelp&) {
@@ -446,10 +445,13 @@ Run parse_command_line(int argc, const char* const* argv, Arguments& arguments, 
     return nullptr;
   } catch (const CLI::ParseError& error) {
     arguments.json = asks_for_json({argv, argv + argc});
-    throw usage(app, one_line(error.what()));
+    parse_error = one_line(error.what());
   }
+  const Chosen chosen = chosen_command(app);
+  if (chosen.command->run != nullptr) arguments.subcommand = chosen.name;
+  if (parse_error) throw usage(chosen, *parse_error);
   unprotect(arguments.text);
-  return chosen_run(app, arguments);
+  return require_run(chosen, app);
 }
 
 }  // namespace qvtcfg

@@ -22,7 +22,7 @@ struct CableArguments {
 struct Arguments {
   std::string directory;              // working directory; empty: the current one
   std::optional<std::string> design;  // path of the design file; not set: the default path
-  std::string subcommand;             // "cable parse"; empty until the command line is understood
+  std::string subcommand;             // "cable parse"; empty if none that can be run was named
   bool json = false;
   std::optional<std::string> processor;
   std::optional<std::string> setting;    // for explain
@@ -37,7 +37,7 @@ struct Arguments {
   bool exit_code = false;
   bool force = false;
   std::optional<std::string> text_kind;  // command, file or cable
-  std::string format = "text";           // of check
+  std::optional<std::string> format;     // of check
   bool strict = false;
   bool fix = false;
   std::optional<std::string> explain;  // the code of a finding; empty: all
@@ -67,7 +67,7 @@ ExitCode explain_finding(const std::string& code, bool json, Output& out);
 using Run = ExitCode (*)(const Arguments&, Output&);
 
 // Fills the arguments and returns the function to run. Returns null after printing help or version to out. Throws
-// Failure for an invalid command line; whether JSON is wanted is known then as well.
+// Failure for an invalid command line; the subcommand and whether to answer in JSON are known then as well.
 Run parse_command_line(int argc, const char* const* argv, Arguments& arguments, Output& out);
 
 // Writes the text as one line, after "qvtcfg: ", to standard error.
