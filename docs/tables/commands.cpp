@@ -1,4 +1,4 @@
-// The parts of man pages that come from the definitions of the command line and from the catalogue of settings.
+// The parts of documents that come from the definitions of the command line and from the catalogue of settings.
 
 #include <algorithm>
 #include <cctype>
@@ -6,8 +6,10 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "SdkDebugDialog/Settings.h"
+#include "docs/tables/markdown.h"
 #include "docs/tables/print.h"
 #include "docs/tables/roff.h"
 #include "tools/qvtcfg/changes.h"
@@ -93,7 +95,7 @@ std::string small(std::string_view purpose) {
   return text;
 }
 
-// Words in single quotes are in bold type instead. An apostrophe is one behind a letter.
+// Words in single quotes are marked as code instead. An apostrophe is one behind a letter.
 std::string with_code(std::string text) {
   bool open = false;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -104,6 +106,50 @@ std::string with_code(std::string text) {
     open = !open;
   }
   return text;
+}
+
+// --- As it is typed, for Markdown ---
+
+std::string typed_option(const Parameter& option) {
+  std::string text = markdown::joined(option.names);
+  if (option.value.empty()) return text;
+  return text + (option.valueOptional ? " [" + option.value + ']' : ' ' + option.value);
+}
+
+std::string typed_argument(const Parameter& argument) {
+  const std::string more = argument.repeated ? "..." : "";
+  const std::string name = argument.names.front() + more;
+  const std::string text = argument.required ? name : '[' + name + ']';
+  return argument.value.empty() ? text : text + ' ' + argument.value + more;
+}
+
+// An option, with those that need it.
+std::string optional(const Parameter& option, const CommandDescription& command) {
+  std::string text = '[' + typed_option(option);
+  for (const Parameter& other : command.options) {
+    const bool needs = std::ranges::find(other.needs, option.names.back()) != other.needs.end();
+    if (needs) text += ' ' + optional(other, command);
+  }
+  return text + (option.repeated ? "]..." : "]");
+}
+
+std::string typed_command(const CommandDescription& command) {
+  std::string text = command.name;
+  for (const Parameter& argument : command.arguments) text += ' ' + typed_argument(argument);
+  for (const Parameter& option : command.options) {
+    if (!is_help(option) && option.needs.empty()) text += ' ' + optional(option, command);
+  }
+  return text;
+}
+
+// Those below the command that can be run.
+void add_commands(const CommandDescription& in, std::vector<markdown::Row>& rows) {
+  for (const CommandDescription& command : in.commands) {
+    if (command.commands.empty()) {
+      rows.push_back({markdown::code(typed_command(command)), with_code(std::string(command.purpose))});
+    }
+    add_commands(command, rows);
+  }
 }
 
 }  // namespace
@@ -139,6 +185,27 @@ std::string print_commands() {
     items += ".It Xr " + page_of(command) + " 1\n" + roff::lines(roff::sentence(std::string(command.purpose)));
   }
   return roff::list(items);
+}
+
+markdown::Table command_table() {
+  std::vector<markdown::Row> rows;
+  add_commands(program(), rows);
+  return {{"command", "does"}, rows};
+}
+
+markdown::Table parameter_table(const std::string& name) {
+  const CommandDescription& command = command_named(name);
+  std::vector<markdown::Row> rows;
+  for (const Parameter& argument : command.arguments) {
+    rows.push_back({markdown::code(typed_argument(argument)), with_code(argument.meaning)});
+  }
+  for (const Parameter& option : command.options) {
+    if (is_help(option)) continue;
+    std::string meaning = with_code(option.meaning);
+    for (const std::string& needed : option.needs) meaning += "; only with " + markdown::code(needed);
+    rows.push_back({markdown::code(typed_option(option)), meaning});
+  }
+  return {{command.arguments.empty() ? "option" : "argument", "meaning"}, rows};
 }
 
 std::string print_keys() {

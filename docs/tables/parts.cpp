@@ -78,6 +78,12 @@ Links links_of(const std::string& document) {
   return links;
 }
 
+// What follows the word in front, in "synopsis cable format".
+std::optional<std::string> behind(std::string_view word, const std::string& part) {
+  if (!part.starts_with(word)) return std::nullopt;
+  return part.substr(word.size());
+}
+
 std::optional<markdown::Table> table_of(const std::string& part, const Links& links) {
   if (part == "option index") return option_index_table(links);
   if (part == "heads") return head_table();
@@ -87,25 +93,21 @@ std::optional<markdown::Table> table_of(const std::string& part, const Links& li
   if (part == "not read back") return not_read_back_table();
   if (part == "table") return finding_table();
   if (part == "errors") return error_table();
+  if (part == "commands") return command_table();
+  if (const auto command = behind("options ", part)) return parameter_table(*command);
   const std::vector<const Option*> options = options_of(part);
   if (options.empty()) return std::nullopt;
   return options.front()->takes == Option::Takes::pairs ? keyword_table(*options.front()) : option_table(options);
-}
-
-// What follows the word in front, in "synopsis cable format".
-std::optional<std::string> behind(std::string_view word, const std::string& part) {
-  if (!part.starts_with(word)) return std::nullopt;
-  return part.substr(word.size());
 }
 
 std::string print(const std::string& part, const Links& links, bool roff) {
   if (part == "all words") return print_dictionary();
   if (part == "descriptions") return print_finding_descriptions();
   if (part == "codes") return print_finding_codes();
-  if (part == "commands") return print_commands();
   if (part == "keys") return print_keys();
   if (const auto command = behind("synopsis ", part)) return print_synopsis(*command);
-  if (const auto command = behind("options ", part)) return print_parameters(*command);
+  if (roff && part == "commands") return print_commands();
+  if (const auto command = behind("options ", part); roff && command) return print_parameters(*command);
   const std::optional<markdown::Table> table = table_of(part, links);
   if (!table) throw std::runtime_error("there is no part of this name: " + part);
   return roff ? roff::list(*table) : markdown::table(*table);

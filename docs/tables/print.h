@@ -35,8 +35,12 @@ markdown::Table finding_table();
 std::string print_finding_descriptions();
 std::string print_finding_codes();  // for a man page
 
-// --- The command line, for man pages; the commands are called "set", "cable format" ---
+// --- The command line; the commands are called "set", "cable format" ---
 
+markdown::Table command_table();                              // of those that can be run
+markdown::Table parameter_table(const std::string& command);  // its arguments and options
+
+// For man pages:
 std::string print_synopsis(const std::string& command);  // the sections NAME and SYNOPSIS
 std::string print_parameters(const std::string& command);
 std::string print_commands();

@@ -122,6 +122,28 @@ TEST(Documents, PrintTheCommandLine) {
   EXPECT_NE(text.find("\n.It Cm frequency= Ns Ar FREQUENCY\nJTAG clock of the cable.\nIn Hz.\n"), text.npos);
 }
 
+TEST(Documents, HaveCommandsAndOptionsAsTablesInMarkdown) {
+  const std::string commands = with_parts("<!-- printed from the command line: commands -->\n<!-- end -->\n");
+  EXPECT_NE(commands.find("\n| command | does |\n|---|---|\n| `processors` | List the processors of the design |\n"),
+            commands.npos);
+  EXPECT_NE(commands.find("\n| `unset [PROC...] NAME... [--all] [--force] [--dry-run [--exit-code]]` | Put "),
+            commands.npos);
+  EXPECT_NE(commands.find("\n| `cable parse TEXT [--changed] [--all]` | "), commands.npos);
+  EXPECT_EQ(commands.find("\n| `cable` "), commands.npos);
+  const std::string options = with_parts(
+      "<!-- printed from the command line: options copy -->\n<!-- end -->\n"
+      "<!-- printed from the command line: options cable format -->\n<!-- end -->\n");
+  EXPECT_NE(
+      options.find("\n| argument | meaning |\n|---|---|\n| `FROM` | Name of the processor that has the settings |\n"
+                   "| `TO...` | Names of the processors that get them |\n"),
+      options.npos);
+  EXPECT_NE(options.find("\n| `--exit-code` | Exit with 5 when something would change; only with `--dry-run` |\n"),
+            options.npos);
+  EXPECT_NE(
+      options.find("\n| option | meaning |\n|---|---|\n| `--type NAME` | Type of the cable, see `qvtcfg cables` |\n"),
+      options.npos);
+}
+
 TEST(Documents, HaveAManPageForEveryCommand) {
   for (const qvtcfg::CommandDescription& command : qvtcfg::describe().commands) {
     const std::string page = "docs/man/qvtcfg-" + command.name + ".1";

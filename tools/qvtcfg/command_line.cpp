@@ -87,7 +87,9 @@ void take_read(CLI::App& app, Arguments& a) {
 
 void take_processors_and(CLI::App& app, Arguments& a, const char* what, const char* description) {
   app.add_option("PROC", a.operands, description)->type_name(what);
-  app.add_flag("--all", a.all, "All processors to which every setting given applies");
+  app.add_flag(
+      "--all", a.all,
+      "Instead of names: all processors to which every setting given applies; the others are listed with the reason");
   take_change_options(app, a);
 }
 
@@ -130,12 +132,15 @@ void take_check(CLI::App& app, Arguments& a) {
                  "(an option file, as a rule in a file) or cable (the options of cable and chain)")
       ->type_name("KIND")
       ->check(CLI::IsMember({"command", "file", "cable"}));
-  app.add_option("--format", a.format, "How to answer: text, short (a line for each finding), json or sarif")
+  app.add_option("--format", a.format,
+                 "How to answer: text, with the lines and the marks; short, a line for each finding, for editors; "
+                 "json; sarif, for the services that show such results")
       ->type_name("FORMAT")
       ->check(CLI::IsMember({"text", "short", "json", "sarif"}))
       ->each([&a](const std::string& format) { a.json |= format == "json"; });
   app.add_flag("--strict", a.strict, "Exit with 3 for warnings as well");
-  CLI::Option* const fix = app.add_flag("--fix", a.fix, "Make the fixes that are safe, in the files");
+  CLI::Option* const fix = app.add_flag(
+      "--fix", a.fix, "Make the fixes that are safe, and show them; a file is replaced whole or stays as it was");
   app.add_flag("--dry-run", a.dry_run, "Show what --fix would change and store nothing")->needs(fix);
   app.add_option("--explain", a.explain, "Explain the findings with this code; all codes without it")
       ->type_name("CODE")
@@ -151,7 +156,9 @@ void take_cable_parse(CLI::App& app, Arguments& a) {
 void take_cable_format(CLI::App& app, Arguments& a) {
   CableArguments& cable = a.cable;
   app.add_option("--type", cable.type, "Type of the cable, see 'qvtcfg cables'")->type_name("NAME");
-  app.add_option("--frequency", cable.frequency, "Its clock; the type's default if not given")->type_name("HZ");
+  app.add_option("--frequency", cable.frequency,
+                 "Its clock, one that the cable supports, or 0; the type's default if not given")
+      ->type_name("HZ");
   app.add_option("--port", cable.port, "Its port; the type's default if not given")->type_name("PORT");
   app.add_option("--esn", cable.esn, "Its serial number, written instead of frequency and port")->type_name("ESN");
   app.add_option("--module", cable.module, "Module of a zarvek_plugin cable")->type_name("NAME");
@@ -161,7 +168,8 @@ void take_cable_format(CLI::App& app, Arguments& a) {
   app.add_option("--device", cable.devices, "The next device of the JTAG chain; may be given again")
       ->type_name("NR,PART,IRLENGTH,IDCODE")
       ->allow_extra_args(false);
-  app.add_option("--debug-device", cable.debug_device, "Number of the debug device in the chain")->type_name("NR");
+  app.add_option("--debug-device", cable.debug_device, "Number of the debug device in the chain, 0 to 127; 0 for none")
+      ->type_name("NR");
 }
 
 std::string program_help() {
