@@ -18,19 +18,18 @@ std::string joined(const std::vector<std::string>& texts, std::string_view separ
 }
 
 std::string table(const Table& table) {
-  const auto& [head, rows] = table;
   const auto line = [&](const Row& cells) {
     std::string text = "|";
-    for (std::size_t column = 0; column < head.size(); ++column) {
-      if (std::ranges::all_of(rows, [&](const Row& row) { return row[column].empty(); })) continue;
+    for (std::size_t column = 0; column < table.head.size(); ++column) {
+      if (std::ranges::all_of(table.rows, [&](const Row& row) { return row[column].empty(); })) continue;
       text += cells[column].empty() ? " |" : ' ' + cells[column] + " |";
     }
     return text + '\n';
   };
-  std::string rule = line(Row(head.size(), "---"));
+  std::string rule = line(Row(table.head.size(), "---"));
   std::erase(rule, ' ');
-  std::string text = line(head) + rule;
-  for (const Row& row : rows) text += line(row);
+  std::string text = line(table.head) + rule;
+  for (const Row& row : table.rows) text += line(row);
   return text;
 }
 
