@@ -229,14 +229,15 @@ class Changes {
     const Json before = object;
     const bool optional = path.ends_with("/settings") || is_group(path);
     for (const auto& [name, value] : before.items()) {
+      const std::string member = std::string(path).append("/").append(name);
       if (!optional) {
         object.erase(name);
-        expect_invalid(path + "/" + name + ": missing");
+        expect_invalid(member + ": missing");
       }
       object[name] = Json::array({Json::array()});
-      expect_invalid(path + "/" + name + ": another type");
+      expect_invalid(member + ": another type");
       object[name] = value;
-      visit(object[name], path + "/" + name);
+      visit(object[name], member);
       if (is_group(path)) break;  // one setting stands for all of its group
     }
   }

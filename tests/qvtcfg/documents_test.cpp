@@ -98,9 +98,10 @@ class DocumentedSessions : public Tool, public testing::WithParamInterface<std::
       }
       std::filesystem::create_directories((folder() / path).parent_path());
       write(path + ".cpp", block.text());
-      const Result compiled =
-          shell(".bin/c++ -std=c++17 -I" PROJECT_SOURCE_DIR "/include -I" BUILD_FOLDER "/include " + path + ".cpp -o " +
-                path + " -L" BUILD_FOLDER " -lSdkDebugDialogDesignFile -lSdkDebugDialog -Wl,-rpath," BUILD_FOLDER);
+      const Result compiled = shell("program=" + path +
+                                    "; .bin/c++ -std=c++17 -I" PROJECT_SOURCE_DIR "/include -I" BUILD_FOLDER
+                                    "/include $program.cpp -o $program -L" BUILD_FOLDER
+                                    " -lSdkDebugDialogDesignFile -lSdkDebugDialog -Wl,-rpath," BUILD_FOLDER);
       EXPECT_EQ(compiled.code, 0) << path << ": " << compiled.err;
     }
   }

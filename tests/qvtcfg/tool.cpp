@@ -77,7 +77,7 @@ Result Tool::run(const std::vector<std::string>& command, const std::string& inp
 Result Tool::qvtcfg(std::vector<std::string> arguments, const std::string& input) const {
   const bool answers = asks_for_answer(arguments);
   arguments.insert(arguments.begin(), QVTCFG);
-  const Result result = run(arguments, input);
+  Result result = run(arguments, input);
   if (answers) expect_answer(result.out, result.code);
   return result;
 }
