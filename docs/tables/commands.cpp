@@ -1,8 +1,8 @@
 // The parts of documents that come from the definitions of the command line and from the catalogue of settings.
 
 #include <algorithm>
-#include <cctype>
 #include <cstddef>
+#include <locale>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -91,7 +91,7 @@ std::string page_of(const CommandDescription& command) {
 
 std::string small(std::string_view purpose) {
   std::string text(purpose);
-  text.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(text.front())));
+  text.front() = std::tolower(text.front(), std::locale::classic());
   return text;
 }
 
@@ -100,7 +100,7 @@ std::string with_code(std::string text) {
   bool open = false;
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (text[i] != '\'') continue;
-    const bool opens = i == 0 || std::isalnum(static_cast<unsigned char>(text[i - 1])) == 0;
+    const bool opens = i == 0 || !std::isalnum(text[i - 1], std::locale::classic());
     if (!open && !opens) continue;
     text[i] = '`';
     open = !open;

@@ -1,7 +1,7 @@
 #include "docs/tables/roff.h"
 
-#include <cctype>
 #include <cstddef>
+#include <locale>
 #include <vector>
 
 namespace roff {
@@ -22,7 +22,7 @@ std::string text(std::string_view markdown) {
     } else {
       out += c;
     }
-    inWord = std::isalnum(static_cast<unsigned char>(c)) != 0 || (c == '.' && inWord);
+    inWord = std::isalnum(c, std::locale::classic()) || (c == '.' && inWord);
   }
   return out;
 }
@@ -52,7 +52,7 @@ std::string lines(std::string_view markdown) {
 std::string sentence(std::string_view markdown) {
   std::string out(markdown);
   if (out.empty()) return out;
-  out.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(out.front())));
+  out.front() = std::toupper(out.front(), std::locale::classic());
   return out.ends_with('.') ? out : out + '.';
 }
 
