@@ -1,5 +1,6 @@
 # shellcheck shell=sh
 # Sourced by the other scripts: builds the reference documentation.
+. scripts/version.sh
 
 # Afterwards the pages are in build/docs/html, or all warnings have been printed and the pages are gone.
 build_reference() {
@@ -9,8 +10,7 @@ build_reference() {
   mkdir -p $headers/platform
   ln -s "$PWD"/include/SdkDebugDialog/*.h $headers
   ln -s "$PWD"/platform/ComMsgMgr.h "$PWD"/platform/DesignFile.h "$PWD"/platform/HHSMHwManager.h $headers/platform
-  version=$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
-  if ! VERSION=$version doxygen docs/Doxyfile || ! python3 docs/links.py build/docs/html; then
+  if ! VERSION=$(version_in .) doxygen docs/Doxyfile || ! python3 docs/links.py build/docs/html; then
     rm -rf build/docs
     return 1
   fi

@@ -53,13 +53,19 @@ std::string with_value(const Parameter& option) {
   return text + (option.valueOptional ? " Op Ar " : " Ar ") + roff::text(option.value);
 }
 
+// The options that cannot be given without this one.
+std::vector<const Parameter*> needing(const Parameter& option, const CommandDescription& command) {
+  std::vector<const Parameter*> found;
+  for (const Parameter& other : command.options) {
+    if (std::ranges::find(other.needs, option.names.back()) != other.needs.end()) found.push_back(&other);
+  }
+  return found;
+}
+
 // An option, with those that need it.
 std::string in_synopsis(const Parameter& option, const CommandDescription& command) {
   std::string text = "Op " + with_value(option) + (option.repeated ? " No ..." : "");
-  for (const Parameter& other : command.options) {
-    const bool needs = std::ranges::find(other.needs, option.names.back()) != other.needs.end();
-    if (needs) text += ' ' + in_synopsis(other, command);
-  }
+  for (const Parameter* const other : needing(option, command)) text += ' ' + in_synopsis(*other, command);
   return text;
 }
 
@@ -89,22 +95,9 @@ std::string page_of(const CommandDescription& command) {
   return &command == &program() ? command.name : "qvtcfg-" + command.name;
 }
 
-std::string small(std::string_view purpose) {
+std::string with_small_initial(std::string_view purpose) {
   std::string text(purpose);
   text.front() = std::tolower(text.front(), std::locale::classic());
-  return text;
-}
-
-// Words in single quotes are marked as code instead. An apostrophe is one behind a letter.
-std::string with_code(std::string text) {
-  bool open = false;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] != '\'') continue;
-    const bool opens = i == 0 || !std::isalnum(text[i - 1], std::locale::classic());
-    if (!open && !opens) continue;
-    text[i] = '`';
-    open = !open;
-  }
   return text;
 }
 
@@ -126,10 +119,7 @@ std::string typed_argument(const Parameter& argument) {
 // An option, with those that need it.
 std::string optional(const Parameter& option, const CommandDescription& command) {
   std::string text = '[' + typed_option(option);
-  for (const Parameter& other : command.options) {
-    const bool needs = std::ranges::find(other.needs, option.names.back()) != other.needs.end();
-    if (needs) text += ' ' + optional(other, command);
-  }
+  for (const Parameter* const other : needing(option, command)) text += ' ' + optional(*other, command);
   return text + (option.repeated ? "]..." : "]");
 }
 
@@ -146,7 +136,7 @@ std::string typed_command(const CommandDescription& command) {
 void add_commands(const CommandDescription& in, std::vector<markdown::Row>& rows) {
   for (const CommandDescription& command : in.commands) {
     if (command.commands.empty()) {
-      rows.push_back({markdown::code(typed_command(command)), with_code(std::string(command.purpose))});
+      rows.push_back({markdown::code(typed_command(command)), markdown::with_code(command.purpose)});
     }
     add_commands(command, rows);
   }
@@ -156,8 +146,8 @@ void add_commands(const CommandDescription& in, std::vector<markdown::Row>& rows
 
 std::string print_synopsis(const std::string& name) {
   const CommandDescription& command = command_named(name);
-  std::string text =
-      ".Sh NAME\n.Nm " + page_of(command) + "\n.Nd " + roff::text(small(command.purpose)) + "\n.Sh SYNOPSIS\n";
+  std::string text = ".Sh NAME\n.Nm " + page_of(command) + "\n.Nd " + roff::text(with_small_initial(command.purpose)) +
+                     "\n.Sh SYNOPSIS\n";
   if (command.commands.empty() || &command == &program()) return text + usage(command);
   for (const CommandDescription& c : command.commands) text += usage(c);
   return text;
@@ -169,11 +159,11 @@ std::string print_parameters(const std::string& name) {
   for (const Parameter& argument : command.arguments) {
     items += ".It Ar " + roff::text(argument.names.front());
     if (!argument.value.empty()) items += " ... " + roff::text(argument.value);
-    items += (argument.repeated ? " ...\n" : "\n") + roff::lines(roff::sentence(with_code(argument.meaning)));
+    items += (argument.repeated ? " ...\n" : "\n") + roff::lines(roff::sentence(markdown::with_code(argument.meaning)));
   }
   for (const Parameter& option : command.options) {
     if (is_help(option) && &command != &program()) continue;
-    items += ".It " + with_value(option) + '\n' + roff::lines(roff::sentence(with_code(option.meaning)));
+    items += ".It " + with_value(option) + '\n' + roff::lines(roff::sentence(markdown::with_code(option.meaning)));
     for (const std::string& needed : option.needs) items += "Only with\n." + flag(needed) + " .\n";
   }
   return roff::list(items);
@@ -197,11 +187,11 @@ markdown::Table parameter_table(const std::string& name) {
   const CommandDescription& command = command_named(name);
   std::vector<markdown::Row> rows;
   for (const Parameter& argument : command.arguments) {
-    rows.push_back({markdown::code(typed_argument(argument)), with_code(argument.meaning)});
+    rows.push_back({markdown::code(typed_argument(argument)), markdown::with_code(argument.meaning)});
   }
   for (const Parameter& option : command.options) {
     if (is_help(option)) continue;
-    std::string meaning = with_code(option.meaning);
+    std::string meaning = markdown::with_code(option.meaning);
     for (const std::string& needed : option.needs) meaning += "; only with " + markdown::code(needed);
     rows.push_back({markdown::code(typed_option(option)), meaning});
   }
@@ -212,7 +202,7 @@ std::string print_keys() {
   std::string items;
   for (const qvtcfg::Key& key : qvtcfg::keys()) {
     items += ".It Cm " + roff::text(key.setting->name) + "= Ns Ar " + roff::text(key.takes) + '\n' +
-             roff::lines(roff::sentence(with_code(key.about)));
+             roff::lines(roff::sentence(markdown::with_code(key.about)));
     if (!key.setting->unit.empty()) items += roff::lines("In " + std::string(key.setting->unit) + '.');
   }
   return roff::list(items);

@@ -7,18 +7,10 @@
 #include "docs/tables/markdown.h"
 #include "docs/tables/print.h"
 #include "docs/tables/roff.h"
+#include "tools/qvtcfg/finding_text.h"
 
 namespace SdkDebugDialog {
 namespace {
-
-// The texts have words of the command in single quotes, and no apostrophes.
-std::string with_code(std::string_view text) {
-  std::string out(text);
-  for (char& c : out) {
-    if (c == '\'') c = '`';
-  }
-  return out;
-}
 
 // What would not be seen is spelled, but for line feeds between lines.
 std::string visible(std::string_view text) {
@@ -39,27 +31,17 @@ std::string visible(std::string_view text) {
   return out;
 }
 
+std::string severity(const FindingKind& kind) { return std::string(qvtcfg::severity_name(kind.severity)); }
+
 std::string heading(const FindingKind& kind) { return "### " + std::string(kind.code); }
 
 }  // namespace
 
-const char* severity_name(Severity severity) {
-  switch (severity) {
-    case Severity::error:
-      return "error";
-    case Severity::warning:
-      return "warning";
-    case Severity::note:
-      return "note";
-  }
-  return "";
-}
-
 markdown::Table finding_table() {
   std::vector<markdown::Row> rows;
   for (const FindingKind& kind : finding_kinds()) {
-    rows.push_back({'[' + markdown::code(kind.code) + "](" + markdown::link_to(heading(kind)) + ')',
-                    severity_name(kind.severity), std::string(kind.title)});
+    rows.push_back({'[' + markdown::code(kind.code) + "](" + markdown::link_to(heading(kind)) + ')', severity(kind),
+                    std::string(kind.title)});
   }
   return {{"code", "severity", "what is wrong"}, rows};
 }
@@ -67,8 +49,7 @@ markdown::Table finding_table() {
 std::string print_finding_codes() {
   std::string items;
   for (const FindingKind& kind : finding_kinds()) {
-    items +=
-        ".It Sy " + std::string(kind.code) + " Pq " + severity_name(kind.severity) + '\n' + roff::lines(kind.title);
+    items += ".It Sy " + std::string(kind.code) + " Pq " + severity(kind) + '\n' + roff::lines(kind.title);
   }
   return roff::list(items);
 }
@@ -76,9 +57,10 @@ std::string print_finding_codes() {
 std::string print_finding_descriptions() {
   std::string text;
   for (const FindingKind& kind : finding_kinds()) {
-    text += '\n' + heading(kind) + "\n\n" + severity_name(kind.severity) + ": **" + std::string(kind.title) + "**\n\n" +
-            with_code(kind.meaning) + "\n\n" + (kind.exampleKind == TextKind::optionFile ? "An option file:\n\n" : "") +
-            "```\n" + visible(kind.example) + "\n```\n\n" + with_code(kind.advice) + '\n';
+    text += '\n' + heading(kind) + "\n\n" + severity(kind) + ": **" + std::string(kind.title) + "**\n\n" +
+            markdown::with_code(kind.meaning) + "\n\n" +
+            (kind.exampleKind == TextKind::optionFile ? "An option file:\n\n" : "") + "```\n" + visible(kind.example) +
+            "\n```\n\n" + markdown::with_code(kind.advice) + '\n';
   }
   return text + '\n';
 }

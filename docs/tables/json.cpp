@@ -11,6 +11,7 @@
 #include "docs/tables/print.h"
 #include "tools/qvtcfg/description.h"
 #include "tools/qvtcfg/failure.h"
+#include "tools/qvtcfg/finding_text.h"
 
 namespace SdkDebugDialog {
 namespace {
@@ -18,7 +19,7 @@ namespace {
 // Lines of JSON, without the commas between them.
 using Lines = std::vector<std::string>;
 
-std::string quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
+std::string json_string(std::string_view text) { return '"' + std::string(text) + '"'; }
 
 std::string reference(std::string_view definition) {
   return R"({"$ref": "#/definitions/)" + std::string(definition) + "\"}";
@@ -27,7 +28,7 @@ std::string reference(std::string_view definition) {
 // A member whose value is an array or an object; the content has the lines of one element each.
 std::string member(std::string_view name, char open, const Lines& elements, char close,
                    const std::string& indentation) {
-  std::string all = indentation + quoted(name) + ": " + open;
+  std::string all = indentation + json_string(name) + ": " + open;
   for (const std::string& element : elements) {
     all += (&element == &elements.front() ? "\n" : ",\n");
     // Elements of several lines bring their own indentation.
@@ -47,24 +48,24 @@ std::string object(std::string_view name, const Lines& members, const std::strin
 
 Lines setting_names() {
   Lines names;
-  for (const Setting& setting : settings()) names.push_back(quoted(setting.name));
+  for (const Setting& setting : settings()) names.push_back(json_string(setting.name));
   return names;
 }
 
 Lines finding_codes() {
   Lines codes;
-  for (const FindingKind& kind : finding_kinds()) codes.push_back(quoted(kind.code));
+  for (const FindingKind& kind : finding_kinds()) codes.push_back(json_string(kind.code));
   return codes;
 }
 
 Lines severities() {
-  return {quoted(severity_name(Severity::error)), quoted(severity_name(Severity::warning)),
-          quoted(severity_name(Severity::note))};
+  return {json_string(qvtcfg::severity_name(Severity::error)), json_string(qvtcfg::severity_name(Severity::warning)),
+          json_string(qvtcfg::severity_name(Severity::note))};
 }
 
 Lines error_codes() {
   Lines codes;
-  for (const qvtcfg::ErrorName& error : qvtcfg::error_names()) codes.push_back(quoted(error.name));
+  for (const qvtcfg::ErrorName& error : qvtcfg::error_names()) codes.push_back(json_string(error.name));
   return codes;
 }
 
@@ -78,7 +79,7 @@ Lines exit_codes() {
 
 // The names of the subcommands that can be run; null stands for a command line that names none.
 void add_subcommands(const qvtcfg::CommandDescription& command, Lines& names) {
-  if (command.commands.empty()) names.push_back(quoted(command.name));
+  if (command.commands.empty()) names.push_back(json_string(command.name));
   for (const qvtcfg::CommandDescription& below : command.commands) add_subcommands(below, names);
 }
 
@@ -92,7 +93,7 @@ Lines subcommands() {
 // The values of a setting. What a command tells about no processor of the design is null.
 std::string values(const Setting& setting) {
   Lines words;
-  for (const std::string_view word : setting.words) words.push_back(quoted(word));
+  for (const std::string_view word : setting.words) words.push_back(json_string(word));
   switch (setting.kind) {
     case SettingKind::flag:
       return R"({"type": "boolean"})";
@@ -116,7 +117,7 @@ std::string values(const Setting& setting) {
 
 Lines values_of_settings() {
   Lines all;
-  for (const Setting& setting : settings()) all.push_back(quoted(setting.name) + ": " + values(setting));
+  for (const Setting& setting : settings()) all.push_back(json_string(setting.name) + ": " + values(setting));
   return all;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <locale>
 
 namespace markdown {
 
@@ -15,6 +16,19 @@ std::string joined(const std::vector<std::string>& texts, std::string_view separ
     all += text;
   }
   return all;
+}
+
+std::string with_code(std::string_view quoted) {
+  std::string text(quoted);
+  bool open = false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] != '\'') continue;
+    const bool opens = i == 0 || !std::isalnum(text[i - 1], std::locale::classic());
+    if (!open && !opens) continue;
+    text[i] = '`';
+    open = !open;
+  }
+  return text;
 }
 
 std::string table(const Table& table) {

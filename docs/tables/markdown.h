@@ -10,6 +10,9 @@ namespace markdown {
 
 std::string code(std::string_view text);
 
+// Words in single quotes are marked as code instead. An apostrophe is one behind a letter.
+std::string with_code(std::string_view text);
+
 // The texts that are not empty.
 std::string joined(const std::vector<std::string>& texts, std::string_view separator = ", ");
 

@@ -30,7 +30,6 @@ std::string print_dictionary();
 
 // --- The kinds of findings ---
 
-const char* severity_name(Severity severity);
 markdown::Table finding_table();
 std::string print_finding_descriptions();
 std::string print_finding_codes();  // for a man page

@@ -66,8 +66,9 @@ std::string list(const markdown::Table& table) {
       const std::string& cell = row[column];
       const std::string& head = table.head[column];
       if (cell.empty()) continue;
-      const bool speaks = (head == "value" && cell != "none") || head == "for" || head == "because";
-      items += lines(sentence(speaks ? cell : std::string(head).append(": ").append(cell)));
+      // What these columns hold is clear without their head.
+      const bool isClear = (head == "value" && cell != "none") || head == "for" || head == "because";
+      items += lines(sentence(isClear ? cell : std::string(head).append(": ").append(cell)));
     }
   }
   return list(items);

@@ -320,7 +320,7 @@ Offer offer_of(const CommandDescription& program, const TypedLine& line) {
   }
   if (line.operands.empty()) {
     for (const CommandDescription& command : line.command->commands) {
-      offer.add(command.name.substr(command.name.rfind(' ') + 1), command.purpose);
+      offer.add(own_name(command), command.purpose);
     }
   }
   if (const Parameter* const argument = argument_at(*line.command, line.place)) {

@@ -28,6 +28,11 @@ struct CommandDescription {
   std::vector<CommandDescription> commands;
 };
 
+// The last word of its name, as it is typed behind the command that it belongs to.
+inline std::string own_name(const CommandDescription& command) {
+  return command.name.substr(command.name.rfind(' ') + 1);
+}
+
 // The program with all its commands.
 CommandDescription describe();
 

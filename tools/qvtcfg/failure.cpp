@@ -37,7 +37,7 @@ const ErrorName& error_of(ErrorCode code) {
   return error_named(kNames[static_cast<std::size_t>(code)]);
 }
 
-// The error of this exit code that says least.
+// The most general error with this exit code.
 const ErrorName& error_of(ExitCode code) {
   switch (code) {
     case kUsage:

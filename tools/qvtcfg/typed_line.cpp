@@ -79,7 +79,7 @@ class Reading {
 
   void read_operand(const std::string& word) {
     for (const CommandDescription& command : m_line.command->commands) {
-      if (command.name.substr(command.name.rfind(' ') + 1) != word) continue;
+      if (own_name(command) != word) continue;
       m_line.command = &command;
       m_line.place = 0;
       return;
