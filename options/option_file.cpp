@@ -4,8 +4,8 @@
 #include <boost/filesystem/operations.hpp>
 #include <boost/filesystem/path.hpp>
 #include <string_view>
+#include <utility>
 
-#include "util/guarded_file.h"
 #include "util/regular_file.h"
 #include "util/replace_file.h"
 
@@ -19,7 +19,7 @@ fs::path option_path(const std::string& processor) {
   boost::system::error_code error;
   const fs::path directory = fs::current_path(error);
   if (error || processor.find('\0') != std::string::npos) return {};
-  return directory.string() + "/etc/qvt_" + processor + ".opt";
+  return directory.string() + "/" + option_file_path(processor);
 }
 
 std::string_view without_empty_lines(std::string_view content) {
@@ -28,6 +28,28 @@ std::string_view without_empty_lines(std::string_view content) {
 }
 
 }  // namespace
+
+std::string option_file_path(std::string_view processor) {
+  return std::string("etc/qvt_").append(processor).append(".opt");
+}
+
+Expected<FileContent> content_of(const std::string& path) {
+  FileContent file = read_whole_file(path, kLargestFile);
+  if (!file.error.empty()) return Error{ErrorCode::file, path + ": " + file.error, {}};
+  return file;
+}
+
+Error changed_meanwhile(const std::string& path, bool wasRead) {
+  const char* const why =
+      wasRead ? ": the file has changed since it was read; read it again" : ": there is such a file already";
+  return {ErrorCode::changedMeanwhile, path + why, {}};
+}
+
+Expected<std::optional<std::string>> read_option_file(const std::string& path) {
+  Expected<FileContent> file = content_of(path);
+  if (!file) return file.error();
+  return file->exists ? std::optional(std::move(file->bytes)) : std::nullopt;
+}
 
 std::string_view option_line(std::string_view content) {
   content = without_empty_lines(content);
@@ -53,12 +75,13 @@ bool write_option_file(const std::string& processor, const std::string& text) {
   return replace_file(option_path(processor), text);
 }
 
-Expected<void> replace_option_file(const std::string& path, std::string_view expected, std::string_view text) {
-  const FileContent content = {.exists = true, .bytes = std::string(expected), .error = {}};
+Expected<void> replace_option_file(const std::string& path, const std::optional<std::string>& expected,
+                                   std::string_view text) {
+  const FileContent content = {.exists = expected.has_value(), .bytes = expected.value_or(""), .error = {}};
   const ReplaceResult replaced = replace_file_if_unchanged(path, content, text);
   if (replaced.result == Replaced::done) return {};
   if (replaced.result == Replaced::failed) return Error{ErrorCode::file, path + ": " + replaced.error, {}};
-  return Error{ErrorCode::changedMeanwhile, path + ": the file has changed since it was read; read it again", {}};
+  return changed_meanwhile(path, expected.has_value());
 }
 
 }  // namespace SdkDebugDialog

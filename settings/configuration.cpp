@@ -16,12 +16,9 @@
 #include "settings/edit.h"
 #include "settings/engine_text.h"
 #include "settings/words.h"
-#include "util/guarded_file.h"
 
 namespace SdkDebugDialog {
 namespace {
-
-constexpr std::size_t kLargestFile = std::size_t{16} << 20;  // bytes
 
 std::string quoted(std::string_view name) { return "'" + std::string(name) + "'"; }
 
@@ -179,16 +176,6 @@ Expected<Configuration> Configuration::read(Processor processor, std::string_vie
   if (!content.state.hasDesign) content.defaults = defaults_told_by(content.state);
   return configuration;
 }
-
-namespace {
-
-Expected<FileContent> content_of(const std::string& path) {
-  FileContent file = read_whole_file(path, kLargestFile);
-  if (!file.error.empty()) return Error{ErrorCode::file, path + ": " + file.error, {}};
-  return file;
-}
-
-}  // namespace
 
 Expected<Configuration> Configuration::open(Processor processor, const std::string& path) {
   Expected<FileContent> file = content_of(path);
@@ -420,10 +407,7 @@ Expected<Edit> Configuration::store(const Edit& edit, const std::string& path, O
   const bool isOwn = is_same_path(path, c.path);
   const bool overwrites = !isOwn && onLoss == OnLoss::goOn;
   const FileContent expected = isOwn ? c.file : FileContent();
-  const Error changed = {
-      ErrorCode::changedMeanwhile,
-      path + (isOwn ? ": the file has changed since it was read; read it again" : ": there is such a file already"),
-      {}};
+  const Error changed = changed_meanwhile(path, isOwn);
   if (isOwn && edit.text == c.file.bytes) {
     const FileContent now = read_whole_file(path, kLargestFile);
     if (now.exists != expected.exists || now.bytes != expected.bytes) return changed;
