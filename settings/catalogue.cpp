@@ -737,6 +737,23 @@ const SettingRow& row_named(std::string_view name) { return row_of(*find_setting
 
 const std::vector<Setting>& settings() { return catalogue().settings; }
 
+const std::vector<SettingGroup>& setting_groups() {
+  static const std::vector<SettingGroup> groups = {
+      {"identity", "Processor"},
+      {"connection", "Connection"},
+      {"stub", "Stub"},
+      {"simulator", "Simulator"},
+      {"virtual-platform", "Virtual platform"},
+      {"hardware-simulator", "Hardware simulator"},
+      {"debug-device", "Debug device"},
+      {"address-map", "Address map"},
+      {"memories", "Memories"},
+      {"cable", "Cable"},
+      {"jtag-chain", "JTAG chain"},
+  };
+  return groups;
+}
+
 const Setting* find_setting(std::string_view name) {
   const auto found = std::ranges::find(settings(), name, &Setting::name);
   return found != settings().end() ? &*found : nullptr;

@@ -64,8 +64,18 @@ struct Setting {
   std::vector<std::string_view> words = {};
 };
 
+/// A group of settings: a tab or a heading of a form.
+/// Fields are added at its end, in a major version only.
+struct SettingGroup {
+  std::string_view name;   ///< Setting::group of its settings, such as "jtag-chain"
+  std::string_view label;  ///< for a form, such as "JTAG chain"
+};
+
 /// Every setting, in the order in which changes are applied: a setting comes before those that depend on it.
 SDKDEBUGDIALOG_API const std::vector<Setting>& settings();
+
+/// Every group, in the order of settings().
+SDKDEBUGDIALOG_API const std::vector<SettingGroup>& setting_groups();
 
 /// The setting of a name; null when there is none.
 SDKDEBUGDIALOG_API const Setting* find_setting(std::string_view name);
