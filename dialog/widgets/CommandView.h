@@ -58,12 +58,12 @@ class CommandView : public QPlainTextEdit {
   bool viewportEvent(QEvent* event) override;
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   void take_typed_text();
+  void describe_caret();
   void replace_text(const QString& text);
   void colour_text();
   void use_fixed_font();
