@@ -1,5 +1,6 @@
 #include "check_inputs.h"
 
+#include <SdkDebugDialog/OptionFile.h>
 #include <dirent.h>
 #include <sys/stat.h>
 
@@ -19,6 +20,7 @@ namespace qvtcfg {
 namespace {
 
 using SdkDebugDialog::Design;
+using SdkDebugDialog::option_file_path;
 using SdkDebugDialog::TextKind;
 
 constexpr std::string_view kPrefix = "qvt_";
@@ -42,10 +44,6 @@ TextKind kind_of(const std::optional<std::string>& given, TextKind otherwise) {
   if (!given) return otherwise;
   if (*given == "command") return TextKind::command;
   return *given == "cable" ? TextKind::cableText : TextKind::optionFile;
-}
-
-std::string option_file_of(std::string_view processor) {
-  return std::string("etc/").append(kPrefix).append(processor).append(kSuffix);
 }
 
 // The option files in a folder, sorted; with the folder's own name in front. errno tells why the folder cannot be read,
@@ -121,7 +119,7 @@ class Finder {
   }
 
   void add_processor(const std::string& name) {
-    const std::string path = option_file_of(name);
+    const std::string path = option_file_path(name);
     struct stat status = {};
     if (lstat(path.c_str(), &status) != 0 && errno == ENOENT) {
       m_found.defaults.push_back(name);
@@ -134,7 +132,7 @@ class Finder {
     struct stat status = {};
     if (stat(operand.c_str(), &status) != 0) {
       const int why = errno;
-      if (is_processor_that_is_gone(operand)) return add_file(option_file_of(operand));
+      if (is_processor_that_is_gone(operand)) return add_file(option_file_path(operand));
       add_file(operand, why == ENOENT ? "no such file" + hint(operand) : std::strerror(why));
     } else if (S_ISDIR(status.st_mode)) {
       add_folder(operand);
@@ -145,7 +143,7 @@ class Finder {
 
   static bool is_processor_that_is_gone(const std::string& operand) {
     struct stat status = {};
-    return operand.find('/') == std::string::npos && lstat(option_file_of(operand).c_str(), &status) == 0;
+    return operand.find('/') == std::string::npos && lstat(option_file_path(operand).c_str(), &status) == 0;
   }
 
   // What may be meant by the name of a file that is not there.

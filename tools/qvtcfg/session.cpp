@@ -5,10 +5,9 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <system_error>
+#include <utility>
 
 #include "failure.h"
 #include "given_text.h"
@@ -24,7 +23,9 @@ using SdkDebugDialog::ErrorCode;
 using SdkDebugDialog::kLongestLine;
 using SdkDebugDialog::Loss;
 using SdkDebugDialog::OnLoss;
+using SdkDebugDialog::option_file_path;
 using SdkDebugDialog::Processor;
+using SdkDebugDialog::read_option_file;
 using SdkDebugDialog::TextKind;
 
 constexpr const char* kDefaultDesign = "design.json";
@@ -33,16 +34,6 @@ std::string_view first_line(std::string_view content) {
   content.remove_prefix(std::min(content.find_first_not_of('\n'), content.size()));
   return content.substr(0, content.find('\n'));
 }
-
-std::optional<std::string> content_of(const std::string& path) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(file), {});
-}
-
-std::string option_file_path(const Processor& processor) { return "etc/qvt_" + processor.name() + ".opt"; }
 
 }  // namespace
 
@@ -66,16 +57,17 @@ Processor find_processor(const Design& design, const std::string& name) {
 }
 
 OptionFile file_at(const std::string& path, const Arguments& arguments) {
-  return {path, arguments.seen_from_outside(path), content_of(path)};
+  auto content = read_option_file(path);
+  return {path, arguments.seen_from_outside(path), content ? std::move(*content) : std::nullopt};
 }
 
 OptionFile option_file_of(const Processor& processor, const Arguments& arguments) {
-  return file_at(option_file_path(processor), arguments);
+  return file_at(option_file_path(processor.name()), arguments);
 }
 
 Configuration open_configuration(const Processor& processor, const OptionFile& file) {
   std::string advice = "; correct the file";
-  if (file.path == option_file_path(processor)) {
+  if (file.path == option_file_path(processor.name())) {
     advice += ", or replace it with 'qvtcfg read " + processor.name() + " TEXT --write'";
   }
   const std::string_view line = first_line(file.content ? *file.content : std::string_view());
