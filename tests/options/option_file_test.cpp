@@ -20,14 +20,17 @@
 #include <ctime>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <string>
 #include <thread>
 #include <utility>
 #include <vector>
 
+#include "SdkDebugDialog/Expected.h"
 #include "options/QvtOption_Parser.h"
 #include "tests/options/reading.h"
 #include "tests/options/work_folder.h"
+#include "tests/support/GlobalLocale.h"
 #include "tests/support/OptionFileWriter.h"
 #include "tests/support/become_nobody.h"
 #include "tests/support/in_child.h"
@@ -722,6 +725,94 @@ TEST_F(OptionFileOfOthers, IsWrittenAndTemporaryFilesThatMayNotBeOpenedAreRemove
   set_age(etc() / kLeft, 61min);
   EXPECT_EQ(generate_as_nobody(), 0);
   expect_names({"qvt_p.opt"});
+}
+
+// --- As a text of its own ---
+
+using Content = std::optional<std::string>;
+
+// What is read; "CODE MESSAGE" of an error.
+template <class Value>
+std::string error_of(const Expected<Value>& result) {
+  if (result) return "";
+  constexpr std::pair<ErrorCode, const char*> kCodes[] = {{ErrorCode::changedMeanwhile, "changedMeanwhile "},
+                                                          {ErrorCode::file, "file "}};
+  for (const auto& [code, name] : kCodes) {
+    if (result.error().code == code) return name + result.error().message;
+  }
+  return "another code: " + result.error().message;
+}
+
+TEST_F(OptionFile, HasAPathThatTheNameOfTheProcessorTells) {
+  EXPECT_EQ(option_file_path("ovrin_0"), "etc/qvt_ovrin_0.opt");
+  EXPECT_EQ(option_file_path(""), "etc/qvt_.opt");
+  EXPECT_EQ(option_file_path("a b/c"), "etc/qvt_a b/c.opt");
+}
+
+TEST_F(OptionFile, IsReadAsAWhole) {
+  for (const std::string& text : {""s, "connect ov odm"s, "\n\nconnect ov odm\r\nmore\n"s, "a\0b\xff"s}) {
+    WorkFolder::write(file(), text);
+    EXPECT_EQ(read_option_file(option_file_path("p")).value(), Content(text));
+  }
+  fs::create_symlink("qvt_p.opt", etc() / "link");
+  EXPECT_EQ(read_option_file("etc/link").value(), Content("a\0b\xff"s));
+}
+
+TEST_F(OptionFile, ThatIsMissingIsReadAsNothing) {
+  fs::create_symlink("missing", etc() / "link");
+  for (const char* const path : {"etc/qvt_p.opt", "etc/link", "no/such/folder"}) {
+    EXPECT_EQ(read_option_file(path).value(), std::nullopt) << path;
+  }
+}
+
+TEST_F(OptionFile, ThatCannotBeReadIsAnError) {
+  const GlobalLocale classic;
+  ASSERT_EQ(::mkfifo((etc() / "pipe").c_str(), 0600), 0);
+  EXPECT_EQ(error_of(read_option_file("etc")), "file etc: is a directory");
+  EXPECT_EQ(error_of(read_option_file("etc/pipe")), "file etc/pipe: is a pipe");
+  EXPECT_EQ(error_of(read_option_file("etc/pipe/x")), "file etc/pipe/x: Not a directory");
+  EXPECT_EQ(error_of(read_option_file("etc\0x"s)), "file etc\0x: its name contains a NUL byte"s);
+}
+
+TEST_F(OptionFile, ThatIsLargerThan16MBIsAnError) {
+  WorkFolder::write(file(), "connect ov odm\n");
+  fs::resize_file(file(), 16 << 20);
+  EXPECT_EQ(read_option_file("etc/qvt_p.opt").value()->size(), 16U << 20);
+  fs::resize_file(file(), (16 << 20) + 1);
+  EXPECT_EQ(error_of(read_option_file("etc/qvt_p.opt")), "file etc/qvt_p.opt: is larger than 16777216 bytes");
+}
+
+TEST_F(OptionFile, IsReplacedIfItHoldsWhatIsExpected) {
+  const std::string path = option_file_path("p");
+  EXPECT_EQ(error_of(replace_option_file(path, std::nullopt, "")), "");
+  EXPECT_EQ(read_option_file(path).value(), Content(""));
+  EXPECT_EQ(error_of(replace_option_file(path, "", "one\n")), "");
+  EXPECT_EQ(error_of(replace_option_file(path, "one\n", "two"s + '\0')), "");
+  EXPECT_EQ(error_of(replace_option_file(path, read_option_file(path).value(), "three")), "");
+  EXPECT_EQ(content(), "three");
+  expect_names({"qvt_p.opt"});
+}
+
+TEST_F(OptionFile, IsNotReplacedIfItHoldsSomethingElse) {
+  constexpr char kChanged[] = "changedMeanwhile etc/qvt_p.opt: the file has changed since it was read; read it again";
+  constexpr char kThere[] = "changedMeanwhile etc/qvt_p.opt: there is such a file already";
+  const std::string path = option_file_path("p");
+  EXPECT_EQ(error_of(replace_option_file(path, "", "new")), kChanged) << "an empty file is expected, and there is none";
+  EXPECT_FALSE(fs::exists(file()));
+  for (const std::string& present : {""s, "old"s}) {
+    WorkFolder::write(file(), present);
+    EXPECT_EQ(error_of(replace_option_file(path, std::nullopt, "new")), kThere);
+    EXPECT_EQ(error_of(replace_option_file(path, "older", "new")), kChanged);
+    EXPECT_EQ(content(), present);
+  }
+  EXPECT_EQ(error_of(replace_option_file(path, "", "new")), kChanged);
+  expect_names({"qvt_p.opt"});
+}
+
+TEST_F(OptionFile, ThatCannotBeReplacedIsAnErrorWithAdvice) {
+  EXPECT_EQ(error_of(replace_option_file("no/folder", std::nullopt, "new")),
+            "file no/folder: there is no folder no: make it first");
+  EXPECT_EQ(error_of(replace_option_file("etc", std::nullopt, "new")), "file etc: it is not a regular file");
 }
 
 }  // namespace
