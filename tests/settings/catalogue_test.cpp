@@ -20,6 +20,8 @@ using SdkDebugDialog::find_setting;
 using SdkDebugDialog::parse_value;
 using SdkDebugDialog::Processor;
 using SdkDebugDialog::Setting;
+using SdkDebugDialog::setting_groups;
+using SdkDebugDialog::SettingGroup;
 using SdkDebugDialog::SettingKind;
 using SdkDebugDialog::settings;
 using SdkDebugDialog::SettingState;
@@ -115,6 +117,23 @@ TEST(Catalogue, KeepsTheSettingsOfAGroupTogether) {
     EXPECT_TRUE(done.insert(setting.group).second) << setting.group << " begins again at " << setting.name;
     group = setting.group;
   }
+}
+
+TEST(Catalogue, HasALabelForEveryGroupInTheOrderOfTheSettings) {
+  std::vector<std::string_view> groups;
+  for (const Setting& setting : settings()) {
+    if (groups.empty() || groups.back() != setting.group) groups.push_back(setting.group);
+  }
+  std::vector<std::string_view> named;
+  std::set<std::string_view> labels;
+  for (const SettingGroup& group : setting_groups()) {
+    named.push_back(group.name);
+    EXPECT_NE(group.label, "") << group.name;
+    EXPECT_TRUE(labels.insert(group.label).second) << "two groups are called " << group.label;
+  }
+  EXPECT_EQ(named, groups);
+  EXPECT_EQ(setting_groups().front().label, "Processor");
+  EXPECT_EQ(setting_groups().back().label, "JTAG chain");
 }
 
 TEST(Catalogue, NamesWhatFollowsASetting) {
