@@ -4,11 +4,15 @@
 
 #include <filesystem>
 #include <new>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "SdkDebugDialog/CableCatalogue.h"
+#include "SdkDebugDialog/Configuration.h"
+#include "SdkDebugDialog/OptionFile.h"
+#include "SdkDebugDialog/Regions.h"
 #include "model/processor_list.h"
 #include "options/QvtOption_Parser.h"
 #include "platform/ComMsgMgr.h"
@@ -343,6 +347,21 @@ constexpr Operation kOperations[] = {
        return shared == s.imp.jtagChain ? status : -1;
      },
      0, parsed<kSoft, kOvHardware>},
+
+    {"ReadOptionFile",
+     [](Session& s) { return (s.text = read_option_file(option_file_path(kSoft)).value().value()).empty() ? 1 : 0; }, 0,
+     stored<kOvHardware>},
+    {"ReplaceOptionFile",
+     [](Session&) { return replace_option_file(option_file_path(kSoft), kOvHardware, kOvSimulator) ? 0 : 1; }, 0,
+     stored<kOvHardware>},
+    {"ReplaceOptionFileThatHasChanged",
+     [](Session& s) {
+       s.text = replace_option_file(option_file_path(kSoft), std::nullopt, kOvSimulator).error().message;
+       return 0;
+     },
+     0, stored<kOvHardware>},
+    {"Regions",
+     [](Session&) { return static_cast<int>(regions(Configuration::read({}, kPpcHardware).value()).size()); }, 1},
 
     {"SetErrorStr", [](Session& s) { return s.engine.SetErrorStr("a text that is longer than a short one"), 0; }, 0},
     {"GetErrorStr", [](Session& s) { return s.engine.GetErrorStr(s.text), 0; }, 0,
