@@ -520,10 +520,10 @@ Entry base(std::string_view name, std::string_view label, std::string_view meani
 std::vector<Entry> make_entries() {
   using enum SettingKind;
   return {
-      row("identity", "name", "Name", "Instance name of the processor in the design.", text, &P::name, kEverywhere, {},
-          {.readOnly = true}),
+      row("identity", "name", "Name", "Instance name of the processor in the design.", text, &P::name, kEverywhere,
+          {.fixed = as_in_design}, {.readOnly = true}),
       row("identity", "family", "Family", "Kind of processor.", word, &P::procFamily, kEverywhere,
-          {.words = {std::begin(kFamilies), std::end(kFamilies)}}, {.readOnly = true}),
+          {.words = {std::begin(kFamilies), std::end(kFamilies)}, .fixed = as_in_design}, {.readOnly = true}),
       row("identity", "variant", "Variant",
           "Core of the processor; the address map and the memories of a PowerPC depend on it.", word, &P::procVariant,
           kPowerPC,
@@ -534,7 +534,8 @@ std::vector<Entry> make_entries() {
           {.initial = "1, or as in the design"}),
       row("identity", "connections", "Connections", "The connections that the processor admits.", words,
           &P::allowedConnections, kEverywhere,
-          {.words = {std::begin(kConnections), std::end(kConnections)}, .get = get_connections}, {.readOnly = true}),
+          {.words = {std::begin(kConnections), std::end(kConnections)}, .get = get_connections, .fixed = as_in_design},
+          {.readOnly = true}),
       row("identity", "fpu", "FPU", "Floating-point unit of a PowerPC: single or double precision.", word, &P::fpuType,
           kPowerPC, {.words = fpu_words(), .fixed = as_in_design}, {.initial = "as in the design"}),
 
