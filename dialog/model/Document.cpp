@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: MIT
+#include "model/Document.h"
+
+#include <SdkDebugDialog/OptionFile.h>
+
+#include <QUndoCommand>
+#include <algorithm>
+#include <filesystem>
+#include <iterator>
+#include <system_error>
+
+#include "model/Bytes.h"
+#include "model/library_texts.h"
+
+namespace qvtdialog {
+
+using SdkDebugDialog::annotate;
+using SdkDebugDialog::Annotation;
+using SdkDebugDialog::Configuration;
+using SdkDebugDialog::differences;
+using SdkDebugDialog::Edit;
+using SdkDebugDialog::Error;
+using SdkDebugDialog::ErrorCode;
+using SdkDebugDialog::Expected;
+using SdkDebugDialog::Loss;
+using SdkDebugDialog::OnLoss;
+using SdkDebugDialog::Processor;
+using SdkDebugDialog::read_option_file;
+using SdkDebugDialog::replace_option_file;
+using SdkDebugDialog::Role;
+using SdkDebugDialog::Setting;
+using SdkDebugDialog::SettingState;
+using SdkDebugDialog::TextKind;
+
+// --- Steps ---
+
+class Document::Step : public QUndoCommand {
+ public:
+  // Steps with the same number other than 0 are joined.
+  Step(Document& document, Draft after, const QString& title, int typing)
+      : QUndoCommand(title),
+        m_document(document),
+        m_before(document.m_draft),
+        m_after(std::move(after)),
+        m_typing(typing) {}
+
+  void redo() override { m_document.show(m_after); }
+  void undo() override { m_document.show(m_before); }
+  int id() const override { return m_typing != 0 ? 1 : -1; }
+
+  bool mergeWith(const QUndoCommand* later) override {
+    const auto& next = static_cast<const Step&>(*later);
+    if (next.m_typing != m_typing) return false;
+    m_after = next.m_after;
+    setObsolete(m_after == m_before);
+    return true;
+  }
+
+ private:
+  Document& m_document;
+  Draft m_before;
+  Draft m_after;
+  int m_typing;
+};
+
+void Document::show(const Draft& draft) {
+  m_draft = draft;
+  emit changed();
+}
+
+void Document::push(Draft next, const QString& title, const void* typed) {
+  if (typed == nullptr || m_typed != typed) {
+    m_base = m_draft;
+    m_typed = typed;
+    ++m_typing;
+  }
+  if (next == m_draft) return;
+  m_history.push(new Step(*this, std::move(next), title, typed != nullptr ? m_typing : 0));
+}
+
+// --- The present state ---
+
+Document::Document(Processor processor, std::string path, QObject* parent)
+    : QObject(parent),
+      m_path(std::move(path)),
+      m_draft{.configuration = Configuration(std::move(processor)), .text = {}, .refused = {}},
+      m_base(m_draft) {
+  const auto file = read_option_file(m_path);
+  if (file) {
+    m_stored = *file;
+    m_draft = draft_of(m_stored);
+  } else {
+    m_unreadable = shown(file.error().message);
+  }
+  // An undone step is not to be joined with what is typed next.
+  connect(&m_history, &QUndoStack::indexChanged, this, [this] {
+    if (m_history.canRedo()) end_typing();
+  });
+}
+
+Draft Document::draft_of(const std::optional<std::string>& content) const {
+  auto read = Configuration::read(processor(), content.value_or(""), TextKind::optionFile);
+  if (read) return {.configuration = std::move(*read), .text = {}, .refused = {}};
+  return {.configuration = m_draft.configuration, .text = content, .refused = {}};
+}
+
+Expected<std::string> Document::content() const {
+  if (m_draft.text) return *m_draft.text;
+  const Expected<Edit> edit = m_draft.configuration.for_file();
+  if (!edit) return edit.error();
+  return edit->text;
+}
+
+bool Document::has_changes() const {
+  if (!m_unreadable.isEmpty()) return false;
+  if (!m_draft.refused.empty()) return true;
+  if (!m_stored) return !(m_draft == draft_of(m_stored));
+  const Expected<std::string> now = content();
+  return !now || *now != *m_stored;
+}
+
+namespace {
+
+// The words that set nothing, such as "-quiet" or whatever stands in further lines.
+std::vector<std::string> idle_words(std::string_view content, const Processor& processor) {
+  std::vector<std::string> words;
+  for (const Annotation& word : annotate(content, TextKind::optionFile, processor)) {
+    const bool isFrame = word.role == Role::head || word.role == Role::target || word.role == Role::connection;
+    if (word.setting == nullptr && !isFrame) words.emplace_back(content.substr(word.begin, word.end - word.begin));
+  }
+  std::sort(words.begin(), words.end());
+  return words;
+}
+
+}  // namespace
+
+Expected<Document::Plan> Document::plan() const {
+  const Expected<Edit> edit = m_draft.configuration.for_file();
+  if (!edit) return edit.error();
+  Plan plan{m_stored.value_or(""), edit->text, {}, edit->losses, edit->notReadBack};
+  const Draft stored = draft_of(m_stored);
+  if (stored.text) return plan;
+  plan.differences = differences(stored.configuration, m_draft.configuration);
+  // What the edit tells counts from the text that it was made in, which is not always that of the file: a person may
+  // have typed another one, or gone back beyond what was stored last.
+  std::vector<std::string> gone;
+  const auto before = idle_words(plan.before, processor());
+  const auto after = idle_words(plan.after, processor());
+  std::set_difference(before.begin(), before.end(), after.begin(), after.end(), std::back_inserter(gone));
+  for (const std::string& word : gone) {
+    const bool isTold = std::any_of(plan.losses.begin(), plan.losses.end(),
+                                    [&](const Loss& loss) { return loss.what.find(word) != std::string::npos; });
+    if (!isTold) plan.losses.push_back({nullptr, word, bytes_of(tr("the new text does not have it"))});
+  }
+  return plan;
+}
+
+QString Document::why_not_stored() const {
+  if (!m_unreadable.isEmpty()) return m_unreadable;
+  if (m_draft.text && has_changes()) return tr("The command is not understood. Correct it first.");
+  if (!m_draft.refused.empty()) {
+    return tr("The value in the field '%1' is not accepted. Correct it first.")
+        .arg(label_of(*m_draft.refused.begin()->first));
+  }
+  if (const Expected<std::string> now = content(); !now) return shown(now.error().message);
+  if (m_conflict) return tr("The file was changed by another program. Choose first what is to be kept.");
+  return {};
+}
+
+// --- Changes ---
+
+namespace {
+
+// Fields that have gone take with them what was typed into them.
+void forget_gone_fields(Draft& draft) {
+  std::erase_if(draft.refused, [&](const auto& item) {
+    const SettingState state = draft.configuration.state(*item.first);
+    return !state.applies || !state.changeable;
+  });
+}
+
+}  // namespace
+
+void Document::type(const Setting& setting, const std::string& text) {
+  Draft next = typing_base(&setting);
+  next.refused.erase(&setting);
+  if (!next.configuration.set(setting.name, text)) next.refused[&setting] = text;
+  forget_gone_fields(next);
+  push(std::move(next), label_of(setting), &setting);
+}
+
+void Document::type_content(const std::string& content) {
+  Draft next = draft_of(content);
+  if (!next.text) {
+    // What is read and yet not kept, such as an empty text, is not what a person has typed.
+    const auto kept = next.configuration.for_file();
+    if (!kept || kept->text != content) next.text = content;
+  }
+  if (next.text) next.configuration = typing_base(this).configuration;
+  push(std::move(next), tr("the command"), this);
+}
+
+void Document::replace_content(const std::string& content, const QString& title) { push(draft_of(content), title); }
+
+Expected<void> Document::assign(const std::vector<Assignment>& assignments, const QString& title) {
+  Draft next = m_draft;
+  for (const auto& [setting, value] : assignments) {
+    next.refused.erase(setting);
+    if (const auto set = next.configuration.set(*setting, value); !set) return set.error();
+  }
+  forget_gone_fields(next);
+  push(std::move(next), title);
+  return {};
+}
+
+void Document::reset(const Setting& setting) {
+  Draft next = m_draft;
+  next.refused.erase(&setting);
+  if (!next.configuration.reset(setting)) return;
+  forget_gone_fields(next);
+  push(std::move(next), tr("%1 back to its default").arg(label_of(setting)));
+}
+
+void Document::reset_all() {
+  Draft next{.configuration = m_draft.configuration, .text = {}, .refused = {}};
+  next.configuration.reset();
+  push(std::move(next), tr("all settings back to their defaults"));
+}
+
+std::vector<Loss> Document::copy_from(const Configuration& from) {
+  Draft next{.configuration = m_draft.configuration, .text = {}, .refused = {}};
+  std::vector<Loss> left = next.configuration.copy_settings(from);
+  push(std::move(next), tr("the settings of %1").arg(shown(from.processor().name())));
+  return left;
+}
+
+// --- The option file ---
+
+void Document::look_at_file() {
+  const auto file = read_option_file(m_path);
+  const QString unreadable = file ? QString() : shown(file.error().message);
+  if (unreadable != m_unreadable) {
+    m_unreadable = unreadable;
+    emit changed();
+  }
+  if (!file) return;
+  if (*file == m_stored) {
+    if (!m_conflict) return;
+    m_conflict.reset();
+    emit changed();
+    return;
+  }
+  const bool isNews = !m_conflict || m_conflict->content != *file;
+  if (!isNews) return;
+  m_conflict = Conflict{*file};
+  if (!has_changes()) {
+    take_theirs();
+    emit reloaded();
+  } else {
+    emit changed();
+  }
+}
+
+void Document::take_theirs() {
+  if (!m_conflict) return;
+  m_stored = m_conflict->content;
+  m_conflict.reset();
+  push(draft_of(m_stored), tr("the file as another program changed it"));
+  emit changed();
+}
+
+void Document::keep_mine() {
+  if (!m_conflict) return;
+  m_stored = m_conflict->content;
+  m_conflict.reset();
+  emit changed();
+}
+
+Expected<void> Document::store(OnLoss onLoss) {
+  look_at_file();
+  if (const QString why = why_not_stored(); !why.isEmpty()) {
+    return Error{m_conflict ? ErrorCode::changedMeanwhile : ErrorCode::refused, bytes_of(why), {}};
+  }
+  if (!has_changes()) return {};
+  const Expected<Plan> planned = plan();
+  if (!planned) return planned.error();
+  if (!planned->is_safe() && onLoss == OnLoss::refuse) {
+    return Error{ErrorCode::wouldLose, bytes_of(tr("Storing would lose a part of the file.")), {}};
+  }
+  // If it cannot be made, the error of storing says so.
+  std::error_code ignored;
+  std::filesystem::create_directory(std::filesystem::path(m_path).parent_path(), ignored);
+  const auto replaced = replace_option_file(m_path, m_stored, planned->after);
+  if (!replaced) {
+    look_at_file();
+    return replaced.error();
+  }
+  m_stored = planned->after;
+  // What is changed next is changed in the text that is stored now.
+  if (Draft read = draft_of(m_stored); !read.text) m_draft = std::move(read);
+  end_typing();
+  emit changed();
+  return {};
+}
+
+}  // namespace qvtdialog

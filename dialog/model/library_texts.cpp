@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "model/library_texts.h"
+
+#include <QCoreApplication>
+#include <string>
+
+#include "model/Bytes.h"
+
+namespace qvtdialog {
+
+using SdkDebugDialog::Setting;
+using SdkDebugDialog::SettingGroup;
+using SdkDebugDialog::SettingKind;
+using SdkDebugDialog::SettingValue;
+using SdkDebugDialog::Severity;
+using SdkDebugDialog::value_text;
+
+QString translated(std::string_view text) {
+  return text.empty() ? QString() : QCoreApplication::translate("library", std::string(text).c_str());
+}
+
+QString label_of(const Setting& setting) { return translated(setting.label); }
+QString meaning_of(const Setting& setting) { return translated(setting.meaning); }
+QString label_of(const SettingGroup& group) { return translated(group.label); }
+QString unit_of(const Setting& setting) { return translated(setting.unit); }
+
+QString value_of(const Setting& setting, const SettingValue& value) {
+  const std::string text = value_text(setting, value);
+  if (!text.empty()) return shown(text);
+  return setting.kind == SettingKind::devices ? QCoreApplication::translate("value", "none")
+                                              : QCoreApplication::translate("value", "not set");
+}
+
+QString severity_of(Severity severity) {
+  switch (severity) {
+    case Severity::error:
+      return QCoreApplication::translate("severity", "error");
+    case Severity::warning:
+      return QCoreApplication::translate("severity", "warning");
+    case Severity::note:
+      break;
+  }
+  return QCoreApplication::translate("severity", "note");
+}
+
+}  // namespace qvtdialog

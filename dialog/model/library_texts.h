@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Texts of the library, in the language of the dialog. Texts that the library puts together, such as errors, stay as
+// they are.
+
+#include <SdkDebugDialog/Configuration.h>
+#include <SdkDebugDialog/Diagnosis.h>
+#include <SdkDebugDialog/Settings.h>
+
+#include <QString>
+#include <string_view>
+
+namespace qvtdialog {
+
+// A fixed text of the library, translated if there is a translation.
+QString translated(std::string_view text);
+
+QString label_of(const SdkDebugDialog::Setting& setting);
+QString meaning_of(const SdkDebugDialog::Setting& setting);
+QString label_of(const SdkDebugDialog::SettingGroup& group);
+// The unit as it stands behind a field; empty if there is none.
+QString unit_of(const SdkDebugDialog::Setting& setting);
+// A value as a person reads it; "not set", "none" where there is nothing.
+QString value_of(const SdkDebugDialog::Setting& setting, const SdkDebugDialog::SettingValue& value);
+QString severity_of(SdkDebugDialog::Severity severity);
+
+}  // namespace qvtdialog

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+#include <optional>
+#include <string>
+
+#include "model/Session.h"
+#include "widgets/Mnemonics.h"
+
+class QLineEdit;
+class QSortFilterProxyModel;
+class QTreeView;
+
+namespace qvtdialog {
+
+class ProcessorModel;
+
+// The processors with a filter above.
+class ProcessorList : public QWidget {
+  Q_OBJECT
+
+ public:
+  ProcessorList(Session& session, Mnemonics& keys, QWidget* parent);
+
+  // Selects a processor; it is shown even if the filter leaves it out.
+  void select(std::size_t place);
+  void focus_filter();
+
+ signals:
+  void selected(const std::string& name);
+
+ private:
+  void set_filter(const QString& text);
+
+  Session& m_session;
+  ProcessorModel* m_model;
+  QSortFilterProxyModel* m_filtered;
+  QLineEdit* m_filter;
+  QTreeView* m_view;
+  std::optional<std::size_t> m_selected;
+  bool m_isFiltering = false;
+};
+
+}  // namespace qvtdialog
