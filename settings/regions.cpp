@@ -1,34 +1,24 @@
 #include "SdkDebugDialog/Regions.h"
 
 #include <algorithm>
-#include <cstddef>
-#include <iterator>
-#include <optional>
+#include <cstdint>
 #include <string_view>
-#include <utility>
 #include <variant>
 
 #include "model/base_address.h"
+#include "settings/catalogue.h"
 
 namespace SdkDebugDialog {
 namespace {
 
-// Of a memory, the setting of its size.
-const Setting* size_setting(std::string_view base) {
-  constexpr std::pair<std::string_view, std::string_view> kMemories[] = {{"isocm", "isocm-size"}, {"rom", "rom-size"}};
-  const auto* const memory = std::ranges::find(kMemories, base, [](const auto& pair) { return pair.first; });
-  return memory != std::end(kMemories) ? find_setting(memory->second) : nullptr;
-}
+struct Row {
+  std::string_view base;
+  std::string_view size = {};  // empty: a block of the debug address map
+};
 
-// The number of bytes behind the base that a setting tells; nothing if it tells no base.
-std::optional<std::uint64_t> size_behind(const Setting& base, const Configuration& configuration) {
-  if (const Setting* const size = size_setting(base.name)) {
-    return static_cast<std::uint64_t>(std::get<std::int64_t>(configuration.value(*size)));
-  }
-  // The setting "address-map" only repeats the base of the instruction cache.
-  if (base.group == "address-map" && base.name != "address-map") return kMapBlock;
-  return std::nullopt;
-}
+// In the order of the catalogue. The setting "address-map" only repeats the base of the instruction cache.
+constexpr Row kRows[] = {{"icache"},         {"itag"}, {"dcache"}, {"dtag"}, {"tlb"}, {"dcr"}, {"isocm", "isocm-size"},
+                         {"rom", "rom-size"}};
 
 // The regions are in the order of their first addresses.
 void mark_overlaps(std::vector<Region>& regions) {
@@ -43,16 +33,16 @@ void mark_overlaps(std::vector<Region>& regions) {
 }  // namespace
 
 std::vector<Region> regions(const Configuration& configuration) {
-  std::vector<Region> found;
   const std::vector<SettingState> states = configuration.states();
-  for (std::size_t i = 0; i < states.size(); ++i) {
-    const Setting& setting = settings()[i];
-    const SettingState& state = states[i];
-    const auto* const base = std::get_if<std::int64_t>(&state.value);
-    const auto size = size_behind(setting, configuration);
-    if (base == nullptr || !size || !state.applies) continue;
-    const auto begin = static_cast<std::uint64_t>(*base);
-    found.push_back({&setting, begin, begin + *size, false});
+  const auto state_of = [&](std::string_view name) -> const SettingState& { return states[place_of(row_named(name))]; };
+  std::vector<Region> found;
+  for (const Row& row : kRows) {
+    const SettingState& base = state_of(row.base);
+    const auto* const begin = std::get_if<std::int64_t>(&base.value);
+    if (begin == nullptr || !base.applies) continue;
+    const std::int64_t size = row.size.empty() ? kMapBlock : std::get<std::int64_t>(state_of(row.size).value);
+    found.push_back(
+        {find_setting(row.base), static_cast<std::uint64_t>(*begin), static_cast<std::uint64_t>(*begin + size), false});
   }
   std::ranges::stable_sort(found, {}, &Region::begin);
   mark_overlaps(found);
