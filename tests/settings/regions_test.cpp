@@ -25,7 +25,7 @@ using SdkDebugDialog::regions;
 using SdkDebugDialog::Setting;
 using SdkDebugDialog::SettingKind;
 using SdkDebugDialog::settings;
-using SdkDebugDialog::SettingState;
+using SdkDebugDialog::SettingValue;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -64,7 +64,6 @@ class Regions : public testing::Test {
   SdkDebugDialog::Design m_design{m_hardware};
 };
 
-// Sets what has a default again, and everything that it depends on.
 void set(Configuration& configuration, std::string_view name, std::string_view value) {
   const auto done = configuration.set(name, value);
   EXPECT_TRUE(done) << done.error().message;
@@ -128,7 +127,7 @@ TEST_F(Regions, AreThoseThatApply) {
   set(c, "isocm", "0x2000");
   EXPECT_EQ(regions(c).size(), 8U);
   set(c, "connection", "simulator");
-  EXPECT_EQ(c.value(*find_setting("rom")), SdkDebugDialog::SettingValue(std::int64_t{0x1000}));
+  EXPECT_EQ(c.value(*find_setting("rom")), SettingValue(std::int64_t{0x1000}));
   EXPECT_THAT(told(c), IsEmpty());
   // Only a ppc405 has the on-chip memory.
   EXPECT_THAT(told(read("ppc440_0", "connect ppc hw -debugdevice isocmStartAdr 0x1000 isocmSize 4096")), IsEmpty());
