@@ -24,6 +24,7 @@ using SdkDebugDialog::ErrorCode;
 using SdkDebugDialog::Expected;
 using SdkDebugDialog::Loss;
 using SdkDebugDialog::OnLoss;
+using SdkDebugDialog::option_line;
 using SdkDebugDialog::Processor;
 using SdkDebugDialog::read_option_file;
 using SdkDebugDialog::replace_option_file;
@@ -111,6 +112,12 @@ Expected<std::string> Document::content() const {
   return edit->text;
 }
 
+Expected<std::string> Document::command_text() const {
+  Expected<std::string> text = content();
+  if (!m_draft.text && text && option_line(*text).empty()) return m_draft.configuration.command();
+  return text;
+}
+
 bool Document::has_changes() const {
   if (!m_unreadable.isEmpty()) return false;
   if (!m_draft.refused.empty()) return true;
@@ -191,11 +198,9 @@ void Document::type(const Setting& setting, const std::string& text) {
 
 void Document::type_content(const std::string& content) {
   Draft next = draft_of(content);
-  if (!next.text) {
-    // What is read and yet not kept, such as an empty text, is not what a person has typed.
-    const auto kept = next.configuration.for_file();
-    if (!kept || kept->text != content) next.text = content;
-  }
+  // The reader takes a text without a command for the defaults. Somebody who has deleted it all is about to type
+  // another.
+  if (option_line(content).empty()) next.text = content;
   if (next.text) next.configuration = typing_base(this).configuration;
   push(std::move(next), tr("the command"), this);
 }

@@ -41,6 +41,8 @@ class Document : public QObject {
   bool is_understood() const { return !m_draft.text; }
   // What the file would hold. ErrorCode::cannotBeWritten.
   SdkDebugDialog::Expected<std::string> content() const;
+  // The same for people to read and change: while there is no file, the command for the defaults.
+  SdkDebugDialog::Expected<std::string> command_text() const;
   // Whether the file would get another content.
   bool has_changes() const;
   // What storing would change, and lose, of what the file holds.

@@ -46,6 +46,7 @@ class DocumentTest : public QObject {
     QVERIFY(opened.document->is_understood());
     QVERIFY(!opened.document->has_changes());
     QVERIFY(!opened.document->stored());
+    QCOMPARE(*opened.document->command_text(), std::string("connect ov odm -debugdevice cpunr 1"));
     QVERIFY(opened.document->store());
     QVERIFY(!QFile::exists(kFilePath));
   }

@@ -107,12 +107,12 @@ void Person::type(const QString& setting, const QString& text) {
   auto* const box = qobject_cast<QComboBox*>(&editor);
   if (box != nullptr && !box->isEditable()) {
     box->setFocus();
-    const int index = box->findText(text);
-    if (index < 0) qFatal("%s has no choice %s", qPrintable(setting), qPrintable(text));
-    while (box->currentIndex() != index) {
-      const int before = box->currentIndex();
-      QTest::keyClick(box, before < index ? Qt::Key_Down : Qt::Key_Up);
-      if (box->currentIndex() == before) qFatal("%s: the arrow keys do nothing", qPrintable(setting));
+    if (box->findText(text) < 0) qFatal("%s has no choice %s", qPrintable(setting), qPrintable(text));
+    // The list can become another one on the way.
+    while (box->currentText() != text) {
+      const QString before = box->currentText();
+      QTest::keyClick(box, box->currentIndex() < box->findText(text) ? Qt::Key_Down : Qt::Key_Up);
+      if (box->currentText() == before) qFatal("%s: the arrow keys do nothing", qPrintable(setting));
     }
     return;
   }
@@ -135,6 +135,11 @@ void Person::click(const QString& button) {
 }
 
 void Person::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  // Without a window manager nobody makes the window the active one when a dialog has gone.
+  if (QApplication::activeWindow() == nullptr) {
+    QApplication::setActiveWindow(&window);
+    if (!QTest::qWaitForWindowActive(&window)) qFatal("the window is not active");
+  }
   QWidget* const target = QApplication::focusWidget();
   QTest::keyClick(target != nullptr ? target : &window, key, modifiers);
 }

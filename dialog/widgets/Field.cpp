@@ -69,8 +69,8 @@ void Field::focus() {
 // --- The editor ---
 
 Field::Shape Field::shape_for(const FieldContent& content) const {
-  if (m_setting.kind == SettingKind::flag) return Shape::check;
   if (content.state.choices.empty() || !content.state.changeable) return Shape::text;
+  if (m_setting.kind == SettingKind::flag) return Shape::check;
   return m_setting.kind == SettingKind::word ? Shape::choice : Shape::choiceOrText;
 }
 
@@ -112,6 +112,10 @@ void Field::make_editor(Shape shape) {
   if (before != nullptr) {
     const bool hadFocus = before->hasFocus();
     delete m_layout.replaceWidget(before, m_editor);
+    // It may be the one whose signal has brought us here.
+    before->disconnect(this);
+    before->setObjectName({});
+    before->hide();
     before->deleteLater();
     // The order of the tab key is that of the rows.
     QWidget::setTabOrder(m_editor, m_default);
@@ -145,7 +149,7 @@ bool Field::eventFilter(QObject* watched, QEvent* event) {
 // --- Its content ---
 
 void Field::show(const FieldContent& content) {
-  const bool isNews = !m_content || !(*m_content == content);
+  const bool isNews = !m_isShown || !m_content || !(*m_content == content);
   m_content = content;
   // Undo, or a change from elsewhere, puts an end to typing.
   if (isNews && !m_isTelling) m_isTyping = false;
@@ -187,7 +191,6 @@ void Field::set_editor_content() {
     const bool on = std::holds_alternative<bool>(state.value) && std::get<bool>(state.value);
     check->setChecked(on);
     check->setText(on ? tr("on") : tr("off"));
-    check->setEnabled(state.changeable);
     return;
   }
   const QString text = shown(m_content->refused.value_or(value_text(m_setting, state.value)));

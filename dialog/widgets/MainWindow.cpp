@@ -266,7 +266,7 @@ void MainWindow::refresh() {
 
 void MainWindow::refresh_command() {
   if (!m_document) return;
-  const auto content = m_document->content();
+  const auto content = m_document->command_text();
   const std::string text = content ? *content : std::string();
   const bool isOther = m_shown != m_document;
   m_shown = m_document;

@@ -127,6 +127,7 @@ void SettingsForm::refresh() {
     }
     setTabVisible(static_cast<int>(i), !isEmpty);
   }
+  m_chain->setVisible(states[static_cast<std::size_t>(find_setting("devices") - settings().data())].applies);
   m_chain->refresh();
   std::vector<AddressRegion> areas;
   for (const auto& region : regions(m_document->configuration())) {
