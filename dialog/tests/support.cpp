@@ -4,6 +4,7 @@
 #include <SdkDebugDialog/platform/DesignFile.h>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -66,8 +67,13 @@ Person::Person(const QString& design)
     : session(Design(std::make_shared<DesignFile>(DesignFile::load(design.toStdString())))), window(session, design) {
   window.select_first();
   window.show();
-  QApplication::setActiveWindow(&window);
-  if (!QTest::qWaitForWindowActive(&window)) qFatal("the window does not appear");
+  activate();
+}
+
+void Person::activate() {
+  if (!QTest::qWaitForWindowExposed(&window)) qFatal("the window does not appear");
+  window.activateWindow();
+  if (!QTest::qWaitForWindowActive(&window)) qFatal("the window does not get the focus");
 }
 
 void Person::select(const char* processor) { window.select(processor); }
@@ -108,6 +114,11 @@ void Person::type(const QString& setting, const QString& text) {
   if (box != nullptr && !box->isEditable()) {
     box->setFocus();
     if (box->findText(text) < 0) qFatal("%s has no choice %s", qPrintable(setting), qPrintable(text));
+    // What is chosen already can be chosen again from the list.
+    if (box->currentText() == text) {
+      QTest::keyClick(box, Qt::Key_Space);
+      QTest::keyClick(box->view(), Qt::Key_Enter);
+    }
     // The list can become another one on the way.
     while (box->currentText() != text) {
       const QString before = box->currentText();
@@ -136,10 +147,7 @@ void Person::click(const QString& button) {
 
 void Person::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   // Without a window manager nobody makes the window the active one when a dialog has gone.
-  if (QApplication::activeWindow() == nullptr) {
-    QApplication::setActiveWindow(&window);
-    if (!QTest::qWaitForWindowActive(&window)) qFatal("the window is not active");
-  }
+  if (QApplication::activeWindow() == nullptr) activate();
   QWidget* const target = QApplication::focusWidget();
   QTest::keyClick(target != nullptr ? target : &window, key, modifiers);
 }

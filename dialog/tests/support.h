@@ -75,6 +75,9 @@ class Person {
   void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
   // Applies everything with Ctrl+S, what is lost included if that is asked for. False if the dialog could not store.
   bool apply(bool goOn = true);
+
+ private:
+  void activate();
 };
 
 // Does something with the next modal dialog, as soon as it is shown. The object that waits is gone afterwards; one that
