@@ -140,7 +140,7 @@ void AddressPicture::set_widths(int room) {
   const int address_width =
       fontMetrics().horizontalAdvance(address_text(m_segments.empty() ? 0 : m_segments.back().end));
   const auto short_ones = static_cast<int>(std::ranges::count_if(m_segments, &Segment::is_short));
-  const int wanted = address_width + m_line * 3 / 2;
+  const int wanted = (address_width + m_line) * 3 / 2;
   const int least_short = 2 * short_ones * wanted < room ? wanted : 2 * m_line;
   const auto least = [&](const Segment& segment) {
     if (segment.is_short) {
@@ -404,6 +404,9 @@ void AddressPicture::mouseMoveEvent(QMouseEvent* event) {
   const int index = index_at(event->position().toPoint());
   viewport()->setCursor(index >= 0 && region(index).setting != nullptr ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
+
+// Taken, so that the widget around it does nothing with it.
+void AddressPicture::mousePressEvent(QMouseEvent* event) { event->accept(); }
 
 void AddressPicture::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) want(index_at(event->position().toPoint()));

@@ -342,6 +342,9 @@ void ChainPicture::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && index >= 0) select(index);
 }
 
+// Taken, so that the widget around it does nothing with it.
+void ChainPicture::mouseReleaseEvent(QMouseEvent* event) { event->accept(); }
+
 void ChainPicture::keyPressEvent(QKeyEvent* event) {
   const auto target = [&]() -> std::optional<int> {
     switch (event->key()) {
