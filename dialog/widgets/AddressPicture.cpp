@@ -109,8 +109,7 @@ void AddressPicture::find_segments() {
     edges.push_back(region.end);
   }
   std::ranges::sort(edges);
-  const auto [repeated, end] = std::ranges::unique(edges);
-  edges.erase(repeated, end);
+  edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
   m_segments.clear();
   for (std::size_t i = 0; i + 1 < edges.size(); ++i) {
     const auto covers = [&](const AddressRegion& region) { return region.begin <= edges[i] && region.end > edges[i]; };

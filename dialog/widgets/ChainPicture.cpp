@@ -47,15 +47,13 @@ QFont bold(QFont font) {
   return font;
 }
 
-void paint_arrow_head(QPainter& painter, const QPoint& tip, int size) {
-  painter.setBrush(painter.pen().color());
-  painter.drawPolygon(QPolygon({tip, tip + QPoint(-size, -size / 2), tip + QPoint(-size, size / 2)}));
-  painter.setBrush(Qt::NoBrush);
-}
-
+// It ends before the frame of a selected device.
 void paint_arrow(QPainter& painter, const QPoint& from, const QPoint& to, int head) {
-  painter.drawLine(from, to - QPoint(head, 0));
-  paint_arrow_head(painter, to, head);
+  const QPoint tip = to - QPoint(head * 3 / 4, 0);
+  painter.drawLine(from, tip - QPoint(head, 0));
+  painter.setBrush(painter.pen().color());
+  painter.drawPolygon(QPolygon({tip, tip + QPoint(-head, -head / 2), tip + QPoint(-head, head / 2)}));
+  painter.setBrush(Qt::NoBrush);
 }
 
 }  // namespace
@@ -144,18 +142,17 @@ void ChainPicture::lay_out() {
     text = std::max({text, bold_metrics.horizontalAdvance(tr("Debug device")),
                      metrics.horizontalAdvance(m_processor) + 2 * padding(m_line)});
   }
-  m_box_width = std::min(text, metrics.averageCharWidth() * 30) + 2 * padding(m_line);
+  // Widths are rounded: without some room, a text that fits could be elided.
+  m_box_width = std::min(text + m_line / 4, m_line * 16) + 2 * padding(m_line);
   m_box_height = 3 * m_line + 2 * padding(m_line);
   m_debug_height = m_box_height + 3 * m_line;
-  m_row_height = (m_debug_index >= 0 ? m_debug_height : m_box_height) + row_gap(m_line);
   m_top = m_debug_device != 0 && m_debug_index < 0 && !m_chain.empty() ? 2 * m_line : 0;
 
   const int beside = 2 * (m_terminal + gap(m_line) + padding(m_line));
   const int room = viewport()->width() - beside + gap(m_line);
   m_columns = std::max(1, room / (m_box_width + gap(m_line)));
-  const int rows = (count() + m_columns - 1) / m_columns;
   const int columns = std::min(m_columns, std::max(1, count()));
-  m_content = {beside + columns * (m_box_width + gap(m_line)) - gap(m_line), m_top + rows * m_row_height};
+  m_content = {beside + columns * (m_box_width + gap(m_line)) - gap(m_line), row_top(row_count())};
   if (m_chain.empty()) m_content = {};
 
   verticalScrollBar()->setRange(0, std::max(0, m_content.height() - viewport()->height()));
@@ -168,12 +165,26 @@ void ChainPicture::lay_out() {
   viewport()->update();
 }
 
+// The row with the debug device is higher than the others.
+int ChainPicture::row_top(int row) const {
+  const bool is_below = m_debug_index >= 0 && row > m_debug_index / m_columns;
+  return m_top + row * (m_box_height + row_gap(m_line)) + (is_below ? m_debug_height - m_box_height : 0);
+}
+
+int ChainPicture::row_at(int y) const {
+  const int height = m_box_height + row_gap(m_line);
+  const int row = (y - m_top) / height;
+  const int debug_row = m_debug_index / m_columns;
+  if (m_debug_index < 0 || row <= debug_row) return row;
+  return std::max(debug_row, (y - m_top - (m_debug_height - m_box_height)) / height);
+}
+
 QRect ChainPicture::content_rect(int index) const {
   const int row = index / m_columns;
   const int column = index % m_columns;
   const int height = is_debug_device(index) ? m_debug_height : m_box_height;
   return {padding(m_line) + m_terminal + gap(m_line) + column * (m_box_width + gap(m_line)),
-          m_top + row * m_row_height + (m_row_height - height) / 2, m_box_width, height};
+          (row_top(row) + row_top(row + 1) - height) / 2, m_box_width, height};
 }
 
 QPoint ChainPicture::offset() const { return {horizontalScrollBar()->value(), verticalScrollBar()->value()}; }
@@ -181,8 +192,7 @@ QPoint ChainPicture::offset() const { return {horizontalScrollBar()->value(), ve
 int ChainPicture::index_at(const QPoint& point) const {
   const QPoint at = point + offset();
   if (m_chain.empty() || at.y() < m_top) return -1;
-  const int row = (at.y() - m_top) / m_row_height;
-  const int first = row * m_columns;
+  const int first = row_at(at.y()) * m_columns;
   for (int index = first; index < std::min(first + m_columns, count()); ++index) {
     if (content_rect(index).contains(at)) return index;
   }
@@ -190,13 +200,11 @@ int ChainPicture::index_at(const QPoint& point) const {
 }
 
 QSize ChainPicture::sizeHint() const {
-  const int height = std::max(m_box_height + row_gap(m_line), std::min(m_content.height(), m_top + 2 * m_row_height));
+  const int height = std::max(m_box_height + row_gap(m_line), std::min(m_content.height(), row_top(2)));
   return {m_line * 30, height + 2 * frameWidth()};
 }
 
-QSize ChainPicture::minimumSizeHint() const {
-  return {2 * m_terminal + m_box_width, m_top + m_row_height + 2 * frameWidth()};
-}
+QSize ChainPicture::minimumSizeHint() const { return {2 * m_terminal + m_box_width, row_top(1) + 2 * frameWidth()}; }
 
 // --- Painting ---
 
@@ -217,10 +225,9 @@ void ChainPicture::paintEvent(QPaintEvent* event) {
                      tr("The chain has no device %1, which is set as the debug device.").arg(m_debug_device));
   }
   const QRect visible = event->rect().translated(offset());
-  const int rows = (count() + m_columns - 1) / m_columns;
   // Lines reach from a row into the next one.
-  const int first = std::max(0, (visible.top() - m_top) / m_row_height - 1);
-  const int last = std::min(rows - 1, (visible.bottom() - m_top) / m_row_height + 1);
+  const int first = std::max(0, row_at(visible.top()) - 1);
+  const int last = std::min(row_count() - 1, row_at(visible.bottom()) + 1);
   for (int row = first; row <= last; ++row) paint_row(painter, row);
 }
 
@@ -259,9 +266,9 @@ void ChainPicture::paint_row(QPainter& painter, int row) const {
     // Around the end of this row, between the rows, to the beginning of the next one.
     const int far_right = behind + m_terminal / 2;
     const int far_left = padding(m_line) + m_terminal / 2;
-    const int between = m_top + (row + 1) * m_row_height;
+    const int between = row_top(row + 1);
     painter.drawPolyline(QPolygon({right_of(last), QPoint(far_right, middle), QPoint(far_right, between),
-                                   QPoint(far_left, between), QPoint(far_left, middle + m_row_height)}));
+                                   QPoint(far_left, between), QPoint(far_left, content_rect(last + 1).center().y())}));
   }
   for (int index = first; index <= last; ++index) paint_device(painter, index);
 }
