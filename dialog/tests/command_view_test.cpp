@@ -19,7 +19,6 @@
 #include "widgets/FindingList.h"
 
 using namespace qvtdialog;  // NOLINT(google-build-using-namespace)
-using SdkDebugDialog::Annotation;
 using SdkDebugDialog::find_setting;
 using SdkDebugDialog::Finding;
 using SdkDebugDialog::FindingKind;
@@ -404,6 +403,7 @@ void CommandViewTest::takesPastedText() {
 }
 
 void CommandViewTest::leavesUndoToTheWindow() {
+  m_view.reset();
   QMainWindow window;
   auto* const view = new CommandView(&window);
   window.setCentralWidget(view);
@@ -413,7 +413,8 @@ void CommandViewTest::leavesUndoToTheWindow() {
   QSignalSpy triggered(&undo, &QAction::triggered);
   window.show();
   window.activateWindow();
-  QVERIFY(QTest::qWaitForWindowExposed(&window));
+  // Shortcuts are those of the active window.
+  QVERIFY(QTest::qWaitForWindowActive(&window));
   view->setFocus();
   view->set_editing(true);
   QTest::keyClicks(view, QStringLiteral("abc"));

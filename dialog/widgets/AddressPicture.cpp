@@ -17,8 +17,6 @@
 
 namespace qvtdialog {
 
-using SdkDebugDialog::Setting;
-
 namespace {
 
 constexpr std::uint64_t kBlock = 0x10000;

@@ -143,16 +143,28 @@ void ChainPicture::lay_out() {
                      metrics.horizontalAdvance(m_processor) + 2 * padding(m_line)});
   }
   // Widths are rounded: without some room, a text that fits could be elided.
-  m_box_width = std::min(text + m_line / 4, m_line * 16) + 2 * padding(m_line);
+  text += m_line / 4;
   m_box_height = 3 * m_line + 2 * padding(m_line);
   m_debug_height = m_box_height + 3 * m_line;
   m_top = m_debug_device != 0 && m_debug_index < 0 && !m_chain.empty() ? 2 * m_line : 0;
 
   const int beside = 2 * (m_terminal + gap(m_line) + padding(m_line));
-  const int room = viewport()->width() - beside + gap(m_line);
-  m_columns = std::max(1, room / (m_box_width + gap(m_line)));
-  const int columns = std::min(m_columns, std::max(1, count()));
-  m_content = {beside + columns * (m_box_width + gap(m_line)) - gap(m_line), row_top(row_count())};
+  const auto arrange = [&](int width) {
+    const int room = width - beside + gap(m_line);
+    const auto take_width = [&](int most) {
+      m_box_width = std::min(text, most) + 2 * padding(m_line);
+      m_columns = std::max(1, room / (m_box_width + gap(m_line)));
+    };
+    take_width(m_line * 18);
+    // Long names are shortened where that saves rows.
+    if (m_columns < count()) take_width(m_line * 10);
+    const int columns = std::min(m_columns, std::max(1, count()));
+    m_content = {beside + columns * (m_box_width + gap(m_line)) - gap(m_line), row_top(row_count())};
+  };
+  // Without a scroll bar, if it fits.
+  const QSize room = maximumViewportSize();
+  arrange(room.width());
+  if (m_content.height() > room.height()) arrange(room.width() - verticalScrollBar()->sizeHint().width());
   if (m_chain.empty()) m_content = {};
 
   verticalScrollBar()->setRange(0, std::max(0, m_content.height() - viewport()->height()));

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/CommandView.h"
 
-#include <QAction>
 #include <QEvent>
 #include <QFontDatabase>
+#include <QFontInfo>
+#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QScrollBar>
 #include <QStringList>
 #include <QSyntaxHighlighter>
 #include <QTextBlock>
@@ -504,7 +504,7 @@ void CommandView::mouseReleaseEvent(QMouseEvent* event) {
 
 void CommandView::use_fixed_font() {
   QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-  fixed.setPointSizeF(QGuiApplication::font().pointSizeF());
+  fixed.setPointSizeF(QFontInfo(QGuiApplication::font()).pointSizeF());
   setFont(fixed);
 }
 

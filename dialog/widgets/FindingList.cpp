@@ -26,7 +26,6 @@
 namespace qvtdialog {
 
 using SdkDebugDialog::Finding;
-using SdkDebugDialog::FindingKind;
 using SdkDebugDialog::Fix;
 using SdkDebugDialog::Remark;
 using SdkDebugDialog::Severity;
