@@ -359,8 +359,11 @@ void CommandView::colour_text() {
     const auto [begin, end] = visible_place(m_shown.index_at(finding.begin), m_shown.index_at(finding.end), text);
     maker.add(begin, end, kSeverity + static_cast<std::size_t>(finding.severity));
   }
-  for (qsizetype at = 0; at < text.size(); ++at) {
-    if (shown_byte(text[at])) maker.add(at, at + 1, kByte);
+  const auto is_byte = [](QChar character) { return shown_byte(character).has_value(); };
+  for (auto at = std::ranges::find_if(text, is_byte); at != text.end();) {
+    const auto end = std::find_if_not(at, text.end(), is_byte);
+    maker.add(at - text.begin(), end - text.begin(), kByte);
+    at = std::find_if(end, text.end(), is_byte);
   }
   m_highlighter->show(std::move(maker).spans());
 }
