@@ -541,7 +541,7 @@ void CommandViewTest::choosesByKeyAndClick() {
   QCOMPARE(fix.count(), 2);
   QVERIFY(!fix.last().first().value<Fix>().safe);
 
-  auto* const fix_all = listed.list.findChild<QPushButton*>(QStringLiteral("fix_all"));
+  auto* const fix_all = listed.list.findChild<QPushButton*>(QStringLiteral("fix-all"));
   QVERIFY(fix_all->isEnabled());
   QTest::mouseClick(fix_all, Qt::LeftButton);
   QCOMPARE(all.count(), 1);

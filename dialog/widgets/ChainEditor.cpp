@@ -28,6 +28,8 @@ namespace {
 
 // A cell that is not left with Enter or Tab while its text is not accepted.
 class CellDelegate : public QStyledItemDelegate {
+  Q_DECLARE_TR_FUNCTIONS(ChainEditor)
+
  public:
   CellDelegate(ChainModel& model, QLabel& note, QObject* parent)
       : QStyledItemDelegate(parent), m_model(model), m_note(note) {}
@@ -49,6 +51,15 @@ class CellDelegate : public QStyledItemDelegate {
       line->setProperty("refused", !why.isEmpty());
     });
     return line;
+  }
+
+  // A cell can be left with a click while its text is not accepted: that is told.
+  void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override {
+    const QString text = qobject_cast<QLineEdit*>(editor)->text();
+    const QString why = why_not(index.row(), index.column(), text);
+    if (why.isEmpty()) return QStyledItemDelegate::setModelData(editor, model, index);
+    m_note.setText(tr("'%1' was not taken: %2").arg(text, why));
+    m_note.show();
   }
 
   bool eventFilter(QObject* editor, QEvent* event) override {

@@ -53,6 +53,9 @@ class ChainPicture : public QAbstractScrollArea {
   int index_at(const QPoint& point) const;
   QString description(int index) const;
   QRect content_rect(int index) const;
+  int row_count() const { return (count() + m_columns - 1) / m_columns; }
+  int row_top(int row) const;
+  int row_at(int y) const;
   QPoint offset() const;
   void paint_row(QPainter& painter, int row) const;
   void paint_device(QPainter& painter, int index) const;
@@ -70,7 +73,6 @@ class ChainPicture : public QAbstractScrollArea {
   int m_box_width = 0;
   int m_box_height = 0;
   int m_debug_height = 0;
-  int m_row_height = 0;
   int m_top = 0;  // above the first row, for a notice
   QSize m_content;
 };

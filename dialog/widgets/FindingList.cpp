@@ -145,8 +145,8 @@ FindingList::FindingList(QWidget* parent)
       m_summary(new QLabel(this)),
       m_fix_all(new QPushButton(tr("Fix all that is &safe"), this)),
       m_list(new QListView(this)) {
-  setObjectName(QStringLiteral("finding_list"));
-  m_fix_all->setObjectName(QStringLiteral("fix_all"));
+  setObjectName(QStringLiteral("finding-box"));
+  m_fix_all->setObjectName(QStringLiteral("fix-all"));
   m_fix_all->setToolTip(tr("Applies every fix that keeps the meaning of the text"));
   m_fix_all->setAccessibleDescription(m_fix_all->toolTip());
   m_fix_all->setAutoDefault(false);

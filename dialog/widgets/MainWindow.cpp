@@ -84,6 +84,13 @@ MainWindow::MainWindow(Session& session, const QString& design, QWidget* parent)
   refresh();
 }
 
+// The widgets go while this is a window still, and hear nothing more on the way.
+MainWindow::~MainWindow() {
+  if (m_document) m_document->disconnect(this);
+  m_form->set_document(nullptr);
+  delete takeCentralWidget();
+}
+
 // --- What it is made of ---
 
 void MainWindow::make_actions() {
@@ -157,7 +164,6 @@ QWidget* MainWindow::make_command_box() {
   m_commandNote->setWordWrap(true);
   m_commandNote->setTextFormat(Qt::PlainText);
   m_findingList = new FindingList(box);
-  m_findingList->setObjectName(QStringLiteral("findings"));
   auto* const label = new QLabel(tr("C&onnect command"), box);
   label->setBuddy(m_command);
   auto* const heading = new QHBoxLayout;
@@ -357,7 +363,20 @@ void MainWindow::go_to(const Setting& setting) {
   }
 }
 
+// What is typed just now belongs to what is stored.
+bool MainWindow::finish_typing() {
+  QWidget* const focused = QApplication::focusWidget();
+  if (focused == nullptr || !isAncestorOf(focused)) return true;
+  if (focused->property("refused").toBool()) {
+    tell(tr("The value in the field '%1' is not accepted. Correct it first.").arg(focused->accessibleName()));
+    return false;
+  }
+  focused->clearFocus();
+  return true;
+}
+
 void MainWindow::apply() {
+  if (!finish_typing()) return;
   m_session.look_at_files();
   const auto documents = m_session.with_changes();
   if (documents.empty()) return;
@@ -393,6 +412,7 @@ void MainWindow::help_on(const Setting& setting) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  if (!finish_typing()) return event->ignore();
   while (true) {
     const auto documents = m_session.with_changes();
     if (documents.empty()) break;

@@ -29,6 +29,7 @@ class MainWindow : public QMainWindow {
  public:
   // The name of the design is for the title.
   MainWindow(Session& session, const QString& design, QWidget* parent = nullptr);
+  ~MainWindow() override;
 
   void select(const std::string& processor);
   // The first processor that can be debugged, if there is one.
@@ -52,6 +53,8 @@ class MainWindow : public QMainWindow {
   void refresh_banner();
   void refresh_actions();
 
+  // False if what is typed just now is not accepted.
+  bool finish_typing();
   void apply();
   void copy();
   void reset();
