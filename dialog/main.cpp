@@ -28,7 +28,9 @@ constexpr int kUsage = 2;
 
 void translate(QApplication& application) {
   auto* const ours = new QTranslator(&application);
-  if (ours->load(QLocale(), QStringLiteral("qvtdialog"), QStringLiteral("_"), QStringLiteral(":/i18n"))) {
+  // English needs its file too: for the plural forms.
+  if (ours->load(QLocale(), QStringLiteral("qvtdialog"), QStringLiteral("_"), QStringLiteral(":/i18n")) ||
+      ours->load(QStringLiteral(":/i18n/qvtdialog_en.qm"))) {
     QCoreApplication::installTranslator(ours);
   }
   auto* const qts = new QTranslator(&application);

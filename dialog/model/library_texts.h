@@ -9,12 +9,15 @@
 #include <SdkDebugDialog/Settings.h>
 
 #include <QString>
+#include <span>
 #include <string_view>
 
 namespace qvtdialog {
 
 // A fixed text of the library, translated if there is a translation.
 QString translated(std::string_view text);
+// All texts that there are translations of.
+std::span<const char* const> library_strings();
 
 QString label_of(const SdkDebugDialog::Setting& setting);
 QString meaning_of(const SdkDebugDialog::Setting& setting);
