@@ -49,8 +49,10 @@ MainWindow::MainWindow(Session& session, const QString& design, QWidget* parent)
   QWidget* const banner = make_banner();
   QStringList taken;
   for (const QAction* const menu : menuBar()->actions()) taken += menu->text();
-  for (const QAction* const action : {m_undo, m_redo, m_apply, m_reset, m_copy, m_cancel}) taken += action->text();
-  taken += {m_take->text(), m_keep->text(), m_editBox->text()};
+  for (const QWidget* const part : {banner, command, buttons}) {
+    for (const auto* const button : part->findChildren<QAbstractButton*>()) taken += button->text();
+    for (const auto* const label : part->findChildren<QLabel*>()) taken += label->text();
+  }
   Mnemonics keys(taken);
   m_list = new ProcessorList(m_session, keys, this);
   m_form = new SettingsForm(keys, this);
