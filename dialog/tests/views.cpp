@@ -39,6 +39,11 @@ Language::~Language() {
 
 namespace {
 
+void look_at(QWidget& window, const QString& view, const Look& look) {
+  QCoreApplication::processEvents();  // the layout
+  look(window, view);
+}
+
 void set(Person& person, const char* setting, const std::string& text) {
   person.document().type(*find_setting(setting), text);
   person.document().end_typing();
@@ -49,8 +54,7 @@ void look_at_tabs(Person& person, const QString& view, const Look& look) {
   for (int tab = 0; tab < form.count(); ++tab) {
     if (!form.isTabVisible(tab)) continue;
     form.setCurrentIndex(tab);
-    QCoreApplication::processEvents();
-    look(person.window, view + QStringLiteral(", ") + form.tabText(tab));
+    look_at(person.window, view + QStringLiteral(", ") + form.tabText(tab), look);
   }
 }
 
@@ -78,7 +82,7 @@ void look_at_processors(const QString& design, std::set<QString>& kinds, const L
 void show(QWidget& dialog, const QString& view, const Look& look) {
   dialog.show();
   if (!QTest::qWaitForWindowExposed(&dialog)) qFatal("a dialog does not appear");
-  look(dialog, view);
+  look_at(dialog, view, look);
   dialog.hide();
 }
 
@@ -98,7 +102,7 @@ void look_at_dialogs(Person& person, const Look& look) {
   bool asked = false;
   const QPointer<QTimer> waiting = in_next_dialog([&](QWidget& question) {
     asked = true;
-    look(question, QStringLiteral("question"));
+    look_at(question, QStringLiteral("question"), look);
     static_cast<QDialog&>(question).reject();
   });
   person.window.close();
@@ -126,11 +130,11 @@ void look_at_all_views(const Look& look) {
   look_at_dialogs(person, look);
   write_file(file, "connect ov odm -debugdevice deviceNr 3\n");
   person.document().look_at_file();
-  look(person.window, QStringLiteral("conflict"));
+  look_at(person.window, QStringLiteral("conflict"), look);
   person.document().keep_mine();
   person.find<QCheckBox>(QStringLiteral("edit-command")).click();
   person.document().type_content("conect ov odm -cabel type zarvek_platformusb 2");
-  look(person.window, QStringLiteral("not understood"));
+  look_at(person.window, QStringLiteral("not understood"), look);
 }
 
 QList<QWidget*> visible_widgets(const QWidget& window) {

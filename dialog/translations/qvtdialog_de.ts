@@ -1724,6 +1724,10 @@
         <source>Everything is copied.</source>
         <translation>Alles wird kopiert.</translation>
     </message>
+    <message>
+        <source>The space bar checks a processor</source>
+        <translation>Die Leertaste hakt einen Prozessor an</translation>
+    </message>
 </context>
 <context>
     <name>qvtdialog::Document</name>
@@ -2279,7 +2283,7 @@ Debug-Konfiguration der Prozessoren FPGA-basierter Designs und die Verbindungsbe
     </message>
     <message>
         <source>Option file</source>
-        <translation>Optionsdatei</translation>
+        <translation>Datei</translation>
     </message>
 </context>
 <context>

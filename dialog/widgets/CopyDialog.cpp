@@ -83,6 +83,7 @@ CopyDialog::CopyDialog(Session& session, Document& from, QWidget* parent)
   m_filter->setClearButtonEnabled(true);
   m_view->setObjectName(QStringLiteral("copy-targets"));
   m_view->setAccessibleName(tr("Processors to copy to"));
+  m_view->setAccessibleDescription(tr("The space bar checks a processor"));
   m_view->setUniformItemSizes(true);
   m_view->setModel(filtered);
   m_preview->setObjectName(QStringLiteral("copy-preview"));

@@ -39,11 +39,13 @@ Field::Field(const Setting& setting, QGridLayout& layout, int row)
       m_row(row),
       m_label(new QLabel(layout.parentWidget())),
       m_unit(new QLabel(unit_of(setting), layout.parentWidget())),
-      m_default(new QToolButton(layout.parentWidget())),
       m_note(new QLabel(layout.parentWidget())) {
   m_label->setObjectName(object_name("label", setting));
   m_label->setToolTip(meaning_of(setting));
   m_unit->setObjectName(object_name("unit", setting));
+  // The tab key goes in the order in which they are made.
+  make_editor(Shape::text);
+  m_default = new QToolButton(layout.parentWidget());
   m_default->setObjectName(object_name("default", setting));
   m_default->setAutoRaise(true);
   m_default->setProperty("setting", shown(setting.name));
@@ -55,7 +57,6 @@ Field::Field(const Setting& setting, QGridLayout& layout, int row)
   layout.addWidget(m_default, row, 3);
   layout.addWidget(m_note, row + 1, 1, 1, 3);
   connect(m_default, &QToolButton::clicked, this, &Field::default_wanted);
-  make_editor(Shape::text);
   hide();
 }
 
@@ -117,8 +118,8 @@ void Field::make_editor(Shape shape) {
     before->setObjectName({});
     before->hide();
     before->deleteLater();
-    // The order of the tab key is that of the rows.
-    QWidget::setTabOrder(m_editor, m_default);
+    // The tab key reaches it where it reached the one before.
+    QWidget::setTabOrder(before, m_editor);
     if (hadFocus) m_editor->setFocus();
   } else {
     m_layout.addWidget(m_editor, m_row, 1);

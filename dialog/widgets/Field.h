@@ -71,7 +71,7 @@ class Field : public QObject {
   QLabel* m_label;
   QWidget* m_editor = nullptr;
   QLabel* m_unit;
-  QToolButton* m_default;
+  QToolButton* m_default = nullptr;
   QLabel* m_note;
   Shape m_shape = Shape::none;
   bool m_isShown = false;
