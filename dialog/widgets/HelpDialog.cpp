@@ -124,8 +124,8 @@ void HelpDialog::show_kind(const FindingKind& kind) {
 void HelpDialog::show_keys() {
   const std::vector<std::pair<QString, QString>> keys = {
       {tr("Ctrl+F"), tr("filter the processors")},
-      {tr("Ctrl+Tab"), tr("the next group of settings")},
-      {tr("Alt and a letter"), tr("the field, tab or button with this letter underlined")},
+      {tr("Alt and a number"), tr("the group of settings in this place")},
+      {tr("Alt and a letter"), tr("the field or button with this letter underlined")},
       {tr("F1"), tr("what the field, the word or the finding means")},
       {tr("Ctrl+E"), tr("edit the command as text, and back")},
       {tr("Ctrl+Z, Ctrl+Shift+Z"), tr("undo, redo")},

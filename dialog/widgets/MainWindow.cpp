@@ -202,13 +202,15 @@ QWidget* MainWindow::make_command_box() {
 }
 
 QPushButton* MainWindow::button_of(QAction* action, const QString& name) {
-  auto* const button = new QPushButton(action->text(), this);
+  // Its key is that of the action: the letters are left for the fields.
+  const auto text = [action] { return action->text().remove(QLatin1Char('&')); };
+  auto* const button = new QPushButton(text(), this);
   button->setObjectName(name);
   button->setAutoDefault(false);
   button->setToolTip(action->toolTip());
   connect(button, &QPushButton::clicked, action, &QAction::trigger);
-  connect(action, &QAction::changed, button, [action, button] {
-    button->setText(action->text());
+  connect(action, &QAction::changed, button, [action, button, text] {
+    button->setText(text());
     button->setEnabled(action->isEnabled());
     button->setToolTip(action->toolTip());
   });

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QGridLayout>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QTabBar>
 
 #include "model/Bytes.h"
@@ -44,6 +45,13 @@ SettingsForm::SettingsForm(const Mnemonics& taken, QWidget* parent) : QTabWidget
   setAccessibleDescription(tr("A tab for each group of settings"));
   setUsesScrollButtons(true);
   for (const SettingGroup& group : setting_groups()) make_page(group);
+  for (int number = 1; number <= 9; ++number) {
+    auto* const shortcut = new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + number)), this);
+    connect(shortcut, &QShortcut::activated, this, [this, number] {
+      const auto tabs = visible_tabs();
+      if (number <= static_cast<int>(tabs.size())) setCurrentIndex(tabs[static_cast<std::size_t>(number - 1)]);
+    });
+  }
   setEnabled(false);
 }
 
@@ -73,7 +81,7 @@ void SettingsForm::make_page(const SettingGroup& group) {
   area->setFrameShape(QFrame::NoFrame);
   area->setFocusPolicy(Qt::NoFocus);
   area->setWidget(page);
-  addTab(area, m_taken.with_key(label_of(group)));
+  addTab(area, label_of(group).replace(QLatin1Char('&'), QStringLiteral("&&")));
   m_pages.push_back(std::move(made));
 }
 
@@ -127,6 +135,10 @@ void SettingsForm::refresh() {
     }
     setTabVisible(static_cast<int>(i), !isEmpty);
   }
+  const auto tabs = visible_tabs();
+  for (std::size_t i = 0; i < tabs.size(); ++i) {
+    setTabToolTip(tabs[i], i < 9 ? tr("Alt+%1").arg(i + 1) : QString());
+  }
   m_chain->setVisible(states[static_cast<std::size_t>(find_setting("devices") - settings().data())].applies);
   m_chain->refresh();
   std::vector<AddressRegion> areas;
@@ -134,6 +146,14 @@ void SettingsForm::refresh() {
     areas.push_back({label_of(*region.setting), region.begin, region.end, region.overlaps, region.setting});
   }
   for (AddressPicture* const picture : m_pictures) picture->show_regions(areas);
+}
+
+std::vector<int> SettingsForm::visible_tabs() const {
+  std::vector<int> tabs;
+  for (int i = 0; i < count(); ++i) {
+    if (isTabVisible(i)) tabs.push_back(i);
+  }
+  return tabs;
 }
 
 void SettingsForm::refresh_field(Field& field, const SettingState& state) {

@@ -18,7 +18,8 @@ class AddressPicture;
 class ChainEditor;
 class Field;
 
-// The settings of a processor: a tab for each group of the catalogue, a row for each setting that applies.
+// The settings of a processor: a tab for each group of the catalogue, a row for each setting that applies. Alt and a
+// number shows a tab; the letters are left for the fields.
 class SettingsForm : public QTabWidget {
   Q_OBJECT
 
@@ -45,7 +46,7 @@ class SettingsForm : public QTabWidget {
   void add_field(Page& made, const SdkDebugDialog::Setting& setting, QGridLayout& layout);
   void add_chain(const SdkDebugDialog::Setting& setting, QGridLayout& layout);
   void refresh_field(Field& field, const SdkDebugDialog::SettingState& state);
-  void set_keys(const Mnemonics& taken);
+  std::vector<int> visible_tabs() const;
 
   QPointer<Document> m_document;
   Mnemonics m_taken;
