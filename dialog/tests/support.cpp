@@ -63,6 +63,22 @@ Design example(const QString& design) {
       DesignFile::load(QStringLiteral(EXAMPLE_DESIGNS "/%1.json").arg(design).toStdString())));
 }
 
+std::string design_of(int processors) {
+  std::string text = R"({"name": "huge", "instances": [)";
+  const char* const kinds[] = {"ovrin", "ppc440_varnel5", "ppc405_varnel4", "hc9_cortexa9"};
+  const char* const debug[] = {"odm", "jtag_ppc_bridge", "jtag_ppc_bridge"};
+  for (int i = 0; i < processors; ++i) {
+    const std::string number = std::to_string(i);
+    if (i != 0) text += ',';
+    text += R"({"name": "cpu_)" + number + R"(", "type": ")" + kinds[i % 4] +
+            R"(", "class": "processor", "peripherals": []})";
+    if (i % 4 == 3) continue;
+    text += R"(,{"name": "debug_)" + number + R"(", "type": ")" + debug[i % 4] +
+            R"(", "class": "debug", "processors": ["cpu_)" + number + R"("]})";
+  }
+  return text + "]}";
+}
+
 Person::Person(const QString& design)
     : session(Design(std::make_shared<DesignFile>(DesignFile::load(design.toStdString())))), window(session, design) {
   window.select_first();

@@ -43,6 +43,8 @@ std::optional<std::string> content_of(const QString& path);
 std::map<QString, std::string> contents_of(const QString& folder);
 
 SdkDebugDialog::Design example(const QString& design);
+// The text of a design with processors cpu_0, cpu_1, ... of all families; every fourth one cannot be debugged.
+std::string design_of(int processors);
 
 class Person {
  public:

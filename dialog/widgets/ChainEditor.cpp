@@ -208,11 +208,7 @@ void ChainEditor::update_buttons() {
 
 void ChainEditor::assign(const Chain& chain, int debugDevice, const QString& title) {
   if (!m_document) return;
-  std::vector<Document::Assignment> assignments = {{&m_setting, chain}};
-  if (debugDevice != m_document->configuration().record().debugDevice) {
-    assignments.push_back({&m_debugDevice, std::int64_t{debugDevice}});
-  }
-  const auto assigned = m_document->assign(assignments, title);
+  const auto assigned = m_document->assign({{&m_setting, chain}, {&m_debugDevice, std::int64_t{debugDevice}}}, title);
   if (assigned) return;
   m_note->setText(shown(assigned.error().message));
   m_note->show();

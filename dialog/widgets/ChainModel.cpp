@@ -25,7 +25,7 @@ QStringList parts_of(JtagOption device) {
   // Told in full only if the last three are not the default.
   const bool isPlain = device.isfpga == 0 && device.hardppc == 0 && device.nppc == 0;
   if (isPlain) device.nppc = 1;
-  device.partname = "x";
+  device.partname = JtagOption().partname;
   QStringList parts =
       shown(value_text(*find_setting("devices"), std::vector<JtagOption>{device})).split(QLatin1Char(','));
   if (isPlain) parts.back() = QStringLiteral("0");

@@ -4,7 +4,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QSortFilterProxyModel>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -17,12 +16,8 @@ ProcessorList::ProcessorList(Session& session, Mnemonics& keys, QWidget* parent)
     : QWidget(parent),
       m_session(session),
       m_model(new ProcessorModel(session, this)),
-      m_filtered(new QSortFilterProxyModel(this)),
       m_filter(new QLineEdit(this)),
       m_view(new QTreeView(this)) {
-  m_filtered->setSourceModel(m_model);
-  m_filtered->setFilterKeyColumn(ProcessorModel::name);
-  m_filtered->setDynamicSortFilter(false);  // names do not change; a change of a row is no reason to filter again
   m_filter->setObjectName(QStringLiteral("filter"));
   m_filter->setPlaceholderText(tr("Filter by name"));
   m_filter->setClearButtonEnabled(true);
@@ -30,7 +25,7 @@ ProcessorList::ProcessorList(Session& session, Mnemonics& keys, QWidget* parent)
   m_view->setObjectName(QStringLiteral("processors"));
   m_view->setAccessibleName(tr("Processors of the design"));
   m_view->setAccessibleDescription(tr("What they are, and what is known about their option files"));
-  m_view->setModel(m_filtered);
+  m_view->setModel(m_model);
   m_view->setRootIsDecorated(false);
   m_view->setUniformRowHeights(true);
   m_view->setAllColumnsShowFocus(true);
@@ -50,7 +45,7 @@ ProcessorList::ProcessorList(Session& session, Mnemonics& keys, QWidget* parent)
   connect(m_filter, &QLineEdit::textChanged, this, &ProcessorList::set_filter);
   connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& index) {
     if (m_isFiltering || !index.isValid()) return;
-    m_selected = static_cast<std::size_t>(m_filtered->mapToSource(index).row());
+    m_selected = m_model->place_of(index.row());
     emit selected(m_session.names()[*m_selected]);
   });
 }
@@ -58,18 +53,17 @@ ProcessorList::ProcessorList(Session& session, Mnemonics& keys, QWidget* parent)
 // A filter selects nothing: a processor that it leaves out stays the one that is edited.
 void ProcessorList::set_filter(const QString& text) {
   m_isFiltering = true;
-  m_filtered->setFilterFixedString(text);
-  const QModelIndex current =
-      m_selected ? m_filtered->mapFromSource(m_model->index(static_cast<int>(*m_selected), 0)) : QModelIndex();
+  m_model->set_filter(text);
+  const auto row = m_selected ? m_model->row_of(*m_selected) : std::nullopt;
+  const QModelIndex current = row ? m_model->index(*row, 0) : QModelIndex();
   m_view->setCurrentIndex(current);
   if (current.isValid()) m_view->scrollTo(current);
   m_isFiltering = false;
 }
 
 void ProcessorList::select(std::size_t place) {
-  const QModelIndex source = m_model->index(static_cast<int>(place), 0);
-  if (!m_filtered->mapFromSource(source).isValid()) m_filter->clear();
-  const QModelIndex index = m_filtered->mapFromSource(source);
+  if (!m_model->row_of(place)) m_filter->clear();
+  const QModelIndex index = m_model->index(m_model->row_of(place).value(), 0);
   m_view->setCurrentIndex(index);
   m_view->scrollTo(index);
 }

@@ -9,7 +9,6 @@
 #include "widgets/Mnemonics.h"
 
 class QLineEdit;
-class QSortFilterProxyModel;
 class QTreeView;
 
 namespace qvtdialog {
@@ -35,7 +34,6 @@ class ProcessorList : public QWidget {
 
   Session& m_session;
   ProcessorModel* m_model;
-  QSortFilterProxyModel* m_filtered;
   QLineEdit* m_filter;
   QTreeView* m_view;
   std::optional<std::size_t> m_selected;

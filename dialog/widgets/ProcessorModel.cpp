@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QPalette>
 #include <QStringList>
+#include <algorithm>
 
 #include "model/Bytes.h"
 #include "widgets/Colours.h"
@@ -40,25 +41,40 @@ QString whole_text(const QString& name, const Overview& overview) {
 }  // namespace
 
 ProcessorModel::ProcessorModel(Session& session, QObject* parent) : QAbstractTableModel(parent), m_session(session) {
+  set_filter({});
   connect(&session, &Session::overview_changed, this, [this](std::size_t place) {
-    const int row = static_cast<int>(place);
-    emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+    if (const auto row = row_of(place)) emit dataChanged(index(*row, 0), index(*row, columnCount() - 1));
   });
   connect(&session, &Session::overviews_changed, this, [this] {
     if (rowCount() > 0) emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
   });
 }
 
+void ProcessorModel::set_filter(const QString& text) {
+  beginResetModel();
+  m_places.clear();
+  for (std::size_t place = 0; place < m_session.names().size(); ++place) {
+    if (text.isEmpty() || shown(m_session.names()[place]).contains(text, Qt::CaseInsensitive))
+      m_places.push_back(place);
+  }
+  endResetModel();
+}
+
+std::optional<int> ProcessorModel::row_of(std::size_t place) const {
+  const auto found = std::lower_bound(m_places.begin(), m_places.end(), place);
+  if (found == m_places.end() || *found != place) return std::nullopt;
+  return static_cast<int>(found - m_places.begin());
+}
+
 int ProcessorModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(m_session.names().size());
+  return parent.isValid() ? 0 : static_cast<int>(m_places.size());
 }
 
 int ProcessorModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : Column::count; }
 
 QVariant ProcessorModel::data(const QModelIndex& index, int role) const {
-  const auto place = static_cast<std::size_t>(index.row());
+  const std::size_t place = place_of(index.row());
   const QString processor = shown(m_session.names()[place]);
-  // The filter asks for the names of all rows: they need no look at the files.
   if (index.column() == name && role == Qt::DisplayRole) return processor;
   switch (role) {
     case Qt::DisplayRole:
@@ -92,9 +108,11 @@ QVariant ProcessorModel::headerData(int section, Qt::Orientation orientation, in
   return texts[section];
 }
 
+// A view asks for the flags of all rows: they need no look at the files.
 Qt::ItemFlags ProcessorModel::flags(const QModelIndex& index) const {
-  const bool debuggable = m_session.overview(static_cast<std::size_t>(index.row())).debuggable;
-  return debuggable ? QAbstractTableModel::flags(index) : Qt::ItemFlags(Qt::ItemNeverHasChildren);
+  const bool debuggable = m_session.is_debuggable(place_of(index.row()));
+  const Qt::ItemFlags flags = debuggable ? QAbstractTableModel::flags(index) : Qt::ItemFlags();
+  return flags | Qt::ItemNeverHasChildren;
 }
 
 }  // namespace qvtdialog
