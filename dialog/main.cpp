@@ -21,6 +21,7 @@
 #include "model/Bytes.h"
 #include "model/Session.h"
 #include "widgets/MainWindow.h"
+#include "widgets/Style.h"
 
 namespace {
 
@@ -114,6 +115,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationVersion(QStringLiteral(QVTDIALOG_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral("qvtdialog"));
   QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("qvtdialog")));
+  QApplication::setStyle(new qvtdialog::Style);
   translate(application);
   return run(application);
 }

@@ -6,13 +6,18 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyleOptionButton>
 #include <QTabBar>
 #include <QTest>
+#include <QTreeView>
 
 #include "support.h"
 #include "views.h"
+#include "widgets/Colours.h"
+#include "widgets/Style.h"
 
 namespace qvtdialog {
 
@@ -21,6 +26,21 @@ namespace {
 void check_width(const QWidget& widget, const QString& view, int wanted, int room, const QString& text) {
   QVERIFY2(wanted <= room, qPrintable(view + QStringLiteral(": ") + name_of(widget) + QStringLiteral(": ") + text +
                                       QStringLiteral(" needs %1, has %2").arg(wanted).arg(room)));
+}
+
+// Texts of rows are wrapped, and the rows high enough.
+void check_rows(const QTreeView& rows, const QString& view, const QModelIndex& parent) {
+  for (int row = 0; row < rows.model()->rowCount(parent); ++row) {
+    for (int column = 0; column < rows.model()->columnCount(parent) && parent.isValid(); ++column) {
+      const QModelIndex index = rows.model()->index(row, column, parent);
+      const QString text = index.data().toString();
+      const QRect cell = rows.visualRect(index);
+      if (text.isEmpty() || cell.isEmpty()) continue;  // scrolled out of sight
+      const QSize needed = rows.fontMetrics().boundingRect(cell, Qt::TextWordWrap, text).size();
+      check_width(rows, view, needed.height(), cell.height(), text);
+    }
+    check_rows(rows, view, rows.model()->index(row, 0, parent));
+  }
 }
 
 void check_texts(const QWidget& window, const QString& view) {
@@ -46,6 +66,9 @@ void check_texts(const QWidget& window, const QString& view) {
         check_width(*header, view, header->sectionSizeHint(i), header->sectionSize(i),
                     header->model()->headerData(i, Qt::Horizontal).toString());
       }
+    }
+    if (const auto* const rows = qobject_cast<const QTreeView*>(widget); rows != nullptr && rows->wordWrap()) {
+      check_rows(*rows, view, {});
     }
     if (const auto* const area = qobject_cast<const QScrollArea*>(widget)) {
       check_width(*area, view, area->horizontalScrollBar()->maximum(), 0, QStringLiteral("the page"));
@@ -92,6 +115,29 @@ class ReadabilityTest : public QObject {
     look_at_all_views([](QWidget& shown, const QString& view) {
       if (!QTest::currentTestFailed()) check_texts(shown, view);
     });
+  }
+
+  void check_boxes_are_large_and_can_be_seen() {
+    const Font font(2);
+    const Style style;
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(45, 45, 48));
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text}) dark.setColor(role, Qt::white);
+    QStyleOptionButton option;
+    option.palette = dark;
+    option.state = QStyle::State_Enabled | QStyle::State_Off;
+    const int size = style.pixelMetric(QStyle::PM_IndicatorWidth, nullptr, nullptr);
+    QVERIFY(size >= QFontMetrics(QApplication::font()).ascent());
+    option.rect = QRect(0, 0, size, size);
+    QPixmap picture(size, size);
+    picture.fill(dark.color(QPalette::Base));
+    QPainter painter(&picture);
+    style.drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter, nullptr);
+    painter.end();
+    const QImage image = picture.toImage();
+    QVERIFY(contrast(image.pixelColor(0, size / 2), dark.color(QPalette::Base)) >= 3);
+    QVERIFY(contrast(image.pixelColor(size / 2, size - 1), dark.color(QPalette::Base)) >= 3);
   }
 
   void everything_fits_on_a_small_screen_data() {

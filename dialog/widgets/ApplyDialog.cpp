@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -20,6 +21,23 @@ using SdkDebugDialog::Loss;
 using SdkDebugDialog::OnLoss;
 
 namespace {
+
+// Makes rows as high as their texts need, in columns as they are.
+class WrappingDelegate : public QStyledItemDelegate {
+ public:
+  explicit WrappingDelegate(QTreeView& view) : QStyledItemDelegate(&view), m_view(view) {}
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    if (!index.parent().isValid()) return QStyledItemDelegate::sizeHint(option, index);
+    QStyleOptionViewItem narrow = option;
+    const int indentation = index.column() == 0 ? 2 * m_view.indentation() : 0;
+    narrow.rect = QRect(0, 0, m_view.columnWidth(index.column()) - indentation, 1);
+    return QStyledItemDelegate::sizeHint(narrow, index);
+  }
+
+ private:
+  QTreeView& m_view;
+};
 
 void add_row(QTreeWidgetItem& parent, const QStringList& texts, const QColor& ink = {}) {
   auto* const item = new QTreeWidgetItem(&parent, texts);
@@ -53,6 +71,8 @@ ApplyDialog::ApplyDialog(std::vector<Document*> documents, QWidget* parent)
   m_tree->setAccessibleDescription(tr("The processors, below each what changes and what is lost"));
   m_tree->setHeaderLabels({tr("Setting"), tr("Before"), tr("After")});
   m_tree->setWordWrap(true);
+  m_tree->setItemDelegate(new WrappingDelegate(*m_tree));
+  connect(m_tree->header(), &QHeaderView::sectionResized, m_tree, &QTreeWidget::doItemsLayout);
   for (Document* const document : m_documents) add_document(*document);
   m_tree->expandAll();
   const int em = fontMetrics().horizontalAdvance(QLatin1Char('m'));
@@ -106,7 +126,7 @@ QTreeWidgetItem* ApplyDialog::add_document(Document& document) {
     add_row(*item, {label_of(*difference.setting), value_of(*difference.setting, difference.before),
                     value_of(*difference.setting, difference.after)});
   }
-  for (const Loss& loss : plan->losses) add_row(*item, {tr("lost"), shown(loss.what), shown(loss.why)}, wrong);
+  for (const Loss& loss : plan->losses) add_row(*item, {tr("lost"), shown(loss.what), translated(loss.why)}, wrong);
   if (!plan->notReadBack.empty()) add_row(*item, {tr("not read back"), {}, shown(plan->notReadBack)}, wrong);
   const bool hasFile = document.stored().has_value();
   add_row(*item, {tr("the file"), hasFile ? line_of(plan->before) : tr("no file"), line_of(plan->after)});

@@ -142,6 +142,7 @@ ChainEditor::ChainEditor(const Setting& setting, QWidget* parent)
   splitter->setChildrenCollapsible(false);
   splitter->addWidget(m_picture);
   splitter->addWidget(right);
+  splitter->setSizes({1, 1});  // halves
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(splitter, 1);

@@ -73,7 +73,7 @@ MainWindow::MainWindow(Session& session, const QString& design, QWidget* parent)
   splitter->addWidget(right);
   splitter->setStretchFactor(1, 1);
   const int em = fontMetrics().horizontalAdvance(QLatin1Char('m'));
-  splitter->setSizes({26 * em, 74 * em});
+  splitter->setSizes({30 * em, 70 * em});
   auto* const all = new QWidget(this);
   auto* const layout = new QVBoxLayout(all);
   layout->addWidget(splitter, 1);

@@ -60,10 +60,12 @@ void SettingsForm::make_page(const SettingGroup& group) {
   auto* const layout = new QGridLayout(page);
   layout->setColumnStretch(1, 1);
   Page made{page, {}};
+  bool isFilled = has_picture(group);
   for (const Setting& setting : settings()) {
     if (setting.group != group.name) continue;
     if (setting.kind == SettingKind::devices) {
       add_chain(setting, *layout);
+      isFilled = true;
     } else {
       add_field(made, setting, *layout);
     }
@@ -74,7 +76,8 @@ void SettingsForm::make_page(const SettingGroup& group) {
     connect(picture, &AddressPicture::setting_wanted, this, [this](const Setting* setting) { go_to(*setting); });
     m_pictures.push_back(picture);
   }
-  layout->setRowStretch(layout->rowCount(), 1);
+  // A chain or a picture takes the rest of the page; fields leave it empty.
+  layout->setRowStretch(layout->rowCount() - (isFilled ? 1 : 0), 1);
   auto* const area = new QScrollArea(this);
   area->setObjectName(QStringLiteral("page:") + shown(group.name));
   area->setWidgetResizable(true);
