@@ -128,6 +128,7 @@ constexpr const char* kStrings[] = {
 
     // Why a setting does not apply, cannot be changed, or is not written.
     QT_TRANSLATE_NOOP("library", "a command for this connection does not tell it"),
+    QT_TRANSLATE_NOOP("library", "a command written anew does not have it"),
     QT_TRANSLATE_NOOP("library", "a command for this target and connection does not take it"),
     QT_TRANSLATE_NOOP("library", "it has its default"),
     QT_TRANSLATE_NOOP("library", "it is for a PowerPC with the connection 'hardware'"),
@@ -152,6 +153,7 @@ constexpr const char* kStrings[] = {
     QT_TRANSLATE_NOOP("library", "it is written ppc405, 'isocmStartAdr' set"),
     QT_TRANSLATE_NOOP("library", "it is written unless the connection is simulator or stub"),
     QT_TRANSLATE_NOOP("library", "it is written when a host is set and '-icf' is not"),
+    QT_TRANSLATE_NOOP("library", "of a device number, part, length and IDCODE are written"),
     QT_TRANSLATE_NOOP("library", "only a PowerPC has one"),
     QT_TRANSLATE_NOOP("library", "other settings tell it"),
     QT_TRANSLATE_NOOP("library", "the cable has no such setting"),

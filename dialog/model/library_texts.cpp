@@ -16,7 +16,10 @@ using SdkDebugDialog::Severity;
 using SdkDebugDialog::value_text;
 
 QString translated(std::string_view text) {
-  return text.empty() ? QString() : QCoreApplication::translate("library", std::string(text).c_str());
+  const std::string source(text);
+  const QString found = QCoreApplication::translate("library", source.c_str());
+  // What was put together can have bytes that are no characters.
+  return found == QString::fromStdString(source) ? shown(text) : found;
 }
 
 QString label_of(const Setting& setting) { return translated(setting.label); }
@@ -25,6 +28,9 @@ QString label_of(const SettingGroup& group) { return translated(group.label); }
 QString unit_of(const Setting& setting) { return translated(setting.unit); }
 
 QString value_of(const Setting& setting, const SettingValue& value) {
+  if (const bool* const on = std::get_if<bool>(&value)) {
+    return *on ? QCoreApplication::translate("value", "on") : QCoreApplication::translate("value", "off");
+  }
   const std::string text = value_text(setting, value);
   if (!text.empty()) return shown(text);
   return setting.kind == SettingKind::devices ? QCoreApplication::translate("value", "none")

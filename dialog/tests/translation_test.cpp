@@ -30,6 +30,7 @@ using SdkDebugDialog::Configuration;
 using SdkDebugDialog::find_setting;
 using SdkDebugDialog::finding_kinds;
 using SdkDebugDialog::FindingKind;
+using SdkDebugDialog::Loss;
 using SdkDebugDialog::Processor;
 using SdkDebugDialog::Setting;
 using SdkDebugDialog::setting_groups;
@@ -70,6 +71,18 @@ class Reasons {
     }
   }
 
+  void add(const Configuration& configuration) {
+    const auto command = configuration.command();
+    if (const auto edit = configuration.written_anew()) {
+      for (const Loss& loss : edit->losses) texts.insert(loss.why);
+    }
+    for (const SettingState& state : configuration.states()) {
+      texts.insert(state.whyNot);
+      // Why there is no command at all is an error, which is put together.
+      if (command || state.whyNotWritten != command.error().message) texts.insert(state.whyNotWritten);
+    }
+  }
+
  private:
   static std::vector<std::string> choices(const Configuration& configuration, std::string_view setting) {
     return configuration.state(*find_setting(setting)).choices;
@@ -80,15 +93,6 @@ class Reasons {
     std::vector<std::string> texts(state.choices.rbegin(), state.choices.rend());
     for (const char* const text : {"17", "0x10000", "on", "1,p,4,0x1,1,ppc405,2", "x"}) texts.emplace_back(text);
     return texts;
-  }
-
-  void add(const Configuration& configuration) {
-    const auto command = configuration.command();
-    for (const SettingState& state : configuration.states()) {
-      texts.insert(state.whyNot);
-      // Why there is no command at all is an error, which is put together.
-      if (command || state.whyNotWritten != command.error().message) texts.insert(state.whyNotWritten);
-    }
   }
 
   void change_each(const Configuration& configuration) {
@@ -117,6 +121,9 @@ std::set<std::string> texts_of_library() {
     for (const Processor& processor : example(QString::fromLatin1(design)).processors()) reasons.walk(processor);
   }
   reasons.walk({});  // without a design, nothing is fixed
+  for (const FindingKind& kind : finding_kinds()) {
+    if (const auto read = Configuration::read({}, kind.example)) reasons.add(*read);
+  }
   std::set<std::string> texts = std::move(reasons.texts);
   for (const SettingGroup& group : setting_groups()) texts.emplace(group.label);
   for (const Setting& setting : settings()) {

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en_US">
 <context>
+    <name>ChainEditor</name>
+    <message>
+        <source>&apos;%1&apos; was not taken: %2</source>
+        <translation>„%1“ wurde nicht übernommen: %2</translation>
+    </message>
+</context>
+<context>
     <name>library</name>
     <message>
         <source>Processor</source>
@@ -1291,6 +1298,14 @@
         <source>Correct those that are listed, and check again. A text with so many findings is often not an option file at all.</source>
         <translation>Die aufgeführten berichtigen und erneut prüfen. Ein Text mit so vielen Befunden ist oft gar keine Optionsdatei.</translation>
     </message>
+    <message>
+        <source>a command written anew does not have it</source>
+        <translation>ein neu geschriebener Befehl enthält es nicht</translation>
+    </message>
+    <message>
+        <source>of a device number, part, length and IDCODE are written</source>
+        <translation>von einem Baustein werden Nummer, Name, Länge und IDCODE geschrieben</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -2209,6 +2224,10 @@ Debug-Konfiguration der Prozessoren FPGA-basierter Designs und die Verbindungsbe
         <source>&amp;Go on editing</source>
         <translation>&amp;Weiter bearbeiten</translation>
     </message>
+    <message>
+        <source>The value in the field &apos;%1&apos; is not accepted. Correct it first.</source>
+        <translation>Der Wert im Feld „%1“ wird nicht angenommen. Er ist erst zu berichtigen.</translation>
+    </message>
 </context>
 <context>
     <name>qvtdialog::ProcessorList</name>
@@ -2328,6 +2347,14 @@ Debug-Konfiguration der Prozessoren FPGA-basierter Designs und die Verbindungsbe
     <message>
         <source>not set</source>
         <translation>nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
     </message>
 </context>
 </TS>

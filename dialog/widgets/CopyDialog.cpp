@@ -13,6 +13,7 @@
 #include <set>
 
 #include "model/Bytes.h"
+#include "model/library_texts.h"
 
 namespace qvtdialog {
 
@@ -129,8 +130,8 @@ void CopyDialog::preview() {
     }
     Configuration tried = target.configuration();
     for (const Loss& loss : tried.copy_settings(m_from.configuration())) {
-      lines +=
-          name + QStringLiteral(": ") + shown(loss.what) + QStringLiteral(" (") + shown(loss.why) + QStringLiteral(")");
+      lines += name + QStringLiteral(": ") + shown(loss.what) + QStringLiteral(" (") + translated(loss.why) +
+               QStringLiteral(")");
     }
   }
   if (lines.isEmpty()) lines += m_targets->checked().empty() ? QString() : tr("Everything is copied.");
