@@ -9,9 +9,6 @@ build_packages="g++ cmake ninja-build libboost-dev libboost-filesystem-dev libcl
 # What the dialog needs: Qt with its compiler of translations, what shows its icon, and Qt's own texts in German.
 dialog_packages="qt6-base-dev qt6-tools-dev libqt6svg6 qt6-translations-l10n"
 
-# A display that nobody sees.
-xvfb_packages="xvfb xauth"
-
 missing_packages() {
   for package in "$@"; do
     status=$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null) || status=
