@@ -64,9 +64,14 @@ class Document::Step : public QUndoCommand {
   int m_typing;
 };
 
+void Document::tell_changed() {
+  m_hasChanges.reset();
+  emit changed();
+}
+
 void Document::show(const Draft& draft) {
   m_draft = draft;
-  emit changed();
+  tell_changed();
 }
 
 void Document::push(Draft next, const QString& title, const void* typed) {
@@ -119,11 +124,19 @@ Expected<std::string> Document::command_text() const {
 }
 
 bool Document::has_changes() const {
+  if (!m_hasChanges) m_hasChanges = differs_from_file();
+  return *m_hasChanges;
+}
+
+bool Document::differs_from_file() const {
   if (!m_unreadable.isEmpty()) return false;
   if (!m_draft.refused.empty()) return true;
-  if (!m_stored) return !(m_draft == draft_of(m_stored));
+  const Draft stored = draft_of(m_stored);
+  if (!m_stored) return !(m_draft == stored);
   const Expected<std::string> now = content();
-  return !now || *now != *m_stored;
+  if (!now || *now != *m_stored) return true;
+  // A setting that no text tells in this state is a change too: it would be lost.
+  return !m_draft.text && !stored.text && !differences(stored.configuration, m_draft.configuration).empty();
 }
 
 namespace {
@@ -246,13 +259,13 @@ void Document::look_at_file() {
   const QString unreadable = file ? QString() : shown(file.error().message);
   if (unreadable != m_unreadable) {
     m_unreadable = unreadable;
-    emit changed();
+    tell_changed();
   }
   if (!file) return;
   if (*file == m_stored) {
     if (!m_conflict) return;
     m_conflict.reset();
-    emit changed();
+    tell_changed();
     return;
   }
   const bool isNews = !m_conflict || m_conflict->content != *file;
@@ -262,7 +275,7 @@ void Document::look_at_file() {
     take_theirs();
     emit reloaded();
   } else {
-    emit changed();
+    tell_changed();
   }
 }
 
@@ -271,14 +284,14 @@ void Document::take_theirs() {
   m_stored = m_conflict->content;
   m_conflict.reset();
   push(draft_of(m_stored), tr("the file as another program changed it"));
-  emit changed();
+  tell_changed();
 }
 
 void Document::keep_mine() {
   if (!m_conflict) return;
   m_stored = m_conflict->content;
   m_conflict.reset();
-  emit changed();
+  tell_changed();
 }
 
 Expected<void> Document::store(OnLoss onLoss) {
@@ -304,7 +317,7 @@ Expected<void> Document::store(OnLoss onLoss) {
   // What is changed next is changed in the text that is stored now.
   if (Draft read = draft_of(m_stored); !read.text) m_draft = std::move(read);
   end_typing();
-  emit changed();
+  tell_changed();
   return {};
 }
 

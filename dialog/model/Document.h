@@ -120,6 +120,8 @@ class Document : public QObject {
   class Step;
 
   Draft draft_of(const std::optional<std::string>& content) const;
+  bool differs_from_file() const;
+  void tell_changed();
   void show(const Draft& draft);
   // A new step; with typed, it joins the one before if that was typed into the same thing.
   void push(Draft next, const QString& title, const void* typed = nullptr);
@@ -132,6 +134,7 @@ class Document : public QObject {
   std::optional<Conflict> m_conflict;
 
   Draft m_draft;
+  mutable std::optional<bool> m_hasChanges;  // none: not looked up since the last change
   QUndoStack m_history;
   const void* m_typed = nullptr;  // a setting, or the document for its content
   Draft m_base;
