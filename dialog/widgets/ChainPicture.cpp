@@ -216,7 +216,11 @@ QSize ChainPicture::sizeHint() const {
   return {m_line * 30, height + 2 * frameWidth()};
 }
 
-QSize ChainPicture::minimumSizeHint() const { return {2 * m_terminal + m_box_width, row_top(1) + 2 * frameWidth()}; }
+// A device between the ends.
+QSize ChainPicture::minimumSizeHint() const {
+  return {2 * (m_terminal + gap(m_line) + padding(m_line)) + m_box_width + 2 * frameWidth(),
+          row_top(1) + 2 * frameWidth()};
+}
 
 // --- Painting ---
 
