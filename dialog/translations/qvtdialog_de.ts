@@ -1990,20 +1990,8 @@
         <translation>die Prozessoren filtern</translation>
     </message>
     <message>
-        <source>Ctrl+Tab</source>
-        <translation>Strg+Tab</translation>
-    </message>
-    <message>
-        <source>the next group of settings</source>
-        <translation>die nächste Gruppe von Einstellungen</translation>
-    </message>
-    <message>
         <source>Alt and a letter</source>
         <translation>Alt und ein Buchstabe</translation>
-    </message>
-    <message>
-        <source>the field, tab or button with this letter underlined</source>
-        <translation>das Feld, der Reiter oder der Knopf, bei dem dieser Buchstabe unterstrichen ist</translation>
     </message>
     <message>
         <source>F1</source>
@@ -2064,6 +2052,18 @@
     <message>
         <source>Keys</source>
         <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Alt and a number</source>
+        <translation>Alt und eine Ziffer</translation>
+    </message>
+    <message>
+        <source>the group of settings in this place</source>
+        <translation>die Gruppe von Einstellungen an dieser Stelle</translation>
+    </message>
+    <message>
+        <source>the field or button with this letter underlined</source>
+        <translation>das Feld oder der Knopf, bei dem dieser Buchstabe unterstrichen ist</translation>
     </message>
 </context>
 <context>
@@ -2321,6 +2321,10 @@ Debug-Konfiguration der Prozessoren FPGA-basierter Designs und die Verbindungsbe
     <message>
         <source>A tab for each group of settings</source>
         <translation>Ein Reiter für jede Gruppe von Einstellungen</translation>
+    </message>
+    <message>
+        <source>Alt+%1</source>
+        <translation>Alt+%1</translation>
     </message>
 </context>
 <context>
