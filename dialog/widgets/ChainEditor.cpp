@@ -111,7 +111,6 @@ ChainEditor::ChainEditor(const Setting& setting, QWidget* parent)
   m_table->setTabKeyNavigation(false);
   m_table->verticalHeader()->hide();
   m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  m_table->horizontalHeader()->setStretchLastSection(true);
   m_table->installEventFilter(this);
   m_note->setObjectName(QStringLiteral("note:devices"));
   m_note->setWordWrap(true);

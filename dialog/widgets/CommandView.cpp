@@ -255,6 +255,7 @@ CommandView::CommandView(QWidget* parent)
   setAccessibleDescription(tr("The content of the option file for the present settings"));
   setUndoRedoEnabled(false);
   setTabChangesFocus(true);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // lines are wrapped; blanks at their ends need no room
   viewport()->setMouseTracking(true);
   use_fixed_font();
   set_editing(false);

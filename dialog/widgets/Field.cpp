@@ -194,7 +194,9 @@ void Field::set_editor_content() {
     check->setText(on ? tr("on") : tr("off"));
     return;
   }
-  const QString text = shown(m_content->refused.value_or(value_text(m_setting, state.value)));
+  const bool isFlag = m_setting.kind == SettingKind::flag;  // one that cannot be changed: it is shown as a text
+  const QString text = isFlag ? value_of(m_setting, state.value)
+                              : shown(m_content->refused.value_or(value_text(m_setting, state.value)));
   if (auto* const box = qobject_cast<QComboBox*>(m_editor)) {
     const QSignalBlocker blocked(box);
     const QString typedText = box->isEditable() ? box->currentText() : QString();
