@@ -22,7 +22,7 @@ packages_of() {
     docs) echo doxygen python3 ;;
     valgrind) echo valgrind ;;
     abi) echo abigail-tools binutils ;;
-    packages) echo build-essential debhelper debootstrap dpkg-dev lintian ;;
+    packages) echo "$dialog_packages" build-essential debhelper debootstrap dpkg-dev lintian ;;
     arm64 | armhf | i386 | s390x)
       machine "$1"
       echo "g++-$triple" qemu-user
@@ -199,9 +199,10 @@ step_dialog() {
   build_dialog sanitize -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1" -DSDKDEBUGDIALOG_SANITIZE=address,undefined
   export QT_QPA_PLATFORM=offscreen
   run_tests dialog-sanitize "dialog: test without a display"
+  export WALK_STEPS=300
   around=on_display
   run_tests dialog-sanitize "dialog: test on a display" -j 1
-  unset QT_QPA_PLATFORM around
+  unset QT_QPA_PLATFORM WALK_STEPS around
 }
 
 step_abi() {
