@@ -28,6 +28,7 @@ constexpr NotRun kNotRun[] = {
     {"docs/checking.md", "{\n  \"version\": \"2.0.0\"", "DocumentedEditors use it"},
     {"docs/connect-command.md", "connect ", "read and written by documents_test.cpp; the first one alone shows a form"},
     {"docs/findings.md", "", "printed from the kinds of findings; tests/findings/kinds_test.cpp checks the examples"},
+    {"docs/guides/building.md", "cmake -S dialog", "needs Qt; scripts/dialog does it"},
     {"docs/licences.md", "", "texts of licences"},
     {"docs/performance.md", "scripts/bench", "takes minutes"},
     {"docs/qvtcfg.md", "qvtcfg [-C DIR]", "the form of a command line"},
