@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/ChainEditor.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
