@@ -89,7 +89,7 @@ void Document::push(Draft next, const QString& title, const void* typed) {
 Document::Document(Processor processor, std::string path, QObject* parent)
     : QObject(parent),
       m_path(std::move(path)),
-      m_draft{.configuration = Configuration(std::move(processor)), .text = {}, .refused = {}},
+      m_draft{.configuration = Configuration(std::move(processor)), .read = {}, .text = {}, .refused = {}},
       m_base(m_draft) {
   const auto file = read_option_file(m_path);
   if (file) {
@@ -106,8 +106,8 @@ Document::Document(Processor processor, std::string path, QObject* parent)
 
 Draft Document::draft_of(const std::optional<std::string>& content) const {
   auto read = Configuration::read(processor(), content.value_or(""), TextKind::optionFile);
-  if (read) return {.configuration = std::move(*read), .text = {}, .refused = {}};
-  return {.configuration = m_draft.configuration, .text = content, .refused = {}};
+  if (read) return {.configuration = std::move(*read), .read = content.value_or(""), .text = {}, .refused = {}};
+  return {.configuration = m_draft.configuration, .read = m_draft.read, .text = content, .refused = {}};
 }
 
 Expected<std::string> Document::content() const {
@@ -141,15 +141,25 @@ bool Document::differs_from_file() const {
 
 namespace {
 
-// The words that set nothing, such as "-quiet" or whatever stands in further lines.
-std::vector<std::string> idle_words(std::string_view content, const Processor& processor) {
+// Words in the order of their bytes: those that set nothing, such as "-quiet" or what stands in further lines, or all.
+std::vector<std::string> words_of(std::string_view content, const Processor& processor, bool all) {
   std::vector<std::string> words;
   for (const Annotation& word : annotate(content, TextKind::optionFile, processor)) {
     const bool isFrame = word.role == Role::head || word.role == Role::target || word.role == Role::connection;
-    if (word.setting == nullptr && !isFrame) words.emplace_back(content.substr(word.begin, word.end - word.begin));
+    if (!all && (word.setting != nullptr || isFrame)) continue;
+    words.emplace_back(content.substr(word.begin, word.end - word.begin));
   }
   std::sort(words.begin(), words.end());
   return words;
+}
+
+// Translated like the reasons that the library gives.
+constexpr const char* kGone = QT_TRANSLATE_NOOP("library", "the new text does not have it");
+
+std::vector<std::string> difference_of(const std::vector<std::string>& a, const std::vector<std::string>& b) {
+  std::vector<std::string> only;
+  std::set_difference(a.begin(), a.end(), b.begin(), b.end(), std::back_inserter(only));
+  return only;
 }
 
 }  // namespace
@@ -159,19 +169,17 @@ Expected<Document::Plan> Document::plan() const {
   if (!edit) return edit.error();
   Plan plan{m_stored.value_or(""), edit->text, {}, edit->losses, edit->notReadBack};
   const Draft stored = draft_of(m_stored);
-  if (stored.text) return plan;
-  plan.differences = differences(stored.configuration, m_draft.configuration);
+  if (!stored.text) plan.differences = differences(stored.configuration, m_draft.configuration);
   // What the edit tells counts from the text that it was made in, which is not always that of the file: a person may
   // have typed another one, or gone back beyond what was stored last.
-  std::vector<std::string> gone;
-  const auto before = idle_words(plan.before, processor());
-  const auto after = idle_words(plan.after, processor());
-  std::set_difference(before.begin(), before.end(), after.begin(), after.end(), std::back_inserter(gone));
-  for (const std::string& word : gone) {
-    const bool isTold = std::any_of(plan.losses.begin(), plan.losses.end(),
-                                    [&](const Loss& loss) { return loss.what.find(word) != std::string::npos; });
-    if (!isTold) plan.losses.push_back({nullptr, word, bytes_of(tr("the new text does not have it"))});
-  }
+  if (plan.before == m_draft.read) return plan;
+  const bool all = stored.text.has_value();
+  const auto before = words_of(plan.before, processor(), all);
+  const auto after = words_of(plan.after, processor(), all);
+  const auto gone = difference_of(before, after);
+  // In a text that is not understood, a word that takes the place of another one corrects it.
+  if (all && gone.size() <= difference_of(after, before).size()) return plan;
+  for (const std::string& word : gone) plan.losses.push_back({nullptr, word, kGone});
   return plan;
 }
 
@@ -214,7 +222,10 @@ void Document::type_content(const std::string& content) {
   // The reader takes a text without a command for the defaults. Somebody who has deleted it all is about to type
   // another.
   if (option_line(content).empty()) next.text = content;
-  if (next.text) next.configuration = typing_base(this).configuration;
+  if (next.text) {
+    next.configuration = typing_base(this).configuration;
+    next.read = typing_base(this).read;
+  }
   push(std::move(next), tr("the command"), this);
 }
 
@@ -240,13 +251,17 @@ void Document::reset(const Setting& setting) {
 }
 
 void Document::reset_all() {
-  Draft next{.configuration = m_draft.configuration, .text = {}, .refused = {}};
+  Draft next = m_draft;
+  next.text.reset();
+  next.refused.clear();
   next.configuration.reset();
   push(std::move(next), tr("all settings back to their defaults"));
 }
 
 std::vector<Loss> Document::copy_from(const Configuration& from) {
-  Draft next{.configuration = m_draft.configuration, .text = {}, .refused = {}};
+  Draft next = m_draft;
+  next.text.reset();
+  next.refused.clear();
   std::vector<Loss> left = next.configuration.copy_settings(from);
   push(std::move(next), tr("the settings of %1").arg(shown(from.processor().name())));
   return left;

@@ -157,6 +157,25 @@ class DocumentTest : public QObject {
     QVERIFY(!plan->is_safe());
   }
 
+  void nothing_is_lost_where_only_settings_change() {
+    Opened opened("connect ov odm -cable type zarvek_platformusb frequency 12000000 -debugdevice deviceNr 2");
+    for (const auto& s : SdkDebugDialog::settings()) opened.document->reset(s);
+    const auto plan = opened.document->plan();
+    QVERIFY(plan->is_safe());
+    QVERIFY(plan->differences.size() > 2);
+  }
+
+  void a_file_that_is_not_understood_is_not_replaced_by_defaults_unasked() {
+    Opened opened("connect ov odm -cabel type zarvek_platformusb frequency 12000000\n");
+    opened.document->reset_all();
+    QVERIFY(opened.document->is_understood());
+    const auto stored = opened.document->store();
+    QVERIFY(!stored);
+    QCOMPARE(stored.error().code, ErrorCode::wouldLose);
+    QVERIFY(opened.document->plan()->losses.size() >= 4);
+    QVERIFY(opened.document->store(OnLoss::goOn));
+  }
+
   void an_incomplete_command_is_not_stored() {
     Opened opened(kByHand);
     opened.document->type_content("connect o");
