@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPlainTextEdit>
+#include <QTabBar>
 #include <QTableView>
 #include <QTest>
 #include <QTextBrowser>
@@ -85,6 +86,14 @@ class WindowTest : public QObject {
     opened->press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     opened->click(QStringLiteral("redo"));
     QVERIFY(opened->document().draft() == after);
+  }
+
+  void at_first_there_is_nothing_to_undo_and_to_apply() {
+    Opened opened;
+    for (const char* const button : {"undo", "redo", "apply-changes"}) {
+      QVERIFY2(!opened->find<QAbstractButton>(QString::fromLatin1(button)).isEnabled(), button);
+    }
+    QVERIFY(opened->find<QAbstractButton>(QStringLiteral("reset")).isEnabled());
   }
 
   void undo_while_a_field_is_typed_into() {
@@ -287,6 +296,29 @@ class WindowTest : public QObject {
     cursor.setPosition(static_cast<int>(std::string(kByHand).find("user3")) + 2);
     QTest::mouseClick(command.viewport(), Qt::LeftButton, {}, command.cursorRect(cursor).center());
     QVERIFY(opened->field(QStringLiteral("bscan")).hasFocus());
+  }
+
+  void a_file_that_is_not_understood_has_no_form_until_it_is() {
+    Opened opened("connect ov odm -cabel type zarvek_platformusb\n");
+    auto& form = opened->find<SettingsForm>(QStringLiteral("settings"));
+    QVERIFY(!form.isVisible());
+    opened->click(QStringLiteral("fix-all"));
+    QVERIFY(form.isVisible());
+    // The tabs are those of this processor, side by side.
+    const QTabBar& tabs = *form.tabBar();
+    int right = tabs.tabRect(0).right();
+    for (int tab = 1; tab < tabs.count(); ++tab) {
+      if (!tabs.isTabVisible(tab)) continue;
+      QVERIFY2(tabs.tabRect(tab).left() <= right + 1, qPrintable(tabs.tabText(tab)));
+      right = tabs.tabRect(tab).right();
+    }
+    // It does not come and go while somebody types.
+    opened->document().type_content("connect ov odm -cabel");
+    QVERIFY(form.isVisible());
+    opened->select("ovrin_1");
+    QVERIFY(form.isVisible());
+    opened->select("ovrin_0");
+    QVERIFY(!form.isVisible());
   }
 
   void the_form_follows_a_typed_command_when_it_is_understood() {

@@ -43,6 +43,7 @@ void add_row(QTreeWidgetItem& parent, const QStringList& texts, const QColor& in
   auto* const item = new QTreeWidgetItem(&parent, texts);
   for (int column = 0; column < texts.size(); ++column) {
     item->setToolTip(column, texts[column]);
+    item->setTextAlignment(column, Qt::AlignTop | Qt::AlignLeft);
     if (ink.isValid()) item->setForeground(column, ink);
   }
 }
@@ -50,6 +51,8 @@ void add_row(QTreeWidgetItem& parent, const QStringList& texts, const QColor& in
 QString line_of(const std::string& content) {
   QString text = shown(content);
   if (text.endsWith(QLatin1Char('\n'))) text.chop(1);
+  // A line does not end between the dash and the name of an option.
+  text.replace(QLatin1Char('-'), QStringLiteral("-\u2060"));
   return text.replace(QLatin1Char('\n'), QStringLiteral(" ⏎ "));
 }
 
@@ -76,8 +79,8 @@ ApplyDialog::ApplyDialog(std::vector<Document*> documents, QWidget* parent)
   for (Document* const document : m_documents) add_document(*document);
   m_tree->expandAll();
   const int em = fontMetrics().horizontalAdvance(QLatin1Char('m'));
-  m_tree->setColumnWidth(0, 22 * em);
-  m_tree->setColumnWidth(1, 18 * em);
+  m_tree->setColumnWidth(0, 20 * em);
+  m_tree->setColumnWidth(1, 32 * em);
   if (m_tree->topLevelItemCount() > 0) m_tree->setCurrentItem(m_tree->topLevelItem(0));
   m_goOn->setObjectName(QStringLiteral("apply-go-on"));
   m_failure->setObjectName(QStringLiteral("apply-failure"));
@@ -99,7 +102,7 @@ ApplyDialog::ApplyDialog(std::vector<Document*> documents, QWidget* parent)
   layout->addWidget(m_goOn);
   layout->addWidget(m_failure);
   layout->addWidget(buttons);
-  resize(62 * em, 28 * em);
+  resize(84 * em, 40 * em);
 
   connect(m_store, &QPushButton::clicked, this, &ApplyDialog::store);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -112,6 +115,9 @@ QTreeWidgetItem* ApplyDialog::add_document(Document& document) {
   auto* const item = new QTreeWidgetItem(
       m_tree, {shown(document.processor().name()) + QStringLiteral(" – ") + shown(document.path())});
   item->setFirstColumnSpanned(true);
+  QFont bold = font();
+  bold.setBold(true);
+  item->setFont(0, bold);
   const QColor wrong = colour(Tone::error, palette());
   const QString why = document.why_not_stored();
   const auto plan = document.plan();

@@ -111,6 +111,7 @@ ChainEditor::ChainEditor(const Setting& setting, QWidget* parent)
   m_table->setSelectionMode(QAbstractItemView::SingleSelection);
   m_table->setTabKeyNavigation(false);
   m_table->verticalHeader()->hide();
+  m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
   m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
   m_table->installEventFilter(this);
   m_note->setObjectName(QStringLiteral("note:devices"));
@@ -142,7 +143,7 @@ ChainEditor::ChainEditor(const Setting& setting, QWidget* parent)
   splitter->setChildrenCollapsible(false);
   splitter->addWidget(m_picture);
   splitter->addWidget(right);
-  splitter->setSizes({1, 1});  // halves
+  splitter->setSizes({5000, 4500});  // shares
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(splitter, 1);

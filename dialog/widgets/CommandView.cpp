@@ -311,7 +311,7 @@ void CommandView::take_typed_text() {
 }
 
 void CommandView::describe_caret() {
-  if (!m_replacing) emit caret_described(descriptions_at(textCursor().position()).join(u' '));
+  if (!m_replacing) emit caret_described(descriptions_at(textCursor().position()).join(QStringLiteral("; ")));
 }
 
 // Only what differs is replaced: the view stays where it is, and the caret where it was in the text.
@@ -518,7 +518,7 @@ int CommandView::height_of_lines(int count) const {
          margins.top() + margins.bottom();
 }
 
-QSize CommandView::sizeHint() const { return {fontMetrics().averageCharWidth() * 80, height_of_lines(3)}; }
+QSize CommandView::sizeHint() const { return {fontMetrics().averageCharWidth() * 80, height_of_lines(5)}; }
 
 QSize CommandView::minimumSizeHint() const { return {fontMetrics().averageCharWidth() * 20, height_of_lines(3)}; }
 

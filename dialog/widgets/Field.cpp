@@ -159,7 +159,8 @@ void Field::show(const FieldContent& content) {
     for (QWidget* const widget : {static_cast<QWidget*>(m_label), m_editor, static_cast<QWidget*>(m_default)}) {
       widget->show();
     }
-    m_unit->setVisible(!m_unit->text().isEmpty());
+    // Frequencies and sizes are shown with their units: 12 MHz, 64 KB.
+    m_unit->setVisible(m_setting.kind == SettingKind::number && !m_unit->text().isEmpty());
   }
   if (!isNews) return;
   if (!m_isTyping && m_shape != shape_for(content)) {
@@ -235,6 +236,8 @@ void Field::set_note() {
   // The text itself is marked too.
   QPalette ink;
   if (!content.error.isEmpty()) ink.setColor(QPalette::Text, colour(Tone::error, ink));
+  // What cannot be changed does not look as if it could.
+  if (!content.state.changeable) ink.setColor(QPalette::Base, ink.color(QPalette::Window));
   m_editor->setPalette(ink);
   m_editor->setAccessibleDescription(text.isEmpty() ? meaning_of(m_setting)
                                                     : text + QStringLiteral(". ") + meaning_of(m_setting));

@@ -233,8 +233,8 @@ void FindingList::take_font() {
   const int size = m_list->fontMetrics().height();
   m_list->setIconSize({size, size});
   m_model->set_icon_size(size);
-  // Room for a finding with a fix.
-  m_list->setMinimumHeight(m_list->fontMetrics().lineSpacing() * 3 + 2 * m_list->frameWidth());
+  // Room for two findings, each with a fix.
+  m_list->setMinimumHeight(m_list->fontMetrics().lineSpacing() * 5 + 2 * m_list->frameWidth());
 }
 
 }  // namespace qvtdialog

@@ -28,11 +28,12 @@ QString code(const QString& text) {
 QString paragraph(const QString& text) { return QStringLiteral("<p>") + text.toHtmlEscaped() + QStringLiteral("</p>"); }
 
 QString row(const QString& name, const QString& html) {
-  return QStringLiteral("<tr><td style='padding-right:1em'><b>%1</b></td><td>%2</td></tr>")
-      .arg(name.toHtmlEscaped(), html);
+  return QStringLiteral("<tr><td><b>%1</b></td><td>%2</td></tr>").arg(name.toHtmlEscaped(), html);
 }
 
-QString table(const QString& rows) { return QStringLiteral("<table>") + rows + QStringLiteral("</table>"); }
+QString table(const QString& rows) {
+  return QStringLiteral("<table cellpadding='3' cellspacing='0'>") + rows + QStringLiteral("</table>");
+}
 
 // What can be entered, by the kind of value.
 QString typed_as(SettingKind kind) {

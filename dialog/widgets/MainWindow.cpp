@@ -57,29 +57,28 @@ MainWindow::MainWindow(Session& session, const QString& design, QWidget* parent)
   m_list = new ProcessorList(m_session, keys, this);
   m_form = new SettingsForm(keys, this);
 
-  auto* const top = new QWidget(this);
-  auto* const topLayout = new QVBoxLayout(top);
-  topLayout->setContentsMargins({});
-  topLayout->addWidget(banner);
-  topLayout->addWidget(m_form, 1);
-  auto* const right = new QSplitter(Qt::Vertical, this);
-  right->setChildrenCollapsible(false);
-  right->addWidget(top);
-  right->addWidget(command);
-  right->setStretchFactor(0, 1);
+  auto* const parts = new QSplitter(Qt::Vertical, this);
+  parts->setChildrenCollapsible(false);
+  parts->addWidget(m_form);
+  parts->addWidget(command);
+  parts->setStretchFactor(0, 1);
+  auto* const right = new QWidget(this);
+  auto* const rightLayout = new QVBoxLayout(right);
+  rightLayout->setContentsMargins({});
+  rightLayout->addWidget(banner);
+  rightLayout->addWidget(parts, 1);
   auto* const splitter = new QSplitter(Qt::Horizontal, this);
   splitter->setChildrenCollapsible(false);
   splitter->addWidget(m_list);
   splitter->addWidget(right);
   splitter->setStretchFactor(1, 1);
-  const int em = fontMetrics().horizontalAdvance(QLatin1Char('m'));
-  splitter->setSizes({30 * em, 70 * em});
   auto* const all = new QWidget(this);
   auto* const layout = new QVBoxLayout(all);
   layout->addWidget(splitter, 1);
   layout->addWidget(buttons);
   setCentralWidget(all);
-  resize(QSize(100 * em, 62 * em).boundedTo(screen()->availableSize()));
+  const int em = fontMetrics().horizontalAdvance(QLatin1Char('m'));
+  resize(QSize(108 * em, 68 * em).boundedTo(screen()->availableSize()));
 
   connect(m_list, &ProcessorList::selected, this, &MainWindow::show_document);
   connect(&m_session, &Session::overviews_changed, this, &MainWindow::refresh_actions);
@@ -136,6 +135,7 @@ QWidget* MainWindow::make_banner() {
   m_banner = new QFrame(this);
   m_banner->setObjectName(QStringLiteral("banner"));
   m_banner->setFrameShape(QFrame::StyledPanel);
+  m_banner->setAutoFillBackground(true);
   m_message = new QLabel(m_banner);
   m_message->setObjectName(QStringLiteral("message"));
   m_message->setWordWrap(true);
@@ -176,7 +176,7 @@ QWidget* MainWindow::make_command_box() {
   layout->addLayout(heading);
   layout->addWidget(m_command, 1);
   layout->addWidget(m_commandNote);
-  layout->addWidget(m_findingList);
+  layout->addWidget(m_findingList, 2);
 
   connect(m_editBox, &QCheckBox::clicked, m_edit, &QAction::trigger);
   connect(m_command, &CommandView::setting_wanted, this, [this](const Setting* setting) { go_to(*setting); });
@@ -204,16 +204,17 @@ QWidget* MainWindow::make_command_box() {
 QPushButton* MainWindow::button_of(QAction* action, const QString& name) {
   // Its key is that of the action: the letters are left for the fields.
   const auto text = [action] { return action->text().remove(QLatin1Char('&')); };
-  auto* const button = new QPushButton(text(), this);
+  auto* const button = new QPushButton(this);
   button->setObjectName(name);
   button->setAutoDefault(false);
-  button->setToolTip(action->toolTip());
-  connect(button, &QPushButton::clicked, action, &QAction::trigger);
-  connect(action, &QAction::changed, button, [action, button, text] {
+  const auto follow = [action, button, text] {
     button->setText(text());
     button->setEnabled(action->isEnabled());
     button->setToolTip(action->toolTip());
-  });
+  };
+  follow();
+  connect(button, &QPushButton::clicked, action, &QAction::trigger);
+  connect(action, &QAction::changed, button, follow);
   return button;
 }
 
@@ -265,10 +266,13 @@ void MainWindow::show_document(const std::string& processor) {
   m_form->set_document(document);
   if (document != nullptr) connect(document, &Document::changed, this, &MainWindow::refresh);
   edit_command(document != nullptr && !document->is_understood());
+  // Settings of another processor say nothing of a file that is not understood: its text has all the room.
+  m_form->setVisible(document == nullptr || m_form->isEnabled());
   refresh();
 }
 
 void MainWindow::refresh() {
+  if (m_form->isEnabled()) m_form->show();
   refresh_command();
   refresh_banner();
   refresh_actions();
@@ -302,7 +306,9 @@ void MainWindow::refresh_banner() {
   }
   const auto& conflict = m_document->conflict();
   QString text;
+  Tone tone = Tone::warning;
   if (!m_document->unreadable().isEmpty()) {
+    tone = Tone::error;
     text = tr("The option file cannot be read: %1").arg(m_document->unreadable());
   } else if (conflict && !conflict->content) {
     text = tr("Another program has removed the option file.");
@@ -315,7 +321,11 @@ void MainWindow::refresh_banner() {
                : tr("The option file is not understood. Correct its text below, or reset it to the defaults.");
   } else {
     text = m_news;
+    tone = Tone::note;
   }
+  QPalette colours = palette();
+  colours.setColor(QPalette::Window, background(tone, colours));
+  m_banner->setPalette(colours);
   m_message->setText(text);
   m_banner->setVisible(!text.isEmpty());
   m_banner->setAccessibleName(text);
@@ -341,6 +351,7 @@ void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   // Some file systems tell nothing of changes.
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) m_session.look_at_files();
+  if (event->type() == QEvent::PaletteChange) refresh();
 }
 
 void MainWindow::tell(const QString& text) { statusBar()->showMessage(text); }

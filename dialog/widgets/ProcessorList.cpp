@@ -4,13 +4,37 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "model/Bytes.h"
 #include "widgets/ProcessorModel.h"
 
 namespace qvtdialog {
+
+namespace {
+
+// Rows with some room between them.
+class RowDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, option.fontMetrics.height() / 3);
+  }
+};
+
+// The width of a column with room for some texts.
+int width_of(const QWidget& view, const QStringList& texts) {
+  int width = 0;
+  for (const QString& text : texts) width = std::max(width, view.fontMetrics().horizontalAdvance(text));
+  return width + view.fontMetrics().horizontalAdvance(QLatin1Char('m')) * 3 / 2;
+}
+
+}  // namespace
 
 ProcessorList::ProcessorList(Session& session, Mnemonics& keys, QWidget* parent)
     : QWidget(parent),
@@ -29,10 +53,9 @@ ProcessorList::ProcessorList(Session& session, Mnemonics& keys, QWidget* parent)
   m_view->setRootIsDecorated(false);
   m_view->setUniformRowHeights(true);
   m_view->setAllColumnsShowFocus(true);
+  m_view->setItemDelegate(new RowDelegate(this));
   m_view->header()->setStretchLastSection(true);
-  const int em = fontMetrics().horizontalAdvance(QLatin1Char('m'));
-  m_view->setColumnWidth(ProcessorModel::name, 9 * em);
-  m_view->setColumnWidth(ProcessorModel::kind, 10 * em);
+  set_column_widths();
 
   auto* const label = new QLabel(keys.with_key(tr("Processors")), this);
   label->setBuddy(m_view);
@@ -49,6 +72,23 @@ ProcessorList::ProcessorList(Session& session, Mnemonics& keys, QWidget* parent)
     emit selected(m_session.names()[*m_selected]);
   });
 }
+
+// Names have the room that the first ones need. What stands beside them takes a look at the option file, so that common
+// texts decide there.
+void ProcessorList::set_column_widths() {
+  constexpr std::size_t kNames = 1000;
+  QStringList names = ProcessorModel::common_texts(ProcessorModel::name);
+  for (std::size_t i = 0; i < std::min(kNames, m_session.names().size()); ++i) names += shown(m_session.names()[i]);
+  const int em = fontMetrics().horizontalAdvance(QLatin1Char('m'));
+  const int name = std::min(width_of(*m_view, names), 24 * em);
+  const int kind = width_of(*m_view, ProcessorModel::common_texts(ProcessorModel::kind));
+  const int file = width_of(*m_view, ProcessorModel::common_texts(ProcessorModel::file));
+  m_view->setColumnWidth(ProcessorModel::name, name);
+  m_view->setColumnWidth(ProcessorModel::kind, kind);
+  m_width = name + kind + file + 2 * m_view->frameWidth() + m_view->verticalScrollBar()->sizeHint().width();
+}
+
+QSize ProcessorList::sizeHint() const { return {m_width, QWidget::sizeHint().height()}; }
 
 // A filter selects nothing: a processor that it leaves out stays the one that is edited.
 void ProcessorList::set_filter(const QString& text) {

@@ -26,10 +26,13 @@ class ProcessorList : public QWidget {
   void select(std::size_t place);
   void focus_filter();
 
+  QSize sizeHint() const override;
+
  signals:
   void selected(const std::string& name);
 
  private:
+  void set_column_widths();
   void set_filter(const QString& text);
 
   Session& m_session;
@@ -38,6 +41,7 @@ class ProcessorList : public QWidget {
   QTreeView* m_view;
   std::optional<std::size_t> m_selected;
   bool m_isFiltering = false;
+  int m_width = 0;  // in which all columns can be read
 };
 
 }  // namespace qvtdialog

@@ -66,6 +66,15 @@ std::optional<int> ProcessorModel::row_of(std::size_t place) const {
   return static_cast<int>(found - m_places.begin());
 }
 
+QStringList ProcessorModel::common_texts(Column column) {
+  if (column == name) return {tr("Processor"), QStringLiteral("processor_0")};
+  if (column == kind) return {tr("Kind"), Session::tr("cannot be debugged"), QStringLiteral("arm, cortex-a9, 1")};
+  Overview overview;
+  overview.debuggable = overview.hasFile = true;
+  overview.errors = overview.warnings = 2;
+  return {tr("Option file"), tr("not stored"), file_text(overview)};
+}
+
 int ProcessorModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(m_places.size());
 }

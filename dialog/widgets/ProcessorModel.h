@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QStringList>
 #include <optional>
 #include <vector>
 
@@ -23,6 +24,9 @@ class ProcessorModel : public QAbstractTableModel {
   // The place of a row in the session, and the row of a place; none if the filter leaves it out.
   std::size_t place_of(int row) const { return m_places[static_cast<std::size_t>(row)]; }
   std::optional<int> row_of(std::size_t place) const;
+
+  // What a column has room for.
+  static QStringList common_texts(Column column);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;

@@ -136,7 +136,8 @@ void SettingsForm::refresh() {
       field->set_label(keys.with_key(label_of(field->setting())));
       refresh_field(*field, state);
     }
-    setTabVisible(static_cast<int>(i), !isEmpty);
+    // A tab bar does not lay out its tabs anew if the last one that is told has been visible before.
+    if (isTabVisible(static_cast<int>(i)) == isEmpty) setTabVisible(static_cast<int>(i), !isEmpty);
   }
   const auto tabs = visible_tabs();
   for (std::size_t i = 0; i < tabs.size(); ++i) {
