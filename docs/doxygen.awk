@@ -18,6 +18,7 @@ function without_folder(path) {
 function target(link, parts) {
   if (link ~ /^#/) return "#" document "_" substr(link, 2)
   if (link ~ /^https?:|\.svg$/) return link
+  if (link ~ /\.png$/) { sub(/.*\//, "", link); return link }
   split(link, parts, "#")
   if (parts[1] !~ /\.md$/ || parts[1] ~ /(README|CONTRIBUTING)\.md$/) return ""
   return "@ref " without_folder(parts[1]) (parts[2] == "" ? "" : "_" parts[2])
