@@ -71,6 +71,7 @@ void Document::tell_changed() {
 
 void Document::show(const Draft& draft) {
   m_draft = draft;
+  m_wasReloaded = false;
   tell_changed();
 }
 
@@ -80,7 +81,7 @@ void Document::push(Draft next, const QString& title, const void* typed) {
     m_typed = typed;
     ++m_typing;
   }
-  if (next == m_draft) return;
+  if (next == m_draft || !m_unreadable.isEmpty()) return;
   m_history.push(new Step(*this, std::move(next), title, typed != nullptr ? m_typing : 0));
 }
 
@@ -94,10 +95,10 @@ Document::Document(Processor processor, std::string path, QObject* parent)
   const auto file = read_option_file(m_path);
   if (file) {
     m_stored = *file;
-    m_draft = draft_of(m_stored);
   } else {
     m_unreadable = shown(file.error().message);
   }
+  m_draft = draft_of(m_stored);
   // An undone step is not to be joined with what is typed next.
   connect(&m_history, &QUndoStack::indexChanged, this, [this] {
     if (m_history.canRedo()) end_typing();
@@ -129,7 +130,6 @@ bool Document::has_changes() const {
 }
 
 bool Document::differs_from_file() const {
-  if (!m_unreadable.isEmpty()) return false;
   if (!m_draft.refused.empty()) return true;
   const Draft stored = draft_of(m_stored);
   if (!m_stored) return !(m_draft == stored);
@@ -141,20 +141,24 @@ bool Document::differs_from_file() const {
 
 namespace {
 
+// An option is about the settings of the words behind it.
+bool is_idle(const Annotation& word, const Annotation* next) {
+  const bool isFrame = word.role == Role::head || word.role == Role::target || word.role == Role::connection;
+  if (word.setting != nullptr || isFrame) return false;
+  return word.role != Role::option || next == nullptr || next->role == Role::option || next->setting == nullptr;
+}
+
 // Words in the order of their bytes: those that set nothing, such as "-quiet" or what stands in further lines, or all.
 std::vector<std::string> words_of(std::string_view content, const Processor& processor, bool all) {
   std::vector<std::string> words;
-  for (const Annotation& word : annotate(content, TextKind::optionFile, processor)) {
-    const bool isFrame = word.role == Role::head || word.role == Role::target || word.role == Role::connection;
-    if (!all && (word.setting != nullptr || isFrame)) continue;
+  const std::vector<Annotation> annotated = annotate(content, TextKind::optionFile, processor);
+  for (const Annotation& word : annotated) {
+    if (!all && !is_idle(word, &word == &annotated.back() ? nullptr : &word + 1)) continue;
     words.emplace_back(content.substr(word.begin, word.end - word.begin));
   }
   std::sort(words.begin(), words.end());
   return words;
 }
-
-// Translated like the reasons that the library gives.
-constexpr const char* kGone = QT_TRANSLATE_NOOP("library", "the new text does not have it");
 
 std::vector<std::string> difference_of(const std::vector<std::string>& a, const std::vector<std::string>& b) {
   std::vector<std::string> only;
@@ -177,9 +181,12 @@ Expected<Document::Plan> Document::plan() const {
   const auto before = words_of(plan.before, processor(), all);
   const auto after = words_of(plan.after, processor(), all);
   const auto gone = difference_of(before, after);
-  // In a text that is not understood, a word that takes the place of another one corrects it.
-  if (all && gone.size() <= difference_of(after, before).size()) return plan;
-  for (const std::string& word : gone) plan.losses.push_back({nullptr, word, kGone});
+  // Where a person has corrected a text that is not understood, a word takes the place of another one.
+  const bool isCorrected = all && plan.after == m_draft.read;
+  if (isCorrected && gone.size() <= difference_of(after, before).size()) return plan;
+  for (const std::string& word : gone) {
+    plan.losses.push_back({nullptr, word, bytes_of(tr("the new text does not have it"))});
+  }
   return plan;
 }
 
@@ -288,6 +295,7 @@ void Document::look_at_file() {
   m_conflict = Conflict{*file};
   if (!has_changes()) {
     take_theirs();
+    m_wasReloaded = true;
     emit reloaded();
   } else {
     tell_changed();
@@ -329,6 +337,7 @@ Expected<void> Document::store(OnLoss onLoss) {
     return replaced.error();
   }
   m_stored = planned->after;
+  m_wasReloaded = false;
   // What is changed next is changed in the text that is stored now.
   if (Draft read = draft_of(m_stored); !read.text) m_draft = std::move(read);
   end_typing();

@@ -99,6 +99,9 @@ class Document : public QObject {
   };
   const std::optional<Conflict>& conflict() const { return m_conflict; }
 
+  // Whether the file was changed by another program and read again, and nothing was done here since.
+  bool was_reloaded() const { return m_wasReloaded; }
+
   // Looks at the file again. Without changes here, its new content is taken over as a step; otherwise there is a
   // conflict.
   void look_at_file();
@@ -132,6 +135,7 @@ class Document : public QObject {
   std::optional<std::string> m_stored;
   QString m_unreadable;
   std::optional<Conflict> m_conflict;
+  bool m_wasReloaded = false;
 
   Draft m_draft;
   mutable std::optional<bool> m_hasChanges;  // none: not looked up since the last change

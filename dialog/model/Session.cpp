@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QStringList>
 
 #include "model/Bytes.h"
@@ -24,6 +25,13 @@ using SdkDebugDialog::read_option_file;
 using SdkDebugDialog::Severity;
 using SdkDebugDialog::TextKind;
 
+namespace {
+
+const QString kHere = QStringLiteral(".");
+const QString kFolder = QStringLiteral("etc");
+
+}  // namespace
+
 Session::Session(Design design, QObject* parent) : QObject(parent), m_design(std::move(design)) {
   m_places.reserve(names().size());
   for (std::size_t i = 0; i < names().size(); ++i) m_places.emplace(names()[i], i);
@@ -36,7 +44,7 @@ Session::Session(Design design, QObject* parent) : QObject(parent), m_design(std
   connect(&m_pause, &QTimer::timeout, this, &Session::look_at_files);
   connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_pause, qOverload<>(&QTimer::start));
   connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_pause, qOverload<>(&QTimer::start));
-  watch();
+  watch({kHere, kFolder});
 }
 
 std::optional<std::size_t> Session::place_of(const std::string& name) const {
@@ -55,7 +63,8 @@ Document* Session::document(const std::string& name) {
     m_overviews[at].reset();
     emit overview_changed(at);
   });
-  watch();
+  const QString path = QFile::decodeName(document->path().c_str());
+  if (QFileInfo::exists(path)) m_watcher.addPath(path);
   return document;
 }
 
@@ -110,26 +119,32 @@ const Overview& Session::overview(std::size_t place) {
     }
   }
   const auto open = m_documents.find(place);
-  known->hasChanges = open != m_documents.end() && open->second->has_changes();
+  if (open != m_documents.end()) {
+    known->hasChanges = open->second->has_changes();
+    known->hasConflict = open->second->conflict().has_value();
+  }
   return *known;
 }
 
-// A file that is replaced is another one for the system, so that the folder is watched as well.
-void Session::watch() {
-  QStringList paths = {QStringLiteral("."), QStringLiteral("etc")};
-  for (const auto& [place, document] : m_documents) paths += QFile::decodeName(document->path().c_str());
-  const QStringList watched = m_watcher.files() + m_watcher.directories();
-  QStringList missing;
+// Those that are there and are not watched already. A file that is replaced is another one for the system, so that the
+// folder is watched as well.
+void Session::watch(const QStringList& paths) {
+  const QStringList files = m_watcher.files();
+  const QStringList folders = m_watcher.directories();
+  const QSet<QString> watched(files.begin(), files.end());
+  QStringList added;
   for (const QString& path : paths) {
-    if (!watched.contains(path) && QFileInfo::exists(path)) missing += path;
+    if (!watched.contains(path) && !folders.contains(path) && QFileInfo::exists(path)) added += path;
   }
-  if (!missing.isEmpty()) m_watcher.addPaths(missing);
+  if (!added.isEmpty()) m_watcher.addPaths(added);
 }
 
 void Session::look_at_files() {
   for (const auto& [place, document] : m_documents) document->look_at_file();
   for (auto& overview : m_overviews) overview.reset();
-  watch();
+  QStringList paths = {kHere, kFolder};
+  for (const auto& [place, document] : m_documents) paths += QFile::decodeName(document->path().c_str());
+  watch(paths);
   emit overviews_changed();
 }
 

@@ -28,6 +28,7 @@ struct Overview {
   int errors = 0;      // findings in the file
   int warnings = 0;
   bool hasChanges = false;
+  bool hasConflict = false;  // another program has changed the file as well
 };
 
 // The processors of a design, and those of their option files that are open. The option files are below the working
@@ -62,7 +63,7 @@ class Session : public QObject {
   void overviews_changed();
 
  private:
-  void watch();
+  void watch(const QStringList& paths);
 
   SdkDebugDialog::Design m_design;
   std::unordered_map<std::string_view, std::size_t> m_places;

@@ -37,6 +37,13 @@ QString value_of(const Setting& setting, const SettingValue& value) {
                                               : QCoreApplication::translate("value", "not set");
 }
 
+QString shortened(const std::string& text) {
+  constexpr qsizetype kMost = 600;
+  // A character has four bytes at most.
+  const QString beginning = shown(std::string_view(text).substr(0, 4 * kMost)).trimmed();
+  return beginning.size() <= kMost ? beginning : beginning.left(kMost) + QStringLiteral(" …");
+}
+
 QString severity_of(Severity severity) {
   switch (severity) {
     case Severity::error:

@@ -26,6 +26,8 @@ QString label_of(const SdkDebugDialog::SettingGroup& group);
 QString unit_of(const SdkDebugDialog::Setting& setting);
 // A value as a person reads it; "not set", "none" where there is nothing.
 QString value_of(const SdkDebugDialog::Setting& setting, const SdkDebugDialog::SettingValue& value);
+// The beginning of a text that can be very long, for a label.
+QString shortened(const std::string& text);
 QString severity_of(SdkDebugDialog::Severity severity);
 
 }  // namespace qvtdialog

@@ -56,6 +56,23 @@ struct Opened {
   std::unique_ptr<Person> person;
 };
 
+// A file system on a folder, until it is destroyed.
+class Mount {
+ public:
+  Mount(const char* source, const QByteArray& folder, const char* type, unsigned long flags, const char* data)
+      : m_folder(folder), m_isMounted(::mount(source, folder.constData(), type, flags, data) == 0) {}
+  ~Mount() {
+    if (m_isMounted) ::umount(m_folder.constData());
+  }
+  Mount(const Mount&) = delete;
+  Mount& operator=(const Mount&) = delete;
+  explicit operator bool() const { return m_isMounted; }
+
+ private:
+  QByteArray m_folder;
+  bool m_isMounted;
+};
+
 // The texts of a tree, a line for each row.
 QStringList lines_of(const QTreeWidgetItem& item) {
   QStringList texts;
@@ -437,6 +454,31 @@ class WindowTest : public QObject {
     QCOMPARE(int{opened->document().configuration().chain()[0].irlength}, 8);
   }
 
+  void a_wrong_cell_stays_when_it_is_left_with_a_click() {
+    Opened opened;
+    opened->open_tab_of(QStringLiteral("cpu-jtag"));
+    opened->click(QStringLiteral("device-add"));
+    auto& table = opened->find<QTableView>(QStringLiteral("chain-table"));
+    table.setFocus();
+    table.setCurrentIndex(table.model()->index(0, 1));
+    QTest::keyClick(&table, Qt::Key_F2);
+    auto* const cell = table.findChild<QLineEdit*>(QStringLiteral("cell"));
+    cell->selectAll();
+    QTest::keyClicks(cell, QStringLiteral("two words"));
+    QVERIFY(!opened->note(QStringLiteral("devices")).isEmpty());
+    opened->find(QStringLiteral("filter")).setFocus();
+    QTest::qWait(0);
+    QVERIFY(cell->isVisible());
+    QCOMPARE(cell->text(), QStringLiteral("two words"));
+    opened->click(QStringLiteral("apply-changes"));
+    QCOMPARE(*content_of(kFile), std::string(kByHand));
+    opened->select("ovrin_1");
+    QCOMPARE(opened->document().processor().name(), std::string("ovrin_0"));
+    opened->click(QStringLiteral("cancel"));
+    QVERIFY(opened->window.isVisible());
+    QTest::keyClick(cell, Qt::Key_Escape);
+  }
+
   void apply_takes_the_cell_that_is_open() {
     Opened opened;
     opened->open_tab_of(QStringLiteral("cpu-jtag"));
@@ -547,6 +589,40 @@ class WindowTest : public QObject {
     QVERIFY(opened.message().contains(QStringLiteral("read again")));
   }
 
+  void a_file_that_is_read_again_and_not_understood_is_text() {
+    Opened opened;
+    write_file(kFile, "connect ov odm -cabel");
+    QTRY_VERIFY(!opened->document().is_understood());
+    QVERIFY(opened.command().is_editing());
+    QVERIFY(!opened->find(QStringLiteral("settings")).isVisible());
+    opened->click(QStringLiteral("undo"));
+    QVERIFY(opened->find(QStringLiteral("settings")).isVisible());
+  }
+
+  void changes_are_asked_about_when_the_file_cannot_be_read_any_more() {
+    Opened opened;
+    opened->enter(QStringLiteral("bscan"), QStringLiteral("USER4"));
+    QFile::remove(kFile);
+    QDir().mkdir(kFile);
+    opened->session.look_at_files();
+    QCOMPARE(opened.command().toPlainText(), QString());
+    bool asked = false;
+    in_next_dialog([&](QWidget& question) {
+      asked = true;
+      QTest::mouseClick(question.findChild<QAbstractButton*>(QStringLiteral("cancel-back")), Qt::LeftButton);
+    });
+    opened->click(QStringLiteral("cancel"));
+    QVERIFY(asked);
+    QVERIFY(opened->window.isVisible());
+  }
+
+  void there_is_nothing_to_undo_at_first() {
+    Opened opened;
+    for (const char* const button : {"undo", "redo", "apply-changes"}) {
+      QVERIFY2(!opened->find<QAbstractButton>(QString::fromLatin1(button)).isEnabled(), button);
+    }
+  }
+
   void a_file_that_cannot_be_read_shows_no_settings() {
     Folder folder(QStringLiteral("large"));
     QDir().mkdir(kFile);
@@ -573,10 +649,13 @@ class WindowTest : public QObject {
     Opened opened;
     const QByteArray etc = QDir(QStringLiteral("etc")).absolutePath().toLocal8Bit();
     opened->enter(QStringLiteral("bscan"), QStringLiteral("USER4"));
-    if (::mount(etc.constData(), etc.constData(), nullptr, MS_BIND, nullptr) != 0) QSKIP("only root can mount");
-    QVERIFY(::mount(nullptr, etc.constData(), nullptr, MS_BIND | MS_REMOUNT | MS_RDONLY, nullptr) == 0);
-    const bool stored = opened->apply();
-    QVERIFY(::umount(etc.constData()) == 0);
+    bool stored = true;
+    {
+      const Mount mount(etc.constData(), etc, nullptr, MS_BIND, nullptr);
+      if (!mount) QSKIP("only root can mount");
+      QVERIFY(::mount(nullptr, etc.constData(), nullptr, MS_BIND | MS_REMOUNT | MS_RDONLY, nullptr) == 0);
+      stored = opened->apply();
+    }
     QVERIFY(!stored);
     QCOMPARE(*content_of(kFile), std::string(kByHand));
     QVERIFY(opened->document().has_changes());
@@ -586,13 +665,13 @@ class WindowTest : public QObject {
   void a_full_disk_is_told_and_nothing_is_lost() {
     Opened opened(std::nullopt);
     const QByteArray etc = QDir(QStringLiteral("etc")).absolutePath().toLocal8Bit();
-    if (::mount("tmpfs", etc.constData(), "tmpfs", 0, "size=4k") != 0) QSKIP("only root can mount");
+    const Mount mount("tmpfs", etc, "tmpfs", 0, "size=4k");
+    if (!mount) QSKIP("only root can mount");
     write_file(kFile, kByHand);
     opened->session.look_at_files();
     opened->enter(QStringLiteral("bscan"), QStringLiteral("USER4"));
     const bool stored = opened->apply();
     const auto content = content_of(kFile);
-    QVERIFY(::umount(etc.constData()) == 0);
     QVERIFY(!stored);
     QCOMPARE(*content, std::string(kByHand));
     QVERIFY(opened->document().has_changes());

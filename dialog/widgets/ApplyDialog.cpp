@@ -49,8 +49,7 @@ void add_row(QTreeWidgetItem& parent, const QStringList& texts, const QColor& in
 }
 
 QString line_of(const std::string& content) {
-  QString text = shown(content);
-  if (text.endsWith(QLatin1Char('\n'))) text.chop(1);
+  QString text = shortened(content);
   // A line does not end between the dash and the name of an option.
   text.replace(QLatin1Char('-'), QStringLiteral("-\u2060"));
   return text.replace(QLatin1Char('\n'), QStringLiteral(" ⏎ "));
@@ -167,7 +166,7 @@ void ApplyDialog::store() {
       item.setDisabled(true);
       add_row(item, {tr("stored"), {}, {}});
     } else {
-      failures += shown(stored.error().message);
+      failures += shown(document.processor().name()) + QStringLiteral(": ") + shown(stored.error().message);
     }
   }
   if (failures.isEmpty()) return accept();

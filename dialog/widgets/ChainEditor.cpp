@@ -64,6 +64,8 @@ class CellDelegate : public QStyledItemDelegate {
   }
 
   bool eventFilter(QObject* editor, QEvent* event) override {
+    // It stays open when something else gets the focus, so that nothing typed is lost.
+    if (event->type() == QEvent::FocusOut && editor->property("refused").toBool()) return false;
     if (event->type() == QEvent::KeyPress && editor->property("refused").toBool()) {
       const int key = static_cast<QKeyEvent&>(*event).key();
       if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab || key == Qt::Key_Backtab) return true;
@@ -117,9 +119,6 @@ ChainEditor::ChainEditor(const Setting& setting, QWidget* parent)
   m_note->setObjectName(QStringLiteral("note:devices"));
   m_note->setWordWrap(true);
   m_note->setTextFormat(Qt::PlainText);
-  QPalette palette = m_note->palette();
-  palette.setColor(QPalette::WindowText, colour(Tone::error, palette));
-  m_note->setPalette(palette);
   m_note->hide();
 
   auto* const buttons = new QHBoxLayout;
@@ -181,6 +180,9 @@ void ChainEditor::refresh() {
   m_picture->show_chain(configuration.chain(), debugDevice, shown(m_document->processor().name()));
   QStringList warnings;
   for (const std::string& warning : configuration.warnings(m_setting)) warnings += shown(warning);
+  QPalette inks = palette();
+  inks.setColor(QPalette::WindowText, colour(Tone::error, inks));
+  m_note->setPalette(inks);
   m_note->setText(warnings.join(QLatin1Char('\n')));
   m_note->setVisible(!warnings.isEmpty());
   update_buttons();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/ChainModel.h"
 
-#include <SdkDebugDialog/Settings.h>
+#include <SdkDebugDialog/Configuration.h>
 
 #include <QFont>
 #include <QStringList>
@@ -10,6 +10,7 @@
 
 namespace qvtdialog {
 
+using SdkDebugDialog::Configuration;
 using SdkDebugDialog::Expected;
 using SdkDebugDialog::find_setting;
 using SdkDebugDialog::JtagOption;
@@ -57,18 +58,20 @@ Expected<JtagOption> ChainModel::with_text(const JtagOption& device, int column,
   JtagOption changed = device;
   if (column == part) {
     changed.partname = bytes_of(text);
-    return changed;
+  } else {
+    QStringList parts = parts_of(device);
+    parts[kPlaces[column]] = text;
+    const auto parsed = parse_value(*find_setting("devices"), bytes_of(parts.join(QLatin1Char(','))));
+    if (!parsed) return parsed.error();
+    const auto& devices = std::get<Chain>(*parsed);
+    if (devices.size() != 1) {
+      return SdkDebugDialog::Error{SdkDebugDialog::ErrorCode::invalidValue, bytes_of(tr("A value is missing.")), {}};
+    }
+    changed = devices.front();
+    changed.partname = device.partname;
   }
-  QStringList parts = parts_of(device);
-  parts[kPlaces[column]] = text;
-  const auto parsed = parse_value(*find_setting("devices"), bytes_of(parts.join(QLatin1Char(','))));
-  if (!parsed) return parsed.error();
-  const auto& devices = std::get<Chain>(*parsed);
-  if (devices.size() != 1) {
-    return SdkDebugDialog::Error{SdkDebugDialog::ErrorCode::invalidValue, bytes_of(tr("A value is missing.")), {}};
-  }
-  changed = devices.front();
-  changed.partname = device.partname;
+  Configuration tried;
+  if (const auto set = tried.set(*find_setting("devices"), Chain{changed}); !set) return set.error();
   return changed;
 }
 

@@ -110,6 +110,7 @@ CopyDialog::CopyDialog(Session& session, Document& from, QWidget* parent)
   resize(40 * em, 30 * em);
   connect(m_filter, &QLineEdit::textChanged, filtered, &QSortFilterProxyModel::setFilterFixedString);
   connect(m_targets, &QAbstractItemModel::dataChanged, this, &CopyDialog::preview);
+  connect(&m_session, &Session::overview_changed, this, &CopyDialog::preview);
   connect(m_copy, &QPushButton::clicked, this, &CopyDialog::copy);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   preview();
@@ -117,6 +118,12 @@ CopyDialog::CopyDialog(Session& session, Document& from, QWidget* parent)
 
 void CopyDialog::preview() {
   QStringList lines;
+  const bool isUnderstood = m_from.is_understood() && m_from.unreadable().isEmpty();
+  if (!isUnderstood)
+    lines += tr("The option file of %1 cannot be read any more.").arg(shown(m_from.processor().name()));
+  for (const auto& [setting, text] : m_from.draft().refused) {
+    lines += tr("%1: '%2' is not accepted, and not copied").arg(label_of(*setting), shown(text));
+  }
   for (const std::size_t place : m_targets->checked()) {
     const Document& target = *m_session.document(m_session.names()[place]);
     const QString name = shown(m_session.names()[place]);
@@ -136,7 +143,7 @@ void CopyDialog::preview() {
   }
   if (lines.isEmpty()) lines += m_targets->checked().empty() ? QString() : tr("Everything is copied.");
   m_preview->setPlainText(lines.join(QLatin1Char('\n')));
-  m_copy->setEnabled(!m_targets->checked().empty());
+  m_copy->setEnabled(isUnderstood && !m_targets->checked().empty());
 }
 
 void CopyDialog::copy() {

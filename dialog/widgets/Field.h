@@ -23,8 +23,8 @@ struct FieldContent {
 
   friend bool operator==(const FieldContent& a, const FieldContent& b) {
     return a.state.value == b.state.value && a.state.initial == b.state.initial && a.state.applies == b.state.applies &&
-           a.state.changeable == b.state.changeable && a.state.choices == b.state.choices && a.refused == b.refused &&
-           a.error == b.error && a.warning == b.warning;
+           a.state.changeable == b.state.changeable && a.state.whyNot == b.state.whyNot &&
+           a.state.choices == b.state.choices && a.refused == b.refused && a.error == b.error && a.warning == b.warning;
   }
 };
 
@@ -40,6 +40,8 @@ class Field : public QObject {
   const SdkDebugDialog::Setting& setting() const { return m_setting; }
   void show(const FieldContent& content);
   void hide();
+  // In the colours of the palette as it is now.
+  void set_note();
   bool is_shown() const { return m_isShown; }
   // The label with its key.
   void set_label(const QString& text);
@@ -61,7 +63,6 @@ class Field : public QObject {
   Shape shape_for(const FieldContent& content) const;
   void make_editor(Shape shape);
   void set_editor_content();
-  void set_note();
   void tell(const QString& text);
   void finish();
 

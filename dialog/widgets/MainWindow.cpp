@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -85,7 +86,7 @@ MainWindow::MainWindow(Session& session, const QString& design, QWidget* parent)
   refresh();
 }
 
-// The widgets go while this is a window still, and hear nothing more on the way.
+// The widgets are deleted here and not by QObject's destructor: their last signals must find a whole window.
 MainWindow::~MainWindow() {
   if (m_document) m_document->disconnect(this);
   m_form->set_document(nullptr);
@@ -109,7 +110,10 @@ void MainWindow::make_actions() {
   m_reset = make(tr("Reset to &defaults"), {}, [this] { reset(); });
   m_copy = make(tr("Cop&y to…"), {}, [this] { copy(); });
   m_cancel = make(tr("&Cancel"), Qt::Key_Escape, [this] { close(); });
-  m_edit = make(tr("Edit the command as te&xt"), QKeySequence(tr("Ctrl+E")), [this](bool on) { edit_command(on); });
+  m_edit = make(tr("Edit the command as te&xt"), QKeySequence(tr("Ctrl+E")), [this](bool on) {
+    edit_command(on);
+    if (on) m_command->setFocus(Qt::ShortcutFocusReason);
+  });
   m_edit->setCheckable(true);
   QMenu& file = *menuBar()->addMenu(tr("&File"));
   file.addActions({m_apply, m_cancel});
@@ -247,27 +251,30 @@ void MainWindow::select_first() {
 void MainWindow::show_document(const std::string& processor) {
   Document* const document = m_session.document(processor);
   if (document == m_document) return;
+  if (m_document && !finish_typing()) return select(m_document->processor().name());
   if (m_document) {
     m_document->end_typing();
     m_document->disconnect(this);
   }
   m_document = document;
-  m_news.clear();
   if (document != nullptr) {
-    document->look_at_file();
     m_histories.addStack(&document->history());
     m_histories.setActiveStack(&document->history());
-    connect(document, &Document::reloaded, this, [this] {
-      m_news = tr("The file was changed by another program, and read again. Undo brings back what was here.");
-      refresh_banner();
-    });
+    connect(document, &Document::reloaded, this, &MainWindow::show_whole_document);
+    document->look_at_file();
   }
   // The form listens first: the rest is shown when its fields are right.
   m_form->set_document(document);
   if (document != nullptr) connect(document, &Document::changed, this, &MainWindow::refresh);
-  edit_command(document != nullptr && !document->is_understood());
-  // Settings of another processor say nothing of a file that is not understood: its text has all the room.
-  m_form->setVisible(document == nullptr || m_form->isEnabled());
+  show_whole_document();
+}
+
+// As it is when it is opened or read again.
+void MainWindow::show_whole_document() {
+  const bool isReadable = m_document && m_document->unreadable().isEmpty();
+  edit_command(isReadable && !m_document->is_understood());
+  // Settings of before say nothing of a file that is not understood: its text has all the room.
+  m_form->setVisible(!m_document || m_form->isEnabled());
   refresh();
 }
 
@@ -280,12 +287,14 @@ void MainWindow::refresh() {
 
 void MainWindow::refresh_command() {
   if (!m_document) return;
+  const bool isReadable = m_document->unreadable().isEmpty();
+  if (!isReadable) edit_command(false);
   const auto content = m_document->command_text();
-  const std::string text = content ? *content : std::string();
+  const std::string text = content && isReadable ? *content : std::string();
   const bool isOther = m_shown != m_document;
   m_shown = m_document;
   const auto& processor = m_document->processor();
-  m_findings = diagnose(text, TextKind::optionFile, processor);
+  m_findings = isReadable ? diagnose(text, TextKind::optionFile, processor) : std::vector<Finding>();
   const std::string before = m_content;
   const bool isNews = text != before;
   m_content = text;
@@ -313,14 +322,13 @@ void MainWindow::refresh_banner() {
   } else if (conflict && !conflict->content) {
     text = tr("Another program has removed the option file.");
   } else if (conflict) {
-    text =
-        tr("Another program has changed the option file. It now holds:\n%1").arg(shown(*conflict->content).trimmed());
+    text = tr("Another program has changed the option file. It now holds:\n%1").arg(shortened(*conflict->content));
   } else if (!m_document->is_understood()) {
     text = m_document->has_changes()
                ? tr("The command is not understood. The settings are shown again when it is.")
                : tr("The option file is not understood. Correct its text below, or reset it to the defaults.");
-  } else {
-    text = m_news;
+  } else if (m_document->was_reloaded()) {
+    text = tr("The file was changed by another program, and read again. Undo brings back what was here.");
     tone = Tone::note;
   }
   QPalette colours = palette();
@@ -351,7 +359,10 @@ void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   // Some file systems tell nothing of changes.
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) m_session.look_at_files();
-  if (event->type() == QEvent::PaletteChange) refresh();
+  if (event->type() == QEvent::PaletteChange) {
+    m_form->set_colours();
+    refresh();
+  }
 }
 
 void MainWindow::tell(const QString& text) { statusBar()->showMessage(text); }
@@ -363,7 +374,6 @@ void MainWindow::edit_command(bool editing) {
   m_editBox->setChecked(editing);
   m_command->set_editing(editing);
   if (m_document) m_document->end_typing();
-  if (editing && isVisible()) m_command->setFocus(Qt::OtherFocusReason);
 }
 
 void MainWindow::fix(const std::vector<Finding>& findings, FixChoice choice) {
@@ -380,13 +390,14 @@ void MainWindow::go_to(const Setting& setting) {
 
 // What is typed just now belongs to what is stored.
 bool MainWindow::finish_typing() {
-  QWidget* const focused = QApplication::focusWidget();
-  if (focused == nullptr || !isAncestorOf(focused)) return true;
-  if (focused->property("refused").toBool()) {
-    tell(tr("The value in the field '%1' is not accepted. Correct it first.").arg(focused->accessibleName()));
+  for (QLineEdit* const cell : m_form->findChildren<QLineEdit*>(QStringLiteral("cell"))) {
+    if (!cell->property("refused").toBool()) continue;
+    tell(tr("The value in the field '%1' is not accepted. Correct it first.").arg(cell->accessibleName()));
+    cell->setFocus(Qt::OtherFocusReason);
     return false;
   }
-  focused->clearFocus();
+  QWidget* const focused = QApplication::focusWidget();
+  if (focused != nullptr && m_form->isAncestorOf(focused)) focused->clearFocus();
   return true;
 }
 
@@ -400,7 +411,7 @@ void MainWindow::apply() {
 }
 
 void MainWindow::copy() {
-  if (!m_document) return;
+  if (!m_document || !finish_typing()) return;
   CopyDialog dialog(m_session, *m_document, this);
   dialog.exec();
 }

@@ -48,6 +48,7 @@ class MainWindow : public QMainWindow {
   QPushButton* button_of(QAction* action, const QString& name);
 
   void show_document(const std::string& processor);
+  void show_whole_document();
   void refresh();
   void refresh_command();
   void refresh_banner();
@@ -72,7 +73,6 @@ class MainWindow : public QMainWindow {
   QPointer<Document> m_shown;  // whose content the command view shows
   std::string m_content;
   bool m_isTyping = false;
-  QString m_news;  // what has happened to the file
   std::vector<SdkDebugDialog::Finding> m_findings;
 
   QAction* m_undo;

@@ -17,6 +17,7 @@ namespace {
 QString file_text(const Overview& overview) {
   if (!overview.debuggable) return {};
   QStringList parts;
+  if (overview.hasConflict) parts += ProcessorModel::tr("changed elsewhere");
   if (overview.hasChanges) parts += ProcessorModel::tr("not stored");
   if (!overview.unreadable.isEmpty()) {
     parts += ProcessorModel::tr("unreadable");

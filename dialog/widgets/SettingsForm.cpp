@@ -59,7 +59,7 @@ void SettingsForm::make_page(const SettingGroup& group) {
   auto* const page = new QWidget;
   auto* const layout = new QGridLayout(page);
   layout->setColumnStretch(1, 1);
-  Page made{page, {}};
+  Page made;
   bool isFilled = has_picture(group);
   for (const Setting& setting : settings()) {
     if (setting.group != group.name) continue;
@@ -90,7 +90,7 @@ void SettingsForm::make_page(const SettingGroup& group) {
 
 void SettingsForm::add_field(Page& made, const Setting& setting, QGridLayout& layout) {
   auto* const field = new Field(setting, layout, layout.rowCount());
-  made.fields.push_back(field);
+  made.push_back(field);
   connect(field, &Field::typed, this, [this, &setting](const std::string& text) {
     if (m_document) m_document->type(setting, text);
   });
@@ -126,7 +126,7 @@ void SettingsForm::refresh() {
   for (std::size_t i = 0; i < m_pages.size(); ++i) {
     bool isEmpty = true;
     Mnemonics keys = m_taken;
-    for (Field* const field : m_pages[i].fields) {
+    for (Field* const field : m_pages[i]) {
       const auto& state = states[static_cast<std::size_t>(&field->setting() - settings().data())];
       if (!state.applies) {
         field->hide();
@@ -172,13 +172,21 @@ void SettingsForm::refresh_field(Field& field, const SettingState& state) {
   field.show(content);
 }
 
+void SettingsForm::set_colours() {
+  for (const Page& page : m_pages) {
+    for (Field* const field : page) {
+      if (field->is_shown()) field->set_note();
+    }
+  }
+}
+
 bool SettingsForm::go_to(const Setting& setting) {
   if (!m_document || !isEnabled() || !m_document->configuration().state(setting).applies) return false;
   for (std::size_t i = 0; i < m_pages.size(); ++i) {
     if (setting_groups()[i].name != setting.group) continue;
     setCurrentIndex(static_cast<int>(i));
     if (setting.kind == SettingKind::devices) m_chain->focus();
-    for (Field* const field : m_pages[i].fields) {
+    for (Field* const field : m_pages[i]) {
       if (&field->setting() != &setting) continue;
       qobject_cast<QScrollArea*>(widget(static_cast<int>(i)))->ensureWidgetVisible(field->editor());
       field->focus();

@@ -33,14 +33,13 @@ class SettingsForm : public QTabWidget {
   bool go_to(const SdkDebugDialog::Setting& setting);
   // The setting whose field has the focus, or null.
   const SdkDebugDialog::Setting* current() const;
+  // In the colours of the palette as it is now.
+  void set_colours();
   // Looks at the document again.
   void refresh();
 
  private:
-  struct Page {
-    QWidget* page;
-    std::vector<Field*> fields;
-  };
+  using Page = std::vector<Field*>;
 
   void make_page(const SdkDebugDialog::SettingGroup& group);
   void add_field(Page& made, const SdkDebugDialog::Setting& setting, QGridLayout& layout);
