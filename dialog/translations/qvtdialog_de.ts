@@ -1743,6 +1743,14 @@
         <source>The space bar checks a processor</source>
         <translation>Die Leertaste hakt einen Prozessor an</translation>
     </message>
+    <message>
+        <source>The option file of %1 cannot be read any more.</source>
+        <translation>Die Optionsdatei von %1 lässt sich nicht mehr lesen.</translation>
+    </message>
+    <message>
+        <source>%1: &apos;%2&apos; is not accepted, and not copied</source>
+        <translation>%1: „%2“ ist nicht zulässig und wird nicht kopiert</translation>
+    </message>
 </context>
 <context>
     <name>qvtdialog::Document</name>
@@ -2303,6 +2311,10 @@ Debug-Konfiguration der Prozessoren FPGA-basierter Designs und die Verbindungsbe
     <message>
         <source>Option file</source>
         <translation>Datei</translation>
+    </message>
+    <message>
+        <source>changed elsewhere</source>
+        <translation>anderswo geändert</translation>
     </message>
 </context>
 <context>
