@@ -17,8 +17,12 @@ namespace {
 QString file_text(const Overview& overview) {
   if (!overview.debuggable) return {};
   QStringList parts;
-  if (overview.hasConflict) parts += ProcessorModel::tr("changed elsewhere");
-  if (overview.hasChanges) parts += ProcessorModel::tr("not stored");
+  // There are changes here as well then, which the font tells.
+  if (overview.hasConflict) {
+    parts += ProcessorModel::tr("changed elsewhere");
+  } else if (overview.hasChanges) {
+    parts += ProcessorModel::tr("not stored");
+  }
   if (!overview.unreadable.isEmpty()) {
     parts += ProcessorModel::tr("unreadable");
   } else if (!overview.hasFile) {
