@@ -65,7 +65,11 @@ int run(QApplication& application) {
       QStringLiteral("picture"),
       QCoreApplication::translate("main", "store a picture of the window in a file, and end"), QStringLiteral("FILE"));
   options.addOptions({folder, design, picture});
-  options.process(application);
+  if (!options.parse(QApplication::arguments())) {
+    std::fprintf(stderr, "qvtdialog: %s\n", qPrintable(options.errorText()));
+    return kUsage;
+  }
+  options.process(application);  // --help and --version
   const bool isScript = options.isSet(picture);
   const QStringList processors = options.positionalArguments();
   if (processors.size() > 1) {

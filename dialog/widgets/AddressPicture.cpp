@@ -20,7 +20,7 @@ namespace qvtdialog {
 namespace {
 
 constexpr std::uint64_t kBlock = 0x10000;
-// What is longer is left out for the most part.
+// In a longer stretch without an edge of a region, the middle is left out.
 constexpr std::uint64_t kLongest = 8 * kBlock;
 
 QString address_text(std::uint64_t address) {

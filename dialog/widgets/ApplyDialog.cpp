@@ -22,7 +22,7 @@ using SdkDebugDialog::OnLoss;
 
 namespace {
 
-// Makes rows as high as their texts need, in columns as they are.
+// The heights of the rows, so that every text can be read at the present widths of the columns.
 class WrappingDelegate : public QStyledItemDelegate {
  public:
   explicit WrappingDelegate(QTreeView& view) : QStyledItemDelegate(&view), m_view(view) {}
