@@ -197,9 +197,9 @@ step_dialog() {
     --target SdkDebugDialog SdkDebugDialogDesignFile qvtcfg
   summarise "$what" "$beginning"
   build_dialog sanitize -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1" -DSDKDEBUGDIALOG_SANITIZE=address,undefined
-  export QT_QPA_PLATFORM=offscreen
+  export QT_QPA_PLATFORM=offscreen WALK_STEPS=350
   run_tests dialog-sanitize "dialog: test without a display"
-  export WALK_STEPS=300
+  export WALK_STEPS=100
   around=on_display
   run_tests dialog-sanitize "dialog: test on a display" -j 1
   unset QT_QPA_PLATFORM WALK_STEPS around
