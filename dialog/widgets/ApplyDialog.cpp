@@ -40,7 +40,8 @@ class WrappingDelegate : public QStyledItemDelegate {
 };
 
 void add_row(QTreeWidgetItem& parent, const QStringList& texts, const QColor& ink = {}) {
-  auto* const item = new QTreeWidgetItem(&parent, texts);
+  parent.addChild(new QTreeWidgetItem(texts));
+  QTreeWidgetItem* const item = parent.child(parent.childCount() - 1);
   for (int column = 0; column < texts.size(); ++column) {
     item->setToolTip(column, texts[column]);
     item->setTextAlignment(column, Qt::AlignTop | Qt::AlignLeft);

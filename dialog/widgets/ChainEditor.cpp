@@ -265,10 +265,11 @@ void ChainEditor::remove() {
 // Numbers stay with the places, and the debug device stays the same device.
 void ChainEditor::move(int by) {
   const int at = row();
-  if (!m_document || at < 0 || at + by < 0 || at + by >= m_model->rowCount()) return;
+  const int to = at + by;
+  if (!m_document || at < 0 || to < 0 || to >= m_model->rowCount()) return;
   Chain chain = m_model->chain();
   JtagOption& device = chain[static_cast<std::size_t>(at)];
-  JtagOption& other = chain[static_cast<std::size_t>(at + by)];
+  JtagOption& other = chain[static_cast<std::size_t>(to)];
   int debugDevice = m_document->configuration().record().debugDevice;
   if (debugDevice == device.devicenr) {
     debugDevice = other.devicenr;
@@ -278,7 +279,7 @@ void ChainEditor::move(int by) {
   std::swap(device.devicenr, other.devicenr);
   std::swap(device, other);
   assign(chain, debugDevice, tr("a device moved"));
-  select(at + by);
+  select(to);
 }
 
 bool ChainEditor::eventFilter(QObject* watched, QEvent* event) {
