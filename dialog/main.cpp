@@ -103,11 +103,14 @@ int run(QApplication& application) {
   }
   window.show();
   if (!isScript) return QApplication::exec();
-  QTimer::singleShot(500, &window, [&] {
+  QTimer pause;  // until all is painted
+  pause.setSingleShot(true);
+  QObject::connect(&pause, &QTimer::timeout, &window, [&] {
     const bool stored = window.grab().save(picturePath);
     if (!stored) fail(QCoreApplication::translate("main", "%1 cannot be written").arg(picturePath), true);
     QApplication::exit(stored ? 0 : 1);
   });
+  pause.start(500);
   return QApplication::exec();
 }
 

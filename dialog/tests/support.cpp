@@ -64,17 +64,19 @@ Design example(const QString& design) {
 }
 
 std::string design_of(int processors) {
-  std::string text = R"({"name": "huge", "instances": [)";
   const char* const kinds[] = {"ovrin", "ppc440_varnel5", "ppc405_varnel4", "hc9_cortexa9"};
   const char* const debug[] = {"odm", "jtag_ppc_bridge", "jtag_ppc_bridge"};
+  std::string text = R"({"name": "huge", "instances": [)";
+  const auto add = [&](std::initializer_list<std::string_view> parts) {
+    for (const std::string_view part : parts) text += part;
+  };
   for (int i = 0; i < processors; ++i) {
     const std::string number = std::to_string(i);
-    if (i != 0) text += ',';
-    text += R"({"name": "cpu_)" + number + R"(", "type": ")" + kinds[i % 4] +
-            R"(", "class": "processor", "peripherals": []})";
+    add({i != 0 ? "," : "", R"({"name": "cpu_)", number, R"(", "type": ")", kinds[i % 4],
+         R"(", "class": "processor", "peripherals": []})"});
     if (i % 4 == 3) continue;
-    text += R"(,{"name": "debug_)" + number + R"(", "type": ")" + debug[i % 4] +
-            R"(", "class": "debug", "processors": ["cpu_)" + number + R"("]})";
+    add({R"(,{"name": "debug_)", number, R"(", "type": ")", debug[i % 4],
+         R"(", "class": "debug", "processors": ["cpu_)", number, R"("]})"});
   }
   return text + "]}";
 }
