@@ -21,7 +21,6 @@ using SdkDebugDialog::Setting;
 using SdkDebugDialog::SettingKind;
 using SdkDebugDialog::settings;
 using SdkDebugDialog::SettingState;
-using SdkDebugDialog::value_text;
 
 namespace {
 

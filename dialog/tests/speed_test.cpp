@@ -79,7 +79,7 @@ class SpeedTest : public QObject {
 
  private:
   // Sanitizers and builds without optimisation are several times slower.
-  static int slowness() {
+  static qint64 slowness() {
 #if defined(__SANITIZE_ADDRESS__) || !defined(NDEBUG)
     return 8;
 #else
