@@ -184,6 +184,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" SCREEN);
   QApplication application(argc, argv);
   QApplication::setStyle(new qvtdialog::Style(QStringLiteral("Fusion")));
+  // The application deletes its style. NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
   QApplication::setCursorFlashTime(0);
   if (argc != 2) {
     std::fputs("usage: take_pictures FOLDER\n", stderr);

@@ -33,7 +33,6 @@
 namespace qvtdialog {
 
 using SdkDebugDialog::Configuration;
-using SdkDebugDialog::find_setting;
 
 namespace {
 
