@@ -86,9 +86,7 @@ ApplyDialog::ApplyDialog(std::vector<Document*> documents, QWidget* parent)
   m_failure->setObjectName(QStringLiteral("apply-failure"));
   m_failure->setWordWrap(true);
   m_failure->setTextFormat(Qt::PlainText);
-  QPalette palette = m_failure->palette();
-  palette.setColor(QPalette::WindowText, colour(Tone::error, palette));
-  m_failure->setPalette(palette);
+  set_ink(*m_failure, Tone::error);
   m_failure->hide();
 
   auto* const buttons = new QDialogButtonBox(this);

@@ -180,9 +180,7 @@ void ChainEditor::refresh() {
   m_picture->show_chain(configuration.chain(), debugDevice, shown(m_document->processor().name()));
   QStringList warnings;
   for (const std::string& warning : configuration.warnings(m_setting)) warnings += shown(warning);
-  QPalette inks = palette();
-  inks.setColor(QPalette::WindowText, colour(Tone::error, inks));
-  m_note->setPalette(inks);
+  set_ink(*m_note, Tone::error);
   m_note->setText(warnings.join(QLatin1Char('\n')));
   m_note->setVisible(!warnings.isEmpty());
   update_buttons();

@@ -109,6 +109,12 @@ QColor background(Tone tone, const QPalette& palette) {
   return mixed(palette.color(QPalette::Base), wish(tone), is_dark(palette) ? 0.3 : 0.18);
 }
 
+void set_ink(QWidget& label, Tone tone) {
+  QPalette palette = label.palette();
+  palette.setColor(QPalette::WindowText, colour(tone, palette));
+  label.setPalette(palette);
+}
+
 double contrast(const QColor& a, const QColor& b) {
   const double la = luminance(a);
   const double lb = luminance(b);

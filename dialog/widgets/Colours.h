@@ -8,6 +8,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <QWidget>
 
 namespace qvtdialog {
 
@@ -29,6 +30,9 @@ Tone tone_of(SdkDebugDialog::Severity severity);
 
 // For areas behind a text.
 QColor background(Tone tone, const QPalette& palette);
+
+// Writes the text of a label in a colour that fits its palette as it is now.
+void set_ink(QWidget& label, Tone tone);
 
 // From 1 to 21: 21 is black on white.
 double contrast(const QColor& a, const QColor& b);

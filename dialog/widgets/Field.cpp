@@ -219,20 +219,18 @@ void Field::set_editor_content() {
 void Field::set_note() {
   const auto& content = *m_content;
   QString text = content.error;
-  QColor ink_colour = colour(Tone::error, m_note->palette());
+  Tone tone = Tone::error;
   if (text.isEmpty()) {
     text = content.warning;
-    ink_colour = colour(Tone::warning, m_note->palette());
+    tone = Tone::warning;
   }
   if (text.isEmpty() && !content.state.changeable) {
     text = translated(content.state.whyNot);
-    ink_colour = colour(Tone::quiet, m_note->palette());
+    tone = Tone::quiet;
   }
   m_note->setText(text);
   m_note->setVisible(!text.isEmpty() && m_isShown);
-  QPalette palette = m_note->palette();
-  palette.setColor(QPalette::WindowText, ink_colour);
-  m_note->setPalette(palette);
+  set_ink(*m_note, tone);
   // The text itself is marked too.
   QPalette ink;
   if (!content.error.isEmpty()) ink.setColor(QPalette::Text, colour(Tone::error, ink));

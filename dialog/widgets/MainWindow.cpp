@@ -303,9 +303,7 @@ void MainWindow::refresh_command() {
   m_findingList->show_findings(m_findings);
   m_commandNote->setText(content ? QString() : shown(content.error().message));
   m_commandNote->setVisible(!content);
-  QPalette palette = m_commandNote->palette();
-  palette.setColor(QPalette::WindowText, colour(Tone::error, palette));
-  m_commandNote->setPalette(palette);
+  set_ink(*m_commandNote, Tone::error);
 }
 
 void MainWindow::refresh_banner() {
