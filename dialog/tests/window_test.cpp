@@ -49,6 +49,17 @@ struct Opened {
   Person* operator->() { return person.get(); }
   QString message() { return person->find<QLabel>(QStringLiteral("message")).text(); }
   bool has_banner() { return person->find(QStringLiteral("banner")).isVisible(); }
+  // A cell of the chain, opened with F2, its text selected.
+  QLineEdit* open_cell(int row, int column) {
+    auto& table = person->find<QTableView>(QStringLiteral("chain-table"));
+    table.setFocus();
+    table.setCurrentIndex(table.model()->index(row, column));
+    QTest::keyClick(&table, Qt::Key_F2);
+    auto* const cell = table.findChild<QLineEdit*>(QStringLiteral("cell"));
+    if (cell == nullptr) qFatal("no cell is open");
+    cell->selectAll();
+    return cell;
+  }
   CommandView& command() { return person->find<CommandView>(QStringLiteral("command")); }
 
   Folder folder;
@@ -393,12 +404,7 @@ class WindowTest : public QObject {
     QCOMPARE(chain().size(), std::size_t{3});
     auto& table = opened->find<QTableView>(QStringLiteral("chain-table"));
     const auto type = [&](int row, int column, const char* text) {
-      table.setFocus();
-      table.setCurrentIndex(table.model()->index(row, column));
-      QTest::keyClick(&table, Qt::Key_F2);
-      auto* const cell = table.findChild<QLineEdit*>(QStringLiteral("cell"));
-      QVERIFY(cell != nullptr);
-      cell->selectAll();
+      auto* const cell = opened.open_cell(row, column);
       QTest::keyClicks(cell, QString::fromLatin1(text));
       QTest::keyClick(cell, Qt::Key_Return);
       QTest::qWait(0);  // the cell is closed behind the key
@@ -432,12 +438,7 @@ class WindowTest : public QObject {
     Opened opened;
     opened->open_tab_of(QStringLiteral("cpu-jtag"));
     opened->click(QStringLiteral("device-add"));
-    auto& table = opened->find<QTableView>(QStringLiteral("chain-table"));
-    table.setFocus();
-    table.setCurrentIndex(table.model()->index(0, 3));
-    QTest::keyClick(&table, Qt::Key_F2);
-    auto* const cell = table.findChild<QLineEdit*>(QStringLiteral("cell"));
-    cell->selectAll();
+    auto* const cell = opened.open_cell(0, 3);
     QTest::keyClicks(cell, QStringLiteral("x"));
     QVERIFY(!opened->note(QStringLiteral("devices")).isEmpty());
     QTest::keyClick(cell, Qt::Key_Return);
@@ -457,12 +458,7 @@ class WindowTest : public QObject {
     Opened opened;
     opened->open_tab_of(QStringLiteral("cpu-jtag"));
     opened->click(QStringLiteral("device-add"));
-    auto& table = opened->find<QTableView>(QStringLiteral("chain-table"));
-    table.setFocus();
-    table.setCurrentIndex(table.model()->index(0, 1));
-    QTest::keyClick(&table, Qt::Key_F2);
-    auto* const cell = table.findChild<QLineEdit*>(QStringLiteral("cell"));
-    cell->selectAll();
+    auto* const cell = opened.open_cell(0, 1);
     QTest::keyClicks(cell, QStringLiteral("two words"));
     QVERIFY(!opened->note(QStringLiteral("devices")).isEmpty());
     opened->find(QStringLiteral("filter")).setFocus();
@@ -482,12 +478,7 @@ class WindowTest : public QObject {
     Opened opened;
     opened->open_tab_of(QStringLiteral("cpu-jtag"));
     opened->click(QStringLiteral("device-add"));
-    auto& table = opened->find<QTableView>(QStringLiteral("chain-table"));
-    table.setFocus();
-    table.setCurrentIndex(table.model()->index(0, 1));
-    QTest::keyClick(&table, Qt::Key_F2);
-    auto* const cell = table.findChild<QLineEdit*>(QStringLiteral("cell"));
-    cell->selectAll();
+    auto* const cell = opened.open_cell(0, 1);
     QTest::keyClicks(cell, QStringLiteral("prom32"));
     QVERIFY(opened->apply());
     QVERIFY(content_of(kFile)->find("prom32") != std::string::npos);
